@@ -1,0 +1,93 @@
+#pragma once
+
+#include "corvexhook/class.h"
+#include "corvexhook/objectname.h"
+
+#include <QString>
+
+#include <map>
+
+namespace Corvex {
+
+/// Base of all delegates. A delegate serves one class and all its subclasses that have none of their own.
+class CORVEXHOOK_EXPORT Delegate {
+public:
+  enum Type {
+    ObjectHierarchyDelegateType = 0,
+    CastDelegateType = 5,
+    ComparisonDelegateType = 6,
+    DumpObjectTreeDelegateType = 9,
+  };
+
+  /// Registers the delegate; the destructor unregisters it.
+  Delegate(const QString& className, Type type);
+  virtual ~Delegate();
+
+  const QString& className() const { return m_className; }
+  Type type() const { return m_type; }
+
+  Delegate(const Delegate&) = delete;
+  Delegate& operator=(const Delegate&) = delete;
+
+private:
+  QString m_className;
+  Type m_type;
+};
+
+class CORVEXHOOK_EXPORT DelegateFactory {
+public:
+  static DelegateFactory* self();
+  /// The delegate of the class or of its nearest super class; null without any.
+  Delegate* delegate(const Class* cls, Delegate::Type type) const;
+
+private:
+  friend class Delegate;
+  void add(Delegate* delegate);
+  void remove(Delegate* delegate);
+
+  // The last one registered for a class answers.
+  std::multimap<std::pair<QString, int>, Delegate*> m_delegates;
+};
+
+/// Walks and queries a tree of objects.
+class CORVEXHOOK_EXPORT ObjectHierarchyDelegate : public Delegate {
+public:
+  explicit ObjectHierarchyDelegate(const QString& className) : Delegate(className, ObjectHierarchyDelegateType) {}
+  ~ObjectHierarchyDelegate() override;
+
+  virtual int numChildren(SharedPtr<Object> object) const = 0;
+  virtual SharedPtr<Object> child(SharedPtr<Object> object, int index) const = 0;
+  virtual SharedPtr<Object> childByName(SharedPtr<Object> object, const QString& name) const = 0;
+  virtual SharedPtr<Object> objectByQualifiedName(SharedPtr<Object> parent, const ObjectName& name) const;
+  virtual QString name(SharedPtr<Object> object) const = 0;
+  virtual QString qualifiedName(SharedPtr<Object> object) const = 0;
+  virtual ObjectList children(SharedPtr<Object> object) const = 0;
+  virtual SharedPtr<Object> parent(SharedPtr<Object> object) const;
+  virtual int wrapperType() const = 0;
+};
+
+class CORVEXHOOK_EXPORT CastDelegate : public Delegate {
+public:
+  explicit CastDelegate(const QString& className) : Delegate(className, CastDelegateType) {}
+  ~CastDelegate() override;
+
+  virtual bool canCastTo(const Class* target) const = 0;
+  virtual bool canCastFrom(const Class* source) const = 0;
+  virtual SharedPtr<Object> castTo(SharedPtr<Object> object, const Class* target) const = 0;
+  virtual SharedPtr<Object> castFrom(SharedPtr<Object> object, const Class* target) const = 0;
+};
+
+class CORVEXHOOK_EXPORT ComparisonDelegate : public Delegate {
+public:
+  explicit ComparisonDelegate(const QString& className) : Delegate(className, ComparisonDelegateType) {}
+  ~ComparisonDelegate() override;
+
+  /// True when the two are equal.
+  virtual bool compare(SharedPtr<Object> a, SharedPtr<Object> b) const = 0;
+  virtual bool sameObjects(SharedPtr<Object> a, SharedPtr<Object> b) const = 0;
+};
+
+/// The text of an object through the cast delegate of its class; empty without one.
+CORVEXHOOK_EXPORT QString castToString(const SharedPtr<Object>& object);
+
+}  // namespace Corvex

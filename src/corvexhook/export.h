@@ -1,0 +1,3 @@
+#pragma once
+
+#define CORVEXHOOK_EXPORT __attribute__((visibility("default")))

@@ -1,0 +1,21 @@
+#include "corvexhook/hook.h"
+
+namespace Corvex {
+
+namespace {
+
+Hook theHook;
+
+}  // namespace
+
+NativeInterface::~NativeInterface() = default;
+
+Hook* Hook::hook = &theHook;
+
+void Hook::send(int kind, const QString& text, const ArgumentList& arguments) {
+  if (m_receiver) {
+    m_receiver(kind, text, arguments);
+  }
+}
+
+}  // namespace Corvex

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "corvexhook/export.h"
+#include "corvexhook/geometry.h"
+
+#include <QString>
+#include <QVariantList>
+
+#include <functional>
+
+namespace Corvex {
+
+/// Arguments of a message to the test runner.
+using ArgumentList = QVariantList;
+
+/// Native input at the screen. The embedding process supplies one where the machine has a screen to click on.
+class CORVEXHOOK_EXPORT NativeInterface {
+public:
+  virtual ~NativeInterface();
+  virtual void pointerClick(MouseButton::Value button, Point<CoordinateSystem::Screen> position) = 0;
+  virtual void typeKeys(const QString& text) = 0;
+};
+
+/// The process-wide road to the test runner.
+class CORVEXHOOK_EXPORT Hook {
+public:
+  using Receiver = std::function<void(int, const QString&, const ArgumentList&)>;
+
+  /// Valid from the start of the program.
+  static Hook* hook;
+
+  /// Hands a message to the receiver; without one it is dropped.
+  void send(int kind, const QString& text, const ArgumentList& arguments);
+  void setReceiver(const Receiver& receiver) { m_receiver = receiver; }
+
+  /// Null where nothing native can be done.
+  NativeInterface* nativeInterface() const { return m_nativeInterface; }
+  void setNativeInterface(NativeInterface* nativeInterface) { m_nativeInterface = nativeInterface; }
+
+private:
+  Receiver m_receiver;
+  NativeInterface* m_nativeInterface = nullptr;
+};
+
+}  // namespace Corvex

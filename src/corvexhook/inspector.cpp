@@ -1,0 +1,208 @@
+#include "corvexhook/inspector.h"
+
+#include "corvexhook/arrayclass.h"
+#include "corvexhook/delegate.h"
+#include "corvexhook/objectmap.h"
+#include "corvexhook/objectname.h"
+#include "corvexhook/valueclasses.h"
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+
+namespace Corvex {
+
+namespace {
+
+// Long enough not to keep the page busy, short enough not to be noticed.
+const int attemptIntervalMs = 20;
+
+struct PrimitiveRow {
+  PrimitiveType::Id id;
+  const char* name;
+};
+
+const PrimitiveRow primitiveRows[] = {
+    {PrimitiveType::Int, "int"},       {PrimitiveType::UInt, "unsigned int"}, {PrimitiveType::Bool, "bool"},
+    {PrimitiveType::String, "string"}, {PrimitiveType::Double, "double"},     {PrimitiveType::Void, "void"},
+};
+
+}  // namespace
+
+Inspector* Inspector::self() {
+  // Never destroyed: wrapped objects may be released at any time.
+  static auto* inspector = new Inspector;
+  static const bool complete = [] {
+    createValueClasses(inspector->globalNamespace());
+    return true;
+  }();
+  Q_UNUSED(complete)
+  return inspector;
+}
+
+Inspector::Inspector() : m_namespace(new Namespace) {
+  m_globalClass = new GlobalClass(m_namespace.get());
+  for (const PrimitiveRow& row : primitiveRows) {
+    new PrimitiveClass(row.name, m_namespace.get(), row.id);
+  }
+  new ArrayClass(m_namespace.get());
+}
+
+Inspector::~Inspector() = default;
+
+void Inspector::addUnmatchedProperty(const QString& objectName, const QString& property) {
+  QStringList& properties = m_unmatched[objectName];
+  if (!properties.contains(property)) {
+    properties << property;
+  }
+}
+
+void Inspector::removeUnmatchedProperties(const QString& objectName) { m_unmatched.remove(objectName); }
+
+SharedPtr<Object> Inspector::waitForObject(const QString& name) { return findObject(name, m_defaultTimeout); }
+
+SharedPtr<Object> Inspector::findObject(const QString& name, int timeoutMs) {
+  const SharedPtr<Object> found = timeoutMs > 0 ? waitUntilReady(name, timeoutMs) : lookup(name);
+  if (!found && !hasScriptError()) {
+    reportScriptError(notFoundError(name));
+  }
+  return found;
+}
+
+const Class* Inspector::primitiveType(int id) const {
+  for (const PrimitiveRow& row : primitiveRows) {
+    if (row.id == id) {
+      return m_namespace->getClass(QString::fromLatin1(row.name));
+    }
+  }
+  return nullptr;
+}
+
+const Class* Inspector::classByName(const QString& name) const { return m_namespace->getClass(name); }
+
+static SharedPtr<Object> wrapPrimitive(const Inspector* inspector, PrimitiveType::Id id, const QVariant& value) {
+  return new PrimitiveObject(static_cast<const PrimitiveClass*>(inspector->primitiveType(id)), value);
+}
+
+SharedPtr<Object> Inspector::wrapInt(int value) const { return wrapPrimitive(this, PrimitiveType::Int, value); }
+
+SharedPtr<Object> Inspector::wrapUInt(unsigned int value) const {
+  return wrapPrimitive(this, PrimitiveType::UInt, value);
+}
+
+SharedPtr<Object> Inspector::wrapBool(bool value) const { return wrapPrimitive(this, PrimitiveType::Bool, value); }
+
+SharedPtr<Object> Inspector::wrapDouble(double value) const {
+  return wrapPrimitive(this, PrimitiveType::Double, value);
+}
+
+SharedPtr<Object> Inspector::wrapString(const QString& value) const {
+  return wrapPrimitive(this, PrimitiveType::String, value);
+}
+
+SharedPtr<Object> Inspector::nullObject(const Class* cls) const { return new Object(cls, nullptr); }
+
+SharedPtr<Object> Inspector::wrapVoid() const { return wrapPrimitive(this, PrimitiveType::Void, QVariant()); }
+
+void Inspector::reportScriptError(const QString& text) {
+  if (m_scriptError.isEmpty()) {
+    m_scriptError = text;
+  }
+}
+
+QString Inspector::takeScriptError() { return std::exchange(m_scriptError, QString()); }
+
+bool Inspector::reportTrouble() {
+  const QString trouble = m_services.trouble ? m_services.trouble() : QString();
+  if (!trouble.isEmpty()) {
+    reportScriptError(trouble);
+  }
+  return !trouble.isEmpty();
+}
+
+SharedPtr<Object> Inspector::lookup(const QString& name) {
+  if (reportTrouble()) {
+    return nullptr;
+  }
+  const QString mapped = ObjectMap::self()->realName(name);
+  const QString realName = mapped.isEmpty() ? name : mapped;
+  if (mapped.isEmpty() && name.startsWith(QLatin1Char(':'))) {
+    reportScriptError(
+        QStringLiteral("The symbolic name '%1' is not in the object map. Add it there, or use a real name.").arg(name));
+    return nullptr;
+  }
+  const QString parseError = ObjectName(realName).parseError();
+  if (realName.isEmpty() || !parseError.isEmpty()) {
+    reportScriptError(QStringLiteral("Invalid object name '%1': %2.")
+                          .arg(realName, realName.isEmpty() ? QStringLiteral("it is empty") : parseError));
+    return nullptr;
+  }
+  const SharedPtr<Object> found = lookupInRoots(realName);
+  // A name that was printed by way of the wrapper's unescape has "&amp;" for each ampersand.
+  const QLatin1String entity("&amp;");
+  if (found || hasScriptError() || !realName.contains(entity)) {
+    return found;
+  }
+  return lookupInRoots(QString(realName).replace(entity, QLatin1String("&")));
+}
+
+SharedPtr<Object> Inspector::lookupInRoots(const QString& realName) const {
+  const std::vector<SharedPtr<Object>> roots = m_roots;
+  for (const SharedPtr<Object>& root : roots) {
+    const auto* delegate = dynamic_cast<const ObjectHierarchyDelegate*>(
+        DelegateFactory::self()->delegate(root->objectClass(), Delegate::ObjectHierarchyDelegateType));
+    const SharedPtr<Object> found =
+        delegate ? delegate->objectByQualifiedName(root, ObjectName(realName)) : SharedPtr<Object>();
+    if (found || hasScriptError()) {
+      return found;
+    }
+  }
+  return nullptr;
+}
+
+SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) {
+  QElapsedTimer timer;
+  timer.start();
+  bool wasFound = false;
+  do {
+    const SharedPtr<Object> found = lookup(name);
+    if (hasScriptError()) {
+      return nullptr;
+    }
+    if (found) {
+      const FunctionCallResult<bool> ready =
+          m_services.isReady ? m_services.isReady(found) : FunctionCallResult<bool>::success(true);
+      if (ready.value && !ready.failed()) {
+        return found;
+      }
+      wasFound = true;
+    } else {
+      wasFound = false;
+    }
+    if (m_services.sleep) {
+      m_services.sleep(attemptIntervalMs);
+    }
+  } while (timer.elapsed() < timeoutMs);
+  if (wasFound) {
+    reportScriptError(
+        QStringLiteral("The object '%1' was found, but was not ready within %2 ms: it is hidden or disabled.")
+            .arg(name)
+            .arg(timeoutMs));
+  }
+  return nullptr;
+}
+
+QString Inspector::notFoundError(const QString& name) const {
+  const QString mapped = ObjectMap::self()->realName(name);
+  const QStringList unmatched = m_unmatched.value(mapped.isEmpty() ? name : mapped);
+  const QString reason = unmatched.isEmpty()
+                             ? QString()
+                             : QStringLiteral(" No element matched: %1.").arg(unmatched.join(QLatin1String(", ")));
+  return QStringLiteral("Object '%1' not found.%2").arg(name, reason);
+}
+
+void Inspector::removeRootObject(const SharedPtr<Object>& root) {
+  m_roots.erase(std::remove(m_roots.begin(), m_roots.end(), root), m_roots.end());
+}
+
+}  // namespace Corvex

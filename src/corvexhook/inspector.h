@@ -1,0 +1,102 @@
+#pragma once
+
+#include "corvexhook/class.h"
+#include "corvexhook/functioncallresult.h"
+#include "corvexhook/primitives.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace Corvex {
+
+/// What the framework needs of the process that embeds it.
+struct HostServices {
+  /// Whether an object can take input now. Without it every object is ready.
+  std::function<FunctionCallResult<bool>(const SharedPtr<Object>&)> isReady;
+  /// Lets the given milliseconds pass while events are served, or less where there is trouble.
+  std::function<void(int milliseconds)> sleep;
+  /// Why nothing can be looked up now, as a sentence; an empty text when all is well.
+  std::function<QString()> trouble;
+};
+
+/// The framework's one meeting point: classes, wrapping of values, object lookup and script errors. One thread.
+class CORVEXHOOK_EXPORT Inspector {
+public:
+  static Inspector* self();
+  virtual ~Inspector();
+
+  GlobalClass* globalClass() const { return m_globalClass; }
+  Namespace* globalNamespace() const { return m_namespace.get(); }
+  /// Script text that the framework adds to what runs in a page.
+  QString extensionCode() const { return m_extensionCode; }
+  void setExtensionCode(const QString& code) { m_extensionCode = code; }
+
+  /// Remembers that no element had `property` of the name, for the sentence of a failed lookup.
+  void addUnmatchedProperty(const QString& objectName, const QString& property);
+  void removeUnmatchedProperties(const QString& objectName);
+  QStringList unmatchedProperties(const QString& objectName) const { return m_unmatched.value(objectName); }
+
+  /// Waits until the object is found and ready, at most the default time.
+  virtual SharedPtr<Object> waitForObject(const QString& name);
+  /// One attempt with a timeout of 0, else attempts until the object is found and ready or the milliseconds are over.
+  /// An object that isn't there is reported to the script.
+  virtual SharedPtr<Object> findObject(const QString& name, int timeoutMs);
+  /// See `PrimitiveType`; null for an unknown number.
+  virtual const Class* primitiveType(int id) const;
+  virtual const Class* classByName(const QString& name) const;
+  virtual SharedPtr<Object> wrapInt(int value) const;
+  virtual SharedPtr<Object> wrapUInt(unsigned int value) const;
+  virtual SharedPtr<Object> wrapBool(bool value) const;
+  virtual SharedPtr<Object> wrapDouble(double value) const;
+  virtual SharedPtr<Object> wrapString(const QString& value) const;
+  virtual SharedPtr<Object> nullObject(const Class* cls) const;
+  virtual SharedPtr<Object> wrapVoid() const;
+  /// Aborts the script call with this text. The first error of a call stays; the caller returns a null pointer behind
+  /// it.
+  virtual void reportScriptError(const QString& text);
+
+  bool hasScriptError() const { return !m_scriptError.isEmpty(); }
+  /// The error of the running script call, which is none from then on.
+  QString takeScriptError();
+
+  /// One silent attempt: null when the object isn't there. A symbolic name gives its real one first; a name that cannot
+  /// be parsed or a failed lookup is reported to the script.
+  SharedPtr<Object> lookup(const QString& name);
+  /// The sentence for a name that was not found.
+  QString notFoundError(const QString& name) const;
+
+  /// Where lookups start; asked in this order.
+  void addRootObject(const SharedPtr<Object>& root) { m_roots.push_back(root); }
+  void removeRootObject(const SharedPtr<Object>& root);
+  const std::vector<SharedPtr<Object>>& rootObjects() const { return m_roots; }
+
+  void setHostServices(const HostServices& services) { m_services = services; }
+  const HostServices& hostServices() const { return m_services; }
+  /// Milliseconds that `waitForObject` waits, 20000 at first.
+  void setDefaultTimeout(int milliseconds) { m_defaultTimeout = milliseconds; }
+  int defaultTimeout() const { return m_defaultTimeout; }
+
+protected:
+  Inspector();
+
+private:
+  bool reportTrouble();
+  SharedPtr<Object> lookupInRoots(const QString& realName) const;
+  SharedPtr<Object> waitUntilReady(const QString& name, int timeoutMs);
+
+  std::unique_ptr<Namespace> m_namespace;
+  GlobalClass* m_globalClass = nullptr;
+  QString m_extensionCode;
+  QHash<QString, QStringList> m_unmatched;
+  QString m_scriptError;
+  std::vector<SharedPtr<Object>> m_roots;
+  HostServices m_services;
+  int m_defaultTimeout = 20000;
+};
+
+}  // namespace Corvex

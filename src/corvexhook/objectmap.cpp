@@ -1,0 +1,57 @@
+#include "corvexhook/objectmap.h"
+
+#include "corvexhook/objectname.h"
+
+#include <QFile>
+#include <QTextStream>
+
+namespace Corvex {
+
+namespace {
+
+QString lineError(const QString& line, QString* symbolic, QString* real) {
+  const int tab = line.indexOf(QLatin1Char('\t'));
+  if (!line.startsWith(QLatin1Char(':')) || tab < 2) {
+    return QStringLiteral("expected a symbolic name that begins with ':', a tab, and the real name");
+  }
+  *symbolic = line.left(tab);
+  *real = line.mid(tab + 1).trimmed();
+  if (real->isEmpty()) {
+    return QStringLiteral("the real name behind the tab is missing");
+  }
+  return ObjectName(*real).parseError();
+}
+
+}  // namespace
+
+ObjectMap* ObjectMap::self() {
+  static ObjectMap map;
+  return &map;
+}
+
+QString ObjectMap::load(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    return QStringLiteral("Cannot read the object map '%1': %2.").arg(path, file.errorString());
+  }
+  QTextStream stream(&file);
+  stream.setCodec("UTF-8");
+  QHash<QString, QString> names = m_names;
+  for (int number = 1; !stream.atEnd(); ++number) {
+    const QString line = stream.readLine();
+    if (line.trimmed().isEmpty() || line.startsWith(QLatin1Char('#'))) {
+      continue;
+    }
+    QString symbolic;
+    QString real;
+    const QString error = lineError(line, &symbolic, &real);
+    if (!error.isEmpty()) {
+      return QStringLiteral("%1:%2: %3.").arg(path).arg(number).arg(error);
+    }
+    names.insert(symbolic, real);
+  }
+  m_names = names;
+  return QString();
+}
+
+}  // namespace Corvex
