@@ -1,0 +1,73 @@
+// Gives: __corvex__node, reads of node properties that the fields of a form or the names in a document cannot hide.
+// Needs: nothing.
+
+var __corvex__node = (function () {
+  // A hidden property reads as a field, which is an object. Plain values are taken as they come, so that the
+  // records which extensions pass off as nodes work, too.
+  function reader(interfaceName, property) {
+    var getter = null;
+    try {
+      getter = Object.getOwnPropertyDescriptor(window[interfaceName].prototype, property).get;
+    } catch (e) {
+      // An engine that keeps these properties on the nodes themselves.
+    }
+    return function (node) {
+      var value = node[property];
+      if (!getter || !value || (typeof value != "object" && typeof value != "function")) {
+        return value;
+      }
+      try {
+        return getter.call(node);
+      } catch (e) {
+        return value;
+      }
+    };
+  }
+
+  var readers = {};
+  function addReaders(interfaceName, properties) {
+    for (var i = 0; i < properties.length; ++i) {
+      readers[properties[i]] = reader(interfaceName, properties[i]);
+    }
+  }
+  addReaders("Node", ["nodeType", "nodeName", "parentNode", "ownerDocument", "firstChild", "lastChild", "nextSibling",
+    "previousSibling", "childNodes"]);
+  addReaders("Element", ["tagName", "id", "className", "shadowRoot"]);
+  addReaders("HTMLElement", ["offsetParent", "onclick", "onmousedown"]);
+  return readers;
+})();
+
+// By its shape: instanceof fails for a shadow root of another frame.
+function __corvex__isShadowRoot(node) {
+  return !!node && __corvex__node.nodeType(node) === 11 && !!node.host;
+}
+
+function __corvex__isDocumentNode(elem) {
+  // Old Internet Explorer has no such constant.
+  var nodeType = __corvex__node.nodeType(elem);
+  return nodeType === elem.DOCUMENT_NODE || nodeType === 9;
+}
+
+function __corvex__getDocumentForNode(node) {
+  if (!node) {
+    return null;
+  }
+  var nodeType = __corvex__node.nodeType(node);
+  if (nodeType === 9) {
+    return node;
+  }
+  return nodeType === 1 ? __corvex__node.ownerDocument(node) : null;
+}
+
+function __corvex__getDocumentForEvent(e) {
+  return __corvex__getDocumentForNode(e.target) || __corvex__getDocumentForNode(e.srcElement);
+}
+
+function __corvex__findUsableParentElement(elem) {
+  var node = elem;
+  while (node && !__corvex__isDocumentNode(node) &&
+         (!__corvex__node.tagName(node) || __corvex__node.nodeType(node) !== 1)) {
+    node = __corvex__node.parentNode(node);
+  }
+  return node;
+}

@@ -1,0 +1,199 @@
+// Gives: names of windows and frames (contexts), and the way back from a name to its window.
+// Needs: the state globals, getAllFrames.
+
+// 1-based; 0 where frm is no frame of w.
+function __corvex__frameInWindow(frm, w) {
+  var frames = window.top.__corvex.getAllFrames(w.document);
+  for (var i = 0; i < frames.length; ++i) {
+    if (frames[i] === frm) {
+      return i + 1;
+    }
+  }
+  return 0;
+}
+
+// The last path element of a location, without query, fragment and parameters.
+function __corvex__pageOfLocation(location) {
+  var s = location;
+  if (s.indexOf("data:") === 0) {
+    s = "/top";
+  }
+  if (s !== "" && s.charAt(s.length - 1) == "/") {
+    s += "index.html";
+  }
+  var query = s.indexOf("?");
+  s = s.substring(s.lastIndexOf("/", query == -1 ? s.length - 1 : query) + 1);
+  return s.split("?")[0].split("#")[0].split(";")[0];
+}
+
+// The empty text on any failure. It is not escaped here: look-ups compare against the unescaped text.
+function __corvex__contextOf(w, noUnify) {
+  try {
+    if (!w || w.closed) {
+      return "";
+    }
+    var framePart = "";
+    try {
+      while (w.parent && w.parent != w) {
+        framePart = ".FRAME" + __corvex__frameInWindow(w.frameElement, w.parent) + framePart;
+        w = w.parent;
+      }
+    } catch (e) {
+      // A parent of another origin ends the walk.
+    }
+    var page = __corvex__pageOfLocation(String(w.location));
+    if (noUnify !== true) {
+      var count = __corvex__findContext(page, w);
+      if (count > 1) {
+        page += "<" + count + ">";
+      }
+    }
+    return page + framePart;
+  } catch (e) {
+    return "";
+  }
+}
+
+function __corvex__contextOfForUrl(w) {
+  return escape(__corvex__contextOf(w));
+}
+
+// How many top-level windows have this name, up to w where w is among them.
+function __corvex__findContext(ctx, w) {
+  var count = 0;
+  var windows = [window].concat(window.__corvex__windows);
+  for (var i = 0; i < windows.length; ++i) {
+    if (__corvex__contextOf(windows[i], true) == ctx) {
+      ++count;
+      if (windows[i] == w) {
+        return count;
+      }
+    }
+  }
+  return count;
+}
+
+function __corvex__isUsableContext(w) {
+  try {
+    return !!w && !w.closed && __corvex__contextOf(w) !== "";
+  } catch (e) {
+    return false;
+  }
+}
+
+function __corvex__contextList() {
+  var list = [window];
+  for (var i = 0; i < window.__corvex__windows.length; ++i) {
+    if (__corvex__isUsableContext(window.__corvex__windows[i])) {
+      list.push(window.__corvex__windows[i]);
+    }
+  }
+  return list;
+}
+
+function __corvex__findDocument(w, doc) {
+  var frames = window.top.__corvex.getAllFrames(w.document);
+  for (var i = 0; i < frames.length; ++i) {
+    try {
+      var frameWindow = frames[i].contentWindow;
+      if (frameWindow.document === doc) {
+        return frameWindow;
+      }
+      var nested = __corvex__findDocument(frameWindow, doc);
+      if (nested) {
+        return nested;
+      }
+    } catch (e) {
+      // A frame of another origin.
+    }
+  }
+  return undefined;
+}
+
+function __corvex__currentContext(o) {
+  var doc = __corvex__getDocumentForNode(o);
+  if (!doc) {
+    return window;
+  }
+  var contexts = __corvex__contextList();
+  for (var i = 0; i < contexts.length; ++i) {
+    try {
+      if (contexts[i].document === doc) {
+        return contexts[i];
+      }
+      var frameWindow = __corvex__findDocument(contexts[i], doc);
+      if (frameWindow) {
+        return frameWindow;
+      }
+    } catch (e) {
+      // A window that went to another origin.
+    }
+  }
+  return window;
+}
+
+function __corvex__findContextWindow(w, ctx) {
+  try {
+    var frames = window.top.__corvex.getAllFrames(w.document);
+    for (var i = 0; i < frames.length; ++i) {
+      var frameWindow = frames[i].contentWindow;
+      if (__corvex__contextOf(frameWindow) == ctx) {
+        return frameWindow;
+      }
+      var nested = __corvex__findContextWindow(frameWindow, ctx);
+      if (nested) {
+        return nested;
+      }
+    }
+  } catch (e) {
+    // What cannot be read holds no context.
+  }
+  return undefined;
+}
+
+function __corvex__findContext2(ctx) {
+  if (__corvex__contextOf(window) == ctx) {
+    return window;
+  }
+  var i;
+  for (i = 0; i < window.__corvex__windows.length; ++i) {
+    var w = window.__corvex__windows[i];
+    if (w && !w.closed && __corvex__contextOf(w) == ctx) {
+      return w;
+    }
+  }
+  var found = __corvex__findContextWindow(window, ctx);
+  var contexts = __corvex__contextList();
+  for (i = 0; !found && i < contexts.length; ++i) {
+    if (typeof contexts[i] != "function") {
+      found = __corvex__findContextWindow(contexts[i], ctx);
+    }
+  }
+  return found;
+}
+
+function __corvex__hasContext(ctx) {
+  try {
+    return !!__corvex__findContext2(ctx);
+  } catch (e) {
+    return false;
+  }
+}
+
+// context: as in a hierarchical name, where "|" stands for ".". Undefined where unknown names are to fail.
+function __corvex__documentOfContext(context) {
+  var ctx = context.replace(/\|/g, ".");
+  var w = window.__corvex__ctxwin;
+  if (ctx !== "") {
+    if (__corvex__hasContext(ctx)) {
+      w = __corvex__findContext2(ctx);
+    } else if (window.top.__corvex__throwErrorForUnknownContextName) {
+      return undefined;
+    }
+  }
+  return w.document;
+}
+
+function __corvex__isPageLoaded() {
+  return document.readyState == "complete";
+}

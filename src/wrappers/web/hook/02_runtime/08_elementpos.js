@@ -1,0 +1,29 @@
+// Gives: the position of an element in its page, from walking its offset parents.
+// Needs: node property reads.
+
+function __corvex__tableBorder(table) {
+  var border = parseInt(table.border, 10);
+  if (border > 0) {
+    return border;
+  }
+  return isNaN(border) && table.hasAttribute("frame") ? 1 : 0;
+}
+
+function __corvex__borderInOffset(o) {
+  var tagName = __corvex__node.tagName(o);
+  if (window.__corvex__ie) {
+    return tagName == "TABLE" || tagName == "BODY" ? { x: 0, y: 0 } : { x: o.clientLeft, y: o.clientTop };
+  }
+  var border = tagName == "TABLE" ? __corvex__tableBorder(o) : 0;
+  return { x: border, y: border };
+}
+
+function __corvex__elementPos(o) {
+  var pos = { x: 0, y: 0 };
+  for (var elem = o; elem; elem = __corvex__node.offsetParent(elem)) {
+    var border = __corvex__borderInOffset(elem);
+    pos.x += elem.offsetLeft + border.x;
+    pos.y += elem.offsetTop + border.y;
+  }
+  return pos;
+}

@@ -1,0 +1,79 @@
+// Gives: top.__corvex__globalObjectRefStore, and references of page objects into it.
+// Needs: nothing.
+
+top.__corvex__globalObjectRefStore = [];
+
+// The place of each object of a store, kept beside the store itself: others may append to the store or put another in
+// its place. A place is only a guess until the entry was compared.
+var __corvex__refPlaces = (function () {
+  // Taken now: a page may replace them later. One that did so before is not trusted.
+  var isNative = typeof Map == "function" && Function.prototype.toString.call(Map).indexOf("[native code]") != -1;
+  var NativeMap = isNative ? Map : null;
+  var nativeGet = NativeMap && NativeMap.prototype.get;
+  var nativeSet = NativeMap && NativeMap.prototype.set;
+  var store = null;
+  var places = null;
+  var known = 0;
+
+  function start(newStore) {
+    store = newStore;
+    places = new NativeMap();
+    places.get = nativeGet;
+    places.set = nativeSet;
+    known = 0;
+  }
+
+  function learn() {
+    for (; known < store.length; ++known) {
+      if (places.get(store[known]) === undefined) {
+        places.set(store[known], known);
+      }
+    }
+  }
+
+  function walk(theStore, obj) {
+    for (var i = 0; i < theStore.length; ++i) {
+      try {
+        if (theStore[i] === obj) {
+          return i;
+        }
+      } catch (e) {
+        // A node of a closed window.
+      }
+    }
+    return -1;
+  }
+
+  return {
+    // -1 where the store does not hold the object.
+    find: function (theStore, obj) {
+      if (!NativeMap) {
+        return walk(theStore, obj);
+      }
+      if (store !== theStore || known > theStore.length) {
+        start(theStore);
+      }
+      learn();
+      var place = places.get(obj);
+      if (place === undefined) {
+        return -1;
+      }
+      if (theStore[place] === obj) {
+        return place;
+      }
+      // The entry was overwritten, so that other places may be wrong, too.
+      start(theStore);
+      return walk(theStore, obj);
+    }
+  };
+})();
+
+function __corvex__idForObject(obj) {
+  var store = top.__corvex__globalObjectRefStore;
+  var index = __corvex__refPlaces.find(store, obj);
+  if (index == -1) {
+    index = store.length;
+    store[index] = obj;
+  }
+  return "top.__corvex__globalObjectRefStore[" + index + "]";
+}

@@ -1,0 +1,61 @@
+// Gives: frames by the names that a page gave them, and the window that a link or form addresses.
+// Needs: getAllFrames, the name test of frames.
+
+function __corvex__findFrameByIdOrName(ctxdoc, frame) {
+  var elem = ctxdoc.getElementById(frame);
+  if (elem && (elem.tagName == "IFRAME" || elem.tagName == "FRAME")) {
+    return elem;
+  }
+  return __corvex__matchFrameByName(window.top.__corvex.getAllFrames(ctxdoc), frame);
+}
+
+function __corvex__findFrameRecursive(ctxdoc, frameName) {
+  if (!ctxdoc) {
+    return null;
+  }
+  var found = __corvex__findFrameByIdOrName(ctxdoc, frameName);
+  if (found) {
+    return found;
+  }
+  var frames = window.top.__corvex.getAllFrames(ctxdoc);
+  for (var i = 0; i < frames.length; ++i) {
+    try {
+      found = __corvex__findFrameRecursive(frames[i].contentWindow.document, frameName);
+      if (found) {
+        return found;
+      }
+    } catch (e) {
+      // A frame of another origin.
+    }
+  }
+  return null;
+}
+
+var __corvex__targetWindows = {
+  _top: function () {
+    return __corvex__topWindow;
+  },
+  _parent: function (start) {
+    return start.parent;
+  },
+  _blank: function () {
+    return window.open("", "_blank");
+  },
+  _self: function (start) {
+    return start;
+  }
+};
+
+// A named window that is no frame is not resolved: a reference to it would not outlive the page.
+function __corvex__findTargetWindow(elem) {
+  var start = __corvex__node.ownerDocument(elem).defaultView;
+  var target = elem.target;
+  if (!target) {
+    return start;
+  }
+  if (__corvex__targetWindows.hasOwnProperty(target)) {
+    return __corvex__targetWindows[target](start);
+  }
+  var frame = __corvex__findFrameRecursive(__corvex__topWindow.document, target);
+  return frame ? frame.contentWindow : start;
+}

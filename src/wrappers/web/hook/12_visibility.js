@@ -1,0 +1,63 @@
+// Gives: computed styles, and whether an element is shown at all (wherever it stands, whatever its size).
+// Needs: node property reads.
+
+function __corvex__styleInfo(elem) {
+  this.obj = elem;
+}
+
+__corvex__styleInfo.prototype.hasComputedStyle = function (obj) {
+  return !!__corvex__node.ownerDocument(obj).defaultView.getComputedStyle;
+};
+
+// Undefined where the style cannot be read.
+__corvex__styleInfo.prototype.styleProperty = function (prop) {
+  try {
+    if (prop === undefined || !this.obj) {
+      return undefined;
+    }
+    if (this.hasComputedStyle(this.obj)) {
+      return __corvex__node.ownerDocument(this.obj).defaultView.getComputedStyle(this.obj, null)[prop];
+    }
+    var obj = this.obj;
+    while (obj.currentStyle[prop] == "inherit") {
+      obj = __corvex__node.parentNode(obj);
+    }
+    return obj.currentStyle[prop];
+  } catch (e) {
+    return undefined;
+  }
+};
+
+function __corvex__hasDisplayNone(elem) {
+  try {
+    // A document ends the walk: it has no style.
+    for (var node = elem; node && __corvex__node.nodeType(node) !== 9; node = __corvex__node.parentNode(node)) {
+      if (new __corvex__styleInfo(node).styleProperty("display") == "none") {
+        return true;
+      }
+    }
+  } catch (e) {
+    // A parent that cannot be asked hides nothing.
+  }
+  return false;
+}
+
+function __corvex__isVisible(elem) {
+  try {
+    if (!elem || elem === __corvex__node.ownerDocument(elem)) {
+      return true;
+    }
+    var style = new __corvex__styleInfo(elem);
+    // The computed visibility holds the parents' state already; the computed display does not.
+    if (style.styleProperty("display") == "none" || style.styleProperty("visibility") == "hidden") {
+      return false;
+    }
+    return !__corvex__hasDisplayNone(__corvex__node.parentNode(elem));
+  } catch (e) {
+    return true;
+  }
+}
+
+function __corvex__cssToPx(sizeVal) {
+  return typeof sizeVal == "string" && /px$/.test(sizeVal) ? parseInt(sizeVal, 10) : sizeVal;
+}

@@ -1,0 +1,35 @@
+// Gives: window.top.__corvex.hasFocus, through shadow roots and frames.
+// Needs: node property reads, contexts.
+
+window.top.__corvex.hasFocus = (function () {
+  function isFocusedInFrames(window_) {
+    for (var win = window_; win.frameElement; win = win.parent) {
+      if (win.parent.document.activeElement !== win.frameElement) {
+        return false;
+      }
+    }
+    return true;
+  }
+
+  return function (element) {
+    var doc = __corvex__node.ownerDocument(element);
+    if (typeof ShadowRoot != "undefined") {
+      doc = element.getRootNode();
+      while (__corvex__isShadowRoot(doc)) {
+        if (doc.activeElement !== element) {
+          return false;
+        }
+        element = doc.host;
+        doc = element.getRootNode();
+      }
+    }
+    if (doc.activeElement !== element) {
+      return false;
+    }
+    var win = doc.defaultView !== undefined ? doc.defaultView : __corvex__currentContext(element);
+    if (win === undefined || win === window.top) {
+      return true;
+    }
+    return isFocusedInFrames(win);
+  };
+})();
