@@ -1,0 +1,73 @@
+// Gives: window.top.__corvex.getPropertyValue and reservedJsKeywords: property values as the driver reads them.
+// Needs: window.top.__corvex; when called, __corvex__getObjectAttribute, __corvex__isQWebViewBrowser.
+
+window.top.__corvex.reservedJsKeywords = [
+  "break", "case", "catch", "continue", "debugger", "default", "delete", "do", "else", "finally", "for", "function",
+  "if", "in", "instanceof", "new", "return", "switch", "this", "throw", "try", "typeof", "var", "void", "while",
+  "with", "class", "enum", "export", "extends", "import", "super", "implements", "interface", "let", "package",
+  "private", "protected", "public", "static", "yield"
+];
+
+function __corvex__isReservedJsKeyword(name) {
+  var words = window.top.__corvex.reservedJsKeywords;
+  for (var i = 0; i < words.length; ++i) {
+    if (words[i] === name) {
+      return true;
+    }
+  }
+  return false;
+}
+
+// Whether a value that was read as a property may exist as an attribute only, as hyphenated names do in most browsers.
+function __corvex__wantsAttribute(propName, value) {
+  var text = String(value);
+  var hyphensAreProperties = window.top.__corvex__ie || window.top.__corvex__mozilla;
+  return (propName.indexOf("-") !== -1 && !hyphensAreProperties && text === "") ||
+    text === "undefined" || text.indexOf("__CORVEX__ERROR") === 0;
+}
+
+function __corvex__isEmptyText(value) {
+  return !!value && value.length === 0;
+}
+
+function __corvex__readProperty(obj, propName) {
+  var value = obj;
+  var path = propName.split(".");
+  for (var i = 0; i < path.length; ++i) {
+    value = value[path[i]];
+  }
+  if (__corvex__wantsAttribute(propName, value)) {
+    value = __corvex__getObjectAttribute(obj, propName);
+    // Neither property nor attribute: that is no value, where a property that is null has one.
+    if (value === null) {
+      return undefined;
+    }
+  }
+  if (__corvex__isQWebViewBrowser() && __corvex__isEmptyText(value)) {
+    var attribute = __corvex__getObjectAttribute(obj, propName);
+    if (attribute !== undefined && attribute !== null) {
+      value = attribute;
+    }
+  }
+  return value;
+}
+
+window.top.__corvex.getPropertyValue = function (obj, propName) {
+  var value;
+  try {
+    if (__corvex__isReservedJsKeyword(propName)) {
+      value = obj.getAttribute(propName);
+    } else {
+      value = __corvex__readProperty(obj, propName);
+    }
+  } catch (e) {
+    return "";
+  }
+  if (Object.prototype.toString.call(value).indexOf("SVG") !== -1) {
+    value = value.baseVal;
+  }
+  if (value === undefined) {
+    return "";
+  }
+  return value === null ? "null" : value;
+};

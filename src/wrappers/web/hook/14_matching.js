@@ -1,0 +1,188 @@
+// Gives: __corvex__matchObject and its parts: does an element have a property's value?; the standard matcher.
+// Needs: window.top.__corvex; when called, the text, visibility and name functions, Corvex.hasClassName.
+
+var PropertyValue_StrictMatch = 0;
+var PropertyValue_RegExp = 1;
+var PropertyValue_Wildcard = 2;
+
+// What __corvex__clean changes.
+var __corvex__uncleanText = /[\u00a0\n\r\t\u2011\u2013]| {2}|^ | $/;
+
+function __corvex__PropValue(value, modifiers) {
+  this.value = value;
+  this.modifiers = modifiers;
+}
+
+window.top.__corvex.StandardPropertyMatcher = function (propName, propValue, objectName) {
+  this.propName = propName;
+  this.propValue = propValue;
+  this.objectName = objectName;
+};
+
+window.top.__corvex.StandardPropertyMatcher.prototype.matchObject = function (o) {
+  return __corvex__matchObject(o, this.propName, this.propValue, this.objectName);
+};
+
+// What has been reported since the last __corvex__findObject: records of name and prop.
+window.top.__corvex.sentUnmatchedProperties = [];
+
+// What the driver can read: object name to the properties that kept an element from matching it.
+window.top.__corvex.unmatchedProperties = {};
+
+// The one way out for reports: property undefined says that the name was found.
+function __corvex__reportUnmatchedProperty(objname, property) {
+  var report = window.top.__corvex.unmatchedProperties;
+  if (property === undefined) {
+    delete report[objname];
+    return;
+  }
+  if (!Object.prototype.hasOwnProperty.call(report, objname)) {
+    report[objname] = [];
+  }
+  for (var i = 0; i < report[objname].length; ++i) {
+    if (report[objname][i] === property) {
+      return;
+    }
+  }
+  report[objname].push(property);
+}
+
+function __corvex__reportsProperties() {
+  return !window.__corvex__recording && !window.__corvex__pickObject;
+}
+
+// A search comes here for each element that fails. The flags stand last: asking a window for what it does not have is
+// dear.
+function __corvex__addUnmatchedProperty(objname, property) {
+  var sent = __corvex.sentUnmatchedProperties;
+  for (var i = 0; i < sent.length; ++i) {
+    if (sent[i].prop === property && sent[i].name === objname) {
+      return;
+    }
+  }
+  if (__corvex__reportsProperties()) {
+    sent.push({ name: objname, prop: property });
+    __corvex__reportUnmatchedProperty(objname, property);
+  }
+}
+
+function __corvex__removeUnmatchedProperties(objname) {
+  if (__corvex__reportsProperties()) {
+    __corvex__reportUnmatchedProperty(objname);
+  }
+}
+
+function __corvex__wildcardToRegExp(s) {
+  var self = __corvex__wildcardToRegExp;
+  if (!self.special) {
+    self.special = /[/.+|()[\]{}\\$]/g;
+  }
+  return "^" + s.replace(self.special, "\\$&").replace(/\*/g, ".*").replace(/\?/g, ".") + "$";
+}
+
+function __corvex__propMatches(prop, s, clean) {
+  switch (prop.modifiers) {
+    case PropertyValue_StrictMatch:
+      return (clean ? __corvex__clean(prop.value) : prop.value) == s;
+    case PropertyValue_RegExp:
+    case PropertyValue_Wildcard:
+      return prop.value.test(s);
+  }
+  return undefined;
+}
+
+// Whether cleaning an exact value changes it. Asked again only when the value was replaced.
+function __corvex__isUncleanValue(value) {
+  if (value.testedValue !== value.value) {
+    value.testedValue = value.value;
+    value.unclean = __corvex__uncleanText.test(value.value);
+  }
+  return value.unclean;
+}
+
+// Whether a value that was read from an element matches: as it is, cleaned, or with both sides cleaned. The search asks
+// this for thousands of elements, so nothing is cleaned that is clean.
+function __corvex__readValueMatches(value, read) {
+  if (__corvex__propMatches(value, read)) {
+    return true;
+  }
+  var isClean = typeof read === "string" && !__corvex__uncleanText.test(read);
+  var cleaned = isClean ? read : __corvex__clean(read);
+  if (cleaned !== read && __corvex__propMatches(value, cleaned)) {
+    return true;
+  }
+  return value.modifiers === PropertyValue_StrictMatch && __corvex__isUncleanValue(value) &&
+    __corvex__propMatches(value, cleaned, true);
+}
+
+function __corvex__matchesPlainOrCleaned(value, read) {
+  return __corvex__propMatches(value, read) || __corvex__propMatches(value, __corvex__clean(read));
+}
+
+function __corvex__wantsTrue(value) {
+  return value.value.toLowerCase() === "true";
+}
+
+var __corvex__propertyTests = {
+  id: function (o, value) {
+    return __corvex__propMatches(value, __corvex__idHelper(o.id));
+  },
+  img_alt: function (o, value) {
+    return __corvex__matchesPlainOrCleaned(value, o.alt);
+  },
+  img_src: function (o, value) {
+    return __corvex__matchesPlainOrCleaned(value, o.src);
+  },
+  className: function (o, value) {
+    return Corvex.hasClassName(o, value.value);
+  },
+  visible: function (o, value) {
+    return __corvex__wantsTrue(value) === !!__corvex__isVisible(o);
+  },
+  simplifiedInnerText: function (o, value) {
+    return __corvex__propMatches(value, window.top.__corvex.getSimplifiedInnerText(o));
+  }
+};
+
+// A plain path is walked, since a page's policy may forbid eval.
+function __corvex__valueAtPath(o, path) {
+  if (!/^[\w$]+(\.[\w$]+)*$/.test(path)) {
+    return eval("o." + path);
+  }
+  var names = path.split(".");
+  for (var i = 0; i < names.length; ++i) {
+    o = o[names[i]];
+  }
+  return o;
+}
+
+function __corvex__otherPropertyMatches(o, prop, value) {
+  var current = o[prop];
+  if (typeof current === "boolean") {
+    return __corvex__wantsTrue(value) ? current : !current;
+  }
+  if (__corvex__readValueMatches(value, current)) {
+    return true;
+  }
+  var attribute = o.getAttribute(prop);
+  if (attribute !== current && __corvex__readValueMatches(value, attribute)) {
+    return true;
+  }
+  return prop.indexOf(".") !== -1 && __corvex__readValueMatches(value, __corvex__valueAtPath(o, prop));
+}
+
+function __corvex__matchObject(o, prop, value, name) {
+  var hooks = window.__corvex__matchObject__hooks;
+  for (var i = 0; i < hooks.length; ++i) {
+    var accepted = hooks[i](o, prop, value, name);
+    if (accepted) {
+      return accepted;
+    }
+  }
+  var matches = Object.prototype.hasOwnProperty.call(__corvex__propertyTests, prop) ?
+    __corvex__propertyTests[prop](o, value) : __corvex__otherPropertyMatches(o, prop, value);
+  if (!matches) {
+    __corvex__addUnmatchedProperty(name, prop);
+  }
+  return matches;
+}

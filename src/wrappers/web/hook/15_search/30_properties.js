@@ -1,0 +1,108 @@
+// Gives: __corvex__findObjectByProps, the search below one document or element, and an element's place among the hits.
+// Needs: 10_name.js, 20_candidates.js.
+
+function __corvex__isImageLink(map) {
+  return __corvex__propMatches(map.tagName, "A") &&
+    (__corvex__mapEntry(map, "img_id") || __corvex__mapEntry(map, "img_name") ||
+    __corvex__mapEntry(map, "img_alt") || __corvex__mapEntry(map, "img_src"));
+}
+
+function __corvex__imageMatches(img, map) {
+  var id = __corvex__mapEntry(map, "img_id");
+  var name = __corvex__mapEntry(map, "img_name");
+  var src = __corvex__mapEntry(map, "img_src");
+  var alt = __corvex__mapEntry(map, "img_alt");
+  return (!id || __corvex__propMatches(id, img.id)) &&
+    (!name || __corvex__propMatches(name, img.name)) &&
+    (!src || __corvex__propMatches(src, img.src)) &&
+    (!alt || __corvex__matchesPlainOrCleaned(alt, img.alt));
+}
+
+function __corvex__searchImageLinks(links, map, accept) {
+  for (var i = 0; i < links.length; ++i) {
+    var img = links[i].getElementsByTagName("IMG")[0];
+    if (img && __corvex__imageMatches(img, map) && accept(links[i])) {
+      return links[i];
+    }
+  }
+  return undefined;
+}
+
+function __corvex__linkAround(element) {
+  for (var e = element; e; e = e.parentElement) {
+    if (e.tagName === "A") {
+      return e;
+    }
+  }
+  return element;
+}
+
+// Calls accept with each hit in the order of the search until it answers true, and returns that hit.
+function __corvex__searchByProps(container, map, nm, accept) {
+  if (!__corvex__mapEntry(map, "tagName")) {
+    throw new Error("The name " + nm + " has no tagName; add one, the search needs it.");
+  }
+  container = __corvex__effectiveContainer(container, map, nm);
+  if (!container) {
+    return undefined;
+  }
+  var isImageLink = __corvex__isImageLink(map);
+  var candidates;
+  if (isImageLink) {
+    var link = __corvex__searchImageLinks(container.getElementsByTagName("A"), map, accept);
+    if (link) {
+      return link;
+    }
+    map.name = map.img_name;
+    map.id = map.img_id;
+    map.tagName.value = "IMG";
+    candidates = container.getElementsByTagName("IMG");
+  } else {
+    candidates = __corvex__candidates(container, map);
+  }
+  candidates = __corvex__withShadowCandidates(candidates, container, map.tagName.value);
+
+  var matchers = __corvex__matchersFor(map, nm);
+  var count = candidates.length;
+  for (var i = 0; i < count; ++i) {
+    if (__corvex__matchedByAll(matchers, candidates[i])) {
+      var hit = isImageLink ? __corvex__linkAround(candidates[i]) : candidates[i];
+      if (accept(hit)) {
+        __corvex__removeUnmatchedProperties(nm);
+        return hit;
+      }
+    }
+  }
+  if (count === 0) {
+    __corvex__addUnmatchedProperty(nm, "tagName");
+  }
+  return undefined;
+}
+
+function __corvex__findObjectByProps(container, nm) {
+  var map = __corvex__propertyMap(nm);
+  if (!map) {
+    return undefined;
+  }
+  var skip = __corvex__matchesToSkip(map);
+  return __corvex__searchByProps(container, map, nm, function () {
+    return !(skip-- > 0);
+  });
+}
+
+// The 1-based place of element among the hits of nm in one document; 0 if it is none of them, or if nm counts itself.
+function __corvex__occurrenceInDocument(doc, nm, element) {
+  try {
+    var map = __corvex__propertyMap(nm);
+    if (!map || map.occurrence || map.occurance) {
+      return 0;
+    }
+    var count = 0;
+    return __corvex__searchByProps(doc, map, nm, function (hit) {
+      ++count;
+      return hit === element;
+    }) ? count : 0;
+  } catch (e) {
+    return 0;
+  }
+}

@@ -1,0 +1,59 @@
+// Gives: the order of documents in which a search by properties looks; __corvex__findObject, the entry for a name.
+// Needs: 30_properties.js; contexts and frames of the runtime when called.
+
+// An element that is found leaves the current context on the window that holds it: the next search starts there.
+function __corvex__findObjectByProps2(nm, w) {
+  var before = __corvex__ctxwin;
+  var found;
+  __corvex__ctxwin = w;
+  try {
+    found = __corvex__findObjectByProps(w.document, nm);
+  } catch (e) { /* not found in this document */ }
+  if (found) {
+    return found;
+  }
+  try {
+    var frames = window.top.__corvex.getAllFrames(w.document);
+    for (var i = 0; i < frames.length; ++i) {
+      if (__corvex__isFrameAccessible(frames[i])) {
+        found = __corvex__findObjectByProps2(nm, frames[i].contentWindow);
+        if (found) {
+          return found;
+        }
+      }
+    }
+  } catch (e) { /* a document whose frames cannot be read */ }
+  __corvex__ctxwin = before;
+  return undefined;
+}
+
+function __corvex__findObjectByProps3(nm) {
+  var windows = __corvex__contextList();
+  for (var i = 0; i < windows.length; ++i) {
+    try {
+      var found = __corvex__findObjectByProps2(nm, windows[i]);
+      if (found) {
+        return found;
+      }
+    } catch (e) { /* the next window is still tried */ }
+  }
+  return undefined;
+}
+
+function __corvex__findObjectByProps4(nm) {
+  try {
+    var found = __corvex__findObjectByProps(__corvex__ctxwin.document, nm);
+    if (found) {
+      return found;
+    }
+  } catch (e) { /* not found in the current context */ }
+  return __corvex__findObjectByProps3(nm);
+}
+
+function __corvex__findObject(nm) {
+  window.top.__corvex.sentUnmatchedProperties = [];
+  if (nm.charAt(0) === "{" && nm.charAt(nm.length - 1) === "}") {
+    return __corvex__findObjectByProps4(nm);
+  }
+  return __corvex__findObjectByHeuristic4(nm);
+}

@@ -1,0 +1,82 @@
+// Gives: the search for plain words: link text, id, name, label or button text, DIV text, in this order.
+// Needs: __corvex__clean, contexts and frames of the runtime when called.
+
+function __corvex__firstWithText(elements, text) {
+  for (var i = 0; i < elements.length; ++i) {
+    if (__corvex__clean(elements[i].innerText) === text) {
+      return elements[i];
+    }
+  }
+  return undefined;
+}
+
+// A label that fits ends the scan even if the element that it is for does not exist.
+function __corvex__labelledOrButton(doc, text) {
+  var all = doc.getElementsByTagName("*");
+  for (var i = 0; i < all.length; ++i) {
+    var element = all[i];
+    if (element.tagName === "LABEL" && __corvex__clean(element.innerText) === text) {
+      return doc.getElementById(element.htmlFor);
+    }
+    if (element.type === "button" &&
+      (__corvex__clean(element.innerText) === text || element.value === text)) {
+      return element;
+    }
+  }
+  return undefined;
+}
+
+function __corvex__findObjectByHeuristic(nm) {
+  var doc = __corvex__ctxwin.document;
+  return __corvex__firstWithText(doc.links, nm) ||
+    doc.getElementById(nm) ||
+    doc.getElementsByName(nm)[0] ||
+    __corvex__labelledOrButton(doc, nm) ||
+    __corvex__firstWithText(doc.getElementsByTagName("DIV"), nm);
+}
+
+function __corvex__findObjectByHeuristic2(nm, w) {
+  var before = __corvex__ctxwin;
+  var found;
+  __corvex__ctxwin = w;
+  try {
+    found = __corvex__findObjectByHeuristic(nm);
+  } catch (e) { /* not found in this document */ }
+  if (found) {
+    return found;
+  }
+  try {
+    var frames = window.top.__corvex.getAllFrames(w.document);
+    for (var i = 0; i < frames.length; ++i) {
+      found = __corvex__findObjectByHeuristic2(nm, frames[i].contentWindow);
+      if (found) {
+        return found;
+      }
+    }
+  } catch (e) { /* a document whose frames cannot be read */ }
+  __corvex__ctxwin = before;
+  return undefined;
+}
+
+function __corvex__findObjectByHeuristic3(nm) {
+  var windows = __corvex__contextList();
+  for (var i = 0; i < windows.length; ++i) {
+    try {
+      var found = __corvex__findObjectByHeuristic2(nm, windows[i]);
+      if (found) {
+        return found;
+      }
+    } catch (e) { /* the next window is still tried */ }
+  }
+  return undefined;
+}
+
+function __corvex__findObjectByHeuristic4(nm) {
+  try {
+    var found = __corvex__findObjectByHeuristic(nm);
+    if (found) {
+      return found;
+    }
+  } catch (e) { /* not found in the current context */ }
+  return __corvex__findObjectByHeuristic3(nm);
+}
