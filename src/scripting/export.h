@@ -1,0 +1,3 @@
+#pragma once
+
+#define CORVEXSCRIPTING_EXPORT __attribute__((visibility("default")))

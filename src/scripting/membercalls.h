@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QSet>
+#include <functional>
+
+#include "corvexhook/class.h"
+#include "corvexhook/functioncallresult.h"
+#include "scripting/scriptlistener.h"
+
+namespace Corvex::Scripting {
+
+using ObjectResult = FunctionCallResult<SharedPtr<Object>>;
+
+/// Uses the members of objects and the global methods of the object model, by
+/// their names. What the framework reports during a call is its error.
+class MemberCalls {
+public:
+  explicit MemberCalls(ScriptListener* listener) : m_listener(listener) {}
+
+  ObjectResult callMethod(const SharedPtr<Object>& object, const QString& name, const ObjectList& arguments);
+  ObjectResult callGlobalMethod(const QString& name, const ObjectList& arguments);
+  ObjectResult readProperty(const SharedPtr<Object>& object, const QString& name);
+  /// Answers an error, or an empty text.
+  QString writeProperty(const SharedPtr<Object>& object, const QString& name, const SharedPtr<Object>& value);
+
+  static bool hasMethod(const SharedPtr<Object>& object, const QString& name);
+  static std::vector<const Method*> globalMethodsNamed(const QString& name);
+  /// The sentence for a member that the class lacks, with the name that comes
+  /// nearest to it.
+  static QString unknownMemberError(const Class* cls, const QString& name);
+
+private:
+  void warnIfDeprecated(const Method* method);
+  ObjectResult observed(const QString& text, const std::function<SharedPtr<Object>()>& call);
+
+  ScriptListener* m_listener;
+  QSet<const Method*> m_warned;
+};
+
+}  // namespace Corvex::Scripting

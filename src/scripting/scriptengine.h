@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QStringList>
+#include <memory>
+
+#include "scripting/export.h"
+#include "scripting/scriptfunction.h"
+#include "scripting/scriptlistener.h"
+#include "scripting/scriptresult.h"
+
+namespace Corvex::Scripting {
+
+/// Runs JavaScript test scripts on the object model of the framework. Belongs
+/// to the framework's thread, but for `interrupt`.
+class CORVEXSCRIPTING_EXPORT ScriptEngine {
+public:
+  /// Borrows the listener.
+  ScriptEngine(const ScriptHost& host, ScriptListener* listener);
+  ~ScriptEngine();
+
+  /// Runs a script in a scope of its own. No failure of the script is one of
+  /// the engine: all of them stand in the result.
+  ScriptResult runFile(const QString& path);
+  /// Runs the scripts one behind the other, each whatever came of those before;
+  /// after `interrupt` none any more.
+  RunSummary run(const QStringList& paths);
+
+  /// Ends the running script, which gets the error "interrupted", and all
+  /// scripts behind it. From any thread, but not from a signal handler. A
+  /// script that waits or sleeps ends when the host's sleep returns.
+  void interrupt();
+  bool isInterrupted() const;
+
+  ScriptEngine(const ScriptEngine&) = delete;
+  ScriptEngine& operator=(const ScriptEngine&) = delete;
+
+private:
+  struct Private;
+  std::unique_ptr<Private> d;
+};
+
+}  // namespace Corvex::Scripting

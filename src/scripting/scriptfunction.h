@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <vector>
+
+#include "corvexhook/functioncallresult.h"
+#include "corvexhook/object.h"
+
+namespace Corvex::Scripting {
+
+/// A global function of test scripts.
+struct ScriptFunction {
+  /// With a dot, as in "object.exists", a function of a global object.
+  QString name;
+  /// How it is called, for the sentence of a wrong call.
+  QString usage;
+  int minArguments = 0;
+  int maxArguments = 0;
+  /// A script's null arrives as a null pointer. A result of null is undefined
+  /// in the script.
+  std::function<FunctionCallResult<SharedPtr<Object>>(const ObjectList&)> call;
+};
+
+/// What the process that embeds the engine offers to scripts.
+struct ScriptHost {
+  std::vector<ScriptFunction> functions;
+};
+
+}  // namespace Corvex::Scripting

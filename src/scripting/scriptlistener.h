@@ -1,0 +1,42 @@
+#pragma once
+
+#include <vector>
+
+#include "scripting/scriptresult.h"
+
+namespace Corvex::Scripting {
+
+/// Told of what a running script does, while it does it. Every operation does
+/// nothing until it is overridden.
+class CORVEXSCRIPTING_EXPORT ScriptListener {
+public:
+  virtual ~ScriptListener();
+  virtual void scriptStarted(const QString& path);
+  /// A global function was called and has ended, well or not.
+  virtual void step(const QString& text, qint64 durationMs);
+  /// A member of an object was used.
+  virtual void objectCall(const QString& text, qint64 durationMs);
+  virtual void check(bool passed, const QString& text, const ScriptLocation& location);
+  virtual void log(const QString& text);
+  virtual void scriptFinished(const ScriptResult& result);
+  virtual void runFinished(const RunSummary& summary);
+};
+
+/// Passes all on to several listeners, in their order. Borrows them.
+class CORVEXSCRIPTING_EXPORT ListenerGroup : public ScriptListener {
+public:
+  void add(ScriptListener* listener) { m_listeners.push_back(listener); }
+
+  void scriptStarted(const QString& path) override;
+  void step(const QString& text, qint64 durationMs) override;
+  void objectCall(const QString& text, qint64 durationMs) override;
+  void check(bool passed, const QString& text, const ScriptLocation& location) override;
+  void log(const QString& text) override;
+  void scriptFinished(const ScriptResult& result) override;
+  void runFinished(const RunSummary& summary) override;
+
+private:
+  std::vector<ScriptListener*> m_listeners;
+};
+
+}  // namespace Corvex::Scripting

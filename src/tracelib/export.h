@@ -1,0 +1,3 @@
+#pragma once
+
+#define TRACELIB_EXPORT __attribute__((visibility("default")))

@@ -1,0 +1,145 @@
+#include "corvexhook/inspector.h"
+
+#include <gtest/gtest.h>
+
+#include "corvexhook/delegate.h"
+#include "corvexhook/objectmap.h"
+#include "corvexhook/testclass.h"
+#include "support/printing.h"
+
+using namespace Corvex;
+
+namespace {
+
+QString text(const char* latin1) { return QString::fromLatin1(latin1); }
+
+/// Finds exactly the names of `known`, and writes down all that it is asked for.
+class KnownNames : public ObjectHierarchyDelegate {
+public:
+  KnownNames() : ObjectHierarchyDelegate(text("InspectorRoot")) {}
+
+  SharedPtr<Object> objectByQualifiedName(SharedPtr<Object> root, const ObjectName& name) const override {
+    asked << name.qualifiedName();
+    if (!error.isEmpty()) {
+      Inspector::self()->reportScriptError(error);
+    }
+    return known.contains(name.qualifiedName()) ? root : SharedPtr<Object>();
+  }
+  int numChildren(SharedPtr<Object>) const override { return 0; }
+  SharedPtr<Object> child(SharedPtr<Object>, int) const override { return nullptr; }
+  SharedPtr<Object> childByName(SharedPtr<Object>, const QString&) const override { return nullptr; }
+  QString name(SharedPtr<Object>) const override { return QString(); }
+  QString qualifiedName(SharedPtr<Object>) const override { return QString(); }
+  ObjectList children(SharedPtr<Object>) const override { return ObjectList(); }
+  int wrapperType() const override { return 0; }
+
+  QStringList known;
+  QString error;
+  mutable QStringList asked;
+};
+
+class InspectorTest : public testing::Test {
+protected:
+  InspectorTest() {
+    static const auto* cls = new TestClass("InspectorRoot", "");
+    m_root = new Object(cls, this);
+    m_inspector->addRootObject(m_root);
+    m_services = m_inspector->hostServices();
+  }
+  ~InspectorTest() override {
+    m_inspector->removeRootObject(m_root);
+    m_inspector->setHostServices(m_services);
+    m_inspector->takeScriptError();
+    ObjectMap::self()->clear();
+  }
+
+  Inspector* m_inspector = Inspector::self();
+  KnownNames m_names;
+  SharedPtr<Object> m_root;
+
+private:
+  HostServices m_services;
+};
+
+}  // namespace
+
+TEST_F(InspectorTest, TheFirstErrorOfACallStays) {
+  m_inspector->reportScriptError(text("first"));
+  m_inspector->reportScriptError(text("second"));
+  EXPECT_EQ(m_inspector->takeScriptError(), text("first"));
+  EXPECT_FALSE(m_inspector->hasScriptError());
+}
+
+TEST_F(InspectorTest, LookupTakesSymbolicNamesFromTheMap) {
+  m_names.known << text("{a='1'}");
+  ObjectMap::self()->insert(text(":A"), text("{a='1'}"));
+  EXPECT_EQ(m_inspector->lookup(text(":A")), m_root);
+  EXPECT_EQ(m_inspector->lookup(text("{a='1'}")), m_root);
+  EXPECT_FALSE(m_inspector->lookup(text("{a='2'}")));
+  EXPECT_FALSE(m_inspector->hasScriptError());
+}
+
+TEST_F(InspectorTest, LookupRefusesNamesThatCannotBeMeant) {
+  const struct {
+    const char* name;
+    const char* error;
+  } cases[] = {
+      {"", "Invalid object name '': it is empty."},
+      {"{a='1'", "Invalid object name '{a='1'': the closing brace is missing at position 7."},
+      {":None", "The symbolic name ':None' is not in the object map. Add it there, or use a real name."},
+  };
+  for (const auto& one : cases) {
+    EXPECT_FALSE(m_inspector->lookup(text(one.name)));
+    EXPECT_EQ(m_inspector->takeScriptError(), text(one.error));
+  }
+  EXPECT_EQ(m_names.asked, QStringList());
+}
+
+TEST_F(InspectorTest, LookupTriesAmpersandEntitiesAsAmpersandsAfterwards) {
+  m_names.known << text("{a='x & y'}");
+  EXPECT_EQ(m_inspector->lookup(text("{a='x &amp; y'}")), m_root);
+  EXPECT_EQ(m_names.asked, QStringList({text("{a='x &amp; y'}"), text("{a='x & y'}")}));
+  m_names.known << text("{a='x &amp; y'}");
+  m_names.asked.clear();
+  EXPECT_EQ(m_inspector->lookup(text("{a='x &amp; y'}")), m_root);
+  EXPECT_EQ(m_names.asked.size(), 1);
+  m_names.error = text("The page said no.");
+  EXPECT_FALSE(m_inspector->findObject(text("{b='&amp;'}"), 0));
+  EXPECT_EQ(m_names.asked.size(), 2);
+  EXPECT_EQ(m_inspector->takeScriptError(), text("The page said no."));
+}
+
+TEST_F(InspectorTest, FindObjectNamesWhatNothingMatched) {
+  m_inspector->addUnmatchedProperty(text("{a='1' b='2'}"), text("b"));
+  m_inspector->addUnmatchedProperty(text("{a='1' b='2'}"), text("a"));
+  m_inspector->addUnmatchedProperty(text("{a='1' b='2'}"), text("b"));
+  EXPECT_FALSE(m_inspector->findObject(text("{a='1' b='2'}"), 0));
+  EXPECT_EQ(m_inspector->takeScriptError(), text("Object '{a='1' b='2'}' not found. No element matched: b, a."));
+  m_inspector->removeUnmatchedProperties(text("{a='1' b='2'}"));
+  EXPECT_FALSE(m_inspector->findObject(text("{a='1' b='2'}"), 0));
+  EXPECT_EQ(m_inspector->takeScriptError(), text("Object '{a='1' b='2'}' not found."));
+}
+
+TEST_F(InspectorTest, WaitingEndsByTheClockOrByTrouble) {
+  qint64 now = 0;
+  QString trouble;
+  HostServices services;
+  services.now = [&now] { return now; };
+  services.sleep = [&now](int milliseconds) { now += milliseconds; };
+  services.trouble = [&trouble] { return trouble; };
+  m_inspector->setHostServices(services);
+  EXPECT_FALSE(m_inspector->findObject(text("{a='1'}"), 1000));
+  EXPECT_GE(now, 1000);
+  EXPECT_LT(now, 1100);
+  EXPECT_EQ(m_inspector->takeScriptError(), text("Object '{a='1'}' not found."));
+
+  services.sleep = [&now, &trouble](int milliseconds) {
+    now += milliseconds;
+    trouble = text("The browser is gone.");
+  };
+  m_inspector->setHostServices(services);
+  now = 0;
+  EXPECT_FALSE(m_inspector->waitForObject(text("{a='1'}")));
+  EXPECT_LT(now, 100);
+  EXPECT_EQ(m_inspector->takeScriptError(), text("The browser is gone."));
+}

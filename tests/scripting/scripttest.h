@@ -1,0 +1,60 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "fakemodel.h"
+#include "scripting/scriptengine.h"
+#include "support/files.h"
+#include "support/printing.h"
+
+namespace FakeModel {
+
+/// Writes down what a listener is told, a line each.
+class RecordingListener : public Corvex::Scripting::ScriptListener {
+public:
+  void step(const QString& text, qint64) override { lines << QStringLiteral("step ") + text; }
+  void objectCall(const QString& text, qint64) override { objectCalls << text; }
+  void check(bool passed, const QString& text, const Corvex::Scripting::ScriptLocation& location) override {
+    lines << QStringLiteral("%1 %2 line %3")
+                 .arg(passed ? QStringLiteral("passed") : QStringLiteral("failed"), text,
+                      QString::number(location.line));
+  }
+  void log(const QString& text) override { lines << QStringLiteral("log ") + text; }
+
+  QStringList lines;
+  QStringList objectCalls;
+};
+
+/// Runs script texts on the fake object model.
+class ScriptTest : public testing::Test {
+protected:
+  ScriptTest() { reset(); }
+  ~ScriptTest() override { tearDown(); }
+
+  static QString s(const char* utf8) { return QString::fromUtf8(utf8); }
+  QString path(const char* name = "test.js") const { return m_directory.filePath(s(name)); }
+  QString write(const QByteArray& content, const char* name = "test.js") const {
+    EXPECT_TRUE(TestSupport::writeFile(path(name), content));
+    return path(name);
+  }
+  Corvex::Scripting::ScriptResult run(const QByteArray& content) {
+    Corvex::Scripting::ScriptEngine engine(host, &listener);
+    return engine.runFile(write(content));
+  }
+  /// The error of a script, and the number of its line: "3: text".
+  QString errorOf(const QByteArray& content) {
+    const Corvex::Scripting::ScriptResult result = run(content);
+    return result.error.isEmpty() ? QString()
+                                  : QStringLiteral("%1: %2").arg(QString::number(result.location.line), result.error);
+  }
+
+  Corvex::Scripting::ScriptHost host;
+  RecordingListener listener;
+
+private:
+  QTemporaryDir m_directory;
+};
+
+}  // namespace FakeModel
