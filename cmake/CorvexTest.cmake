@@ -1,0 +1,41 @@
+# How the test programs are made.
+
+find_package(GTest REQUIRED)
+include(GoogleTest)
+
+# corvex_test(name SOURCES... LINK object-library... [MAIN file] [BROWSER] [ENVIRONMENT NAME=value...]): a test program
+# from `SOURCES`, with GoogleTest's own main unless `MAIN` names a file. Its name is the group of its cases in ctest.
+#
+# Without BROWSER each case is a ctest entry of its own, and so gets a process of its own. With BROWSER the program is one
+# entry that never runs beside another one, so that it starts its browser once and has the machine to itself.
+function(corvex_test name)
+  cmake_parse_arguments(ARG "BROWSER" "MAIN" "SOURCES;LINK;ENVIRONMENT" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES} ${ARG_MAIN})
+  corvex_flags(${name})
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE ${ARG_LINK} GTest::gmock GTest::gtest)
+  if(NOT ARG_MAIN)
+    target_link_libraries(${name} PRIVATE GTest::gtest_main)
+  endif()
+  if(ARG_BROWSER)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES RUN_SERIAL ON LABELS browser TIMEOUT 300 ENVIRONMENT "${ARG_ENVIRONMENT}")
+  else()
+    gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+                         PROPERTIES TIMEOUT 60 ENVIRONMENT "${ARG_ENVIRONMENT}")
+  endif()
+endfunction()
+
+# corvex_hooked_test(name SOURCES...): a browser test whose page is hooked, over the whole program's code.
+function(corvex_hooked_test name)
+  set(support ${CMAKE_SOURCE_DIR}/tests/support)
+  corvex_test(${name}
+    ${ARGN} ${support}/hookedbrowser.cpp ${support}/testserver.cpp
+    LINK corvexweb_objects webhook_objects corvexscripting_objects corvexwebwrapper_objects corvexhook_objects
+         corvexshared_objects tracelib_objects
+    MAIN ${support}/main.cpp
+    BROWSER)
+  target_compile_definitions(${name} PRIVATE
+    CORVEX_TEST_PREFIX="${CMAKE_BINARY_DIR}" CORVEX_TEST_SOURCE="${CMAKE_SOURCE_DIR}/tests")
+  add_dependencies(${name} extension_scripts)
+endfunction()

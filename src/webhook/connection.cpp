@@ -1,0 +1,128 @@
+#include "webhook/connection.h"
+
+#include "webhook/extensioncheck.h"
+#include "wrappers/web/html_text.h"
+#include "wrappers/web/widgetclasses.h"
+
+#include <QFileInfo>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+// Other numbers than the wrapper's two special ones; what they stand for is only known here.
+struct BrowserKindRow {
+  BrowserIdentity::Family family;
+  int kind;
+};
+
+const BrowserKindRow browserKinds[] = {
+    {BrowserIdentity::Firefox, 1},
+    {BrowserIdentity::Chrome, 3},
+    {BrowserIdentity::Chromium, 4},
+};
+
+QString closedPage() {
+  return QStringLiteral("The browser window is closed. Call startBrowser(url) to open another.");
+}
+
+}  // namespace
+
+Connection::Connection(BrowserPage* page, const WebWrapper::WrapperConfig* config, const BrowserIdentity& browser,
+                       QObject* parent)
+    : QObject(parent), m_page(page), m_config(config), m_browser(browser) {
+  connect(page, &BrowserPage::navigated, this, &Connection::documentGone);
+  connect(page, &BrowserPage::closed, this, &Connection::documentGone);
+  connect(page, &BrowserPage::crashed, this, &Connection::documentGone);
+}
+
+QString Connection::install() {
+  const QString text = hookText(*m_config, m_browser);
+  const WebWrapper::JavaScriptAnswer answer = evaluateJS(text, 0);
+  if (!answer.succeeded()) {
+    return extensionError(*this, answer.text);
+  }
+  return m_page ? m_page->addStartScript(text) : closedPage();
+}
+
+QString Connection::navigate(const QString& url, int timeoutMs) {
+  if (!m_page) {
+    return closedPage();
+  }
+  const QString error = m_page->navigate(url, timeoutMs);
+  if (!error.isEmpty()) {
+    return error;
+  }
+  const WebWrapper::JavaScriptAnswer hooked =
+      evaluateJS(QStringLiteral("typeof __corvex__isHooked === 'function' && __corvex__isHooked()"), 0);
+  return hooked.text == QLatin1String("true")
+             ? QString()
+             : QStringLiteral("The page '%1' was loaded, but its scripts could not be reached: %2").arg(url, hooked.text);
+}
+
+QString Connection::close() { return m_page ? m_page->close() : QString(); }
+
+bool Connection::isOpen() const { return m_page && m_page->isOpen(); }
+
+WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigned int timeoutMs) {
+  WebWrapper::JavaScriptAnswer answer;
+  if (!m_page) {
+    answer.text = closedPage();
+    answer.aborted = true;
+    return answer;
+  }
+  const Evaluation evaluation = m_page->evaluate(code, static_cast<int>(timeoutMs));
+  answer.text = evaluation.text;
+  answer.failed = evaluation.failed;
+  answer.aborted = evaluation.aborted;
+  return answer;
+}
+
+int Connection::browserKind() {
+  for (const BrowserKindRow& row : browserKinds) {
+    if (row.family == m_browser.family) {
+      return row.kind;
+    }
+  }
+  return 0;
+}
+
+bool Connection::isAvailable() { return m_page && m_page->isAvailable(); }
+
+const WebWrapper::WrapperConfig* Connection::config() { return m_config; }
+
+bool Connection::supportsPageScreenshot() { return true; }
+
+FunctionCallResult<QImage> Connection::grabPageScreenshot() {
+  if (!m_page) {
+    return FunctionCallResult<QImage>::failure(closedPage());
+  }
+  const Screenshot screenshot = m_page->screenshot(true);
+  return {screenshot.image, screenshot.error};
+}
+
+FunctionCallResult<double> Connection::zoomFactor() {
+  if (!m_page) {
+    return FunctionCallResult<double>::failure(closedPage());
+  }
+  const ZoomFactor zoom = m_page->zoomFactor();
+  return {zoom.value, zoom.error};
+}
+
+QString Connection::selectFileToUpload(WebWrapper::HTML_TextBase* field, const QString& path) {
+  return upload(field->reference, path);
+}
+
+QString Connection::selectFileToUpload(WebWrapper::HTML_CustomText* field, const QString& path) {
+  return upload(field->reference, path);
+}
+
+QString Connection::upload(const QString& reference, const QString& path) {
+  const QFileInfo file(path);
+  if (!file.isFile()) {
+    return QStringLiteral("Cannot choose the file '%1': there is no such file. Give a path that exists.").arg(path);
+  }
+  return m_page ? m_page->setFiles(reference, {file.absoluteFilePath()}) : closedPage();
+}
+
+}  // namespace Corvex::Webhook

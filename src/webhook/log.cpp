@@ -1,0 +1,7 @@
+#include "webhook/log.h"
+
+namespace Corvex::Webhook {
+
+Q_LOGGING_CATEGORY(webhookLog, "Webhook", QtWarningMsg)
+
+}  // namespace Corvex::Webhook

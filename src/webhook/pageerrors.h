@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+#include "webhook/browserpage.h"
+
+/// The sentences by which a page's calls fail, the same for every back end.
+namespace Corvex::Webhook::PageErrors {
+
+QString browserLost(const QString& reason);
+QString pageClosed();
+QString pageCrashed();
+QString pageReplaced();
+QString noAnswerWithin(int milliseconds);
+QString dialogOpen(const Dialog& dialog);
+QString noDialogOpen();
+QString refused(const QString& browsersWords);
+
+/// `errorCode` as browsers built on Chromium give it, such as "net::ERR_CONNECTION_REFUSED".
+QString notLoaded(const QString& url, const QString& errorCode);
+QString notLoadedWithin(const QString& url, int milliseconds);
+
+QString noSuchFile(const QString& path);
+QString noFileInput(const QString& referenceExpression);
+QString noScreenshot();
+
+}  // namespace Corvex::Webhook::PageErrors

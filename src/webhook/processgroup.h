@@ -1,0 +1,16 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+
+namespace Corvex::Webhook {
+
+/// Makes this process the parent of every descendant whose own parent ended, so that killProcessGroup() can reap it.
+void adoptOrphans();
+
+/// Kills all processes of `group` and all that carry `mark` ("NAME=value", exactly as set) in the environment that they
+/// were started with, and reaps those that are this process's own. Returns when they are gone, after 3 s at the latest.
+void killProcessGroup(pid_t group, const std::string& mark);
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,141 @@
+// What can go wrong while scripts run: one clear sentence, the right exit code, nothing left running or lying about.
+
+#include <gtest/gtest.h>
+
+#include <signal.h>
+
+#include "program/programrun.h"
+#include "support/printing.h"
+#include "support/testserver.h"
+
+namespace {
+
+using TestSupport::ProgramResult;
+using TestSupport::ProgramRun;
+
+void expectNothingLeft(const ProgramRun& program) {
+  EXPECT_EQ(program.leftovers(), QStringList());
+  EXPECT_EQ(program.browserProcesses(), QList<qint64>());
+}
+
+struct Failure {
+  const char* name;
+  const char* script;
+  const char* sentence;
+  int exitCode;
+};
+
+class FailingScript : public testing::TestWithParam<Failure> {};
+
+TEST_P(FailingScript, EndsWithASentence) {
+  ProgramRun program;
+  program.write(QStringLiteral("page.html"), QStringLiteral("<a href='#'>link</a><input name='i'>"));
+  program.write(QStringLiteral("stuck.html"), QStringLiteral("<script>for(;;){}</script>"));
+  program.write(QStringLiteral("test.js"), QString::fromUtf8(GetParam().script));
+  const ProgramResult result =
+      program.run({QStringLiteral("run"), QStringLiteral("--timeout"), QStringLiteral("1.5"), QStringLiteral("test.js")});
+  EXPECT_EQ(result.exitCode, GetParam().exitCode);
+  EXPECT_TRUE(result.output.contains(QString::fromUtf8(GetParam().sentence))) << qPrintable(result.output);
+  EXPECT_TRUE(result.output.contains(QLatin1String("test.js:"))) << qPrintable(result.output);
+  expectNothingLeft(program);
+}
+
+const Failure failures[] = {
+    {"NoBrowser", "findObject('x');", "No browser is running. Call startBrowser(url) first.", 1},
+    {"MalformedName", "startBrowser('page.html');\nfindObject(\"{tagName='A' text}\");",
+     "Invalid object name '{tagName='A' text}': one of the operators =, ~= or ?= is missing behind the property 'text'", 1},
+    {"SymbolicName", "startBrowser('page.html');\nfindObject(':Login');",
+     "The symbolic name ':Login' is not in the object map.", 1},
+    {"MissingMethod", "startBrowser('page.html');\ntypeText(\"{tagName='A' simplifiedInnerText='link'}\", 'x');",
+     "HTML_Anchor", 1},
+    {"MissingUpload", "startBrowser('page.html');\nvar i = findObject(\"{tagName='INPUT' name='i'}\");\n"
+                      "i.setProperty('type', 'file'); setText(i, '/no/such.file');",
+     "'/no/such.file': there is no such file", 1},
+    {"NoServer", "startBrowser('http://127.0.0.1:1/');", "http://127.0.0.1:1/", 1},
+    {"PageNeverAnswers", "startBrowser('stuck.html');", "stuck.html", 1},
+    {"ClosedWindow", "startBrowser('page.html');\ncloseWindow();\nfindObject('x');", "The browser window is closed.", 1},
+    {"SyntaxError", "startBrowser('page.html'\n", "test.js:", 1},
+};
+
+INSTANTIATE_TEST_SUITE_P(Program, FailingScript, testing::ValuesIn(failures),
+                         [](const auto& failure) { return failure.param.name; });
+
+TEST(BrowserFailure, ABrowserThatIsNotThereIsNamed) {
+  ProgramRun program;
+  program.write(QStringLiteral("test.js"), QStringLiteral("startBrowser('about:blank');"));
+  const ProgramResult result = program.run(
+      {QStringLiteral("run"), QStringLiteral("--browser"), QStringLiteral("/no/such/browser"), QStringLiteral("test.js")});
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_TRUE(result.output.contains(QLatin1String("/no/such/browser"))) << qPrintable(result.output);
+  expectNothingLeft(program);
+}
+
+TEST(BrowserFailure, NothingListensWhereToAttach) {
+  ProgramRun program;
+  program.write(QStringLiteral("test.js"), QStringLiteral("startBrowser('about:blank');"));
+  const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("--attach"),
+                                            QStringLiteral("ws://127.0.0.1:1/devtools"), QStringLiteral("test.js")});
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_TRUE(result.output.contains(QLatin1String("ws://127.0.0.1:1/devtools"))) << qPrintable(result.output);
+}
+
+TEST(BrowserFailure, AKilledBrowserEndsTheScriptAndLeavesNothing) {
+  ProgramRun program;
+  program.write(QStringLiteral("test.js"),
+                QStringLiteral("startBrowser('about:blank');\ntest.log('started');\nsnooze(50);\ntest.log('reached');"));
+  program.start({QStringLiteral("run"), QStringLiteral("test.js")});
+  ASSERT_TRUE(program.waitForOutput(QStringLiteral("started")));
+  const QList<qint64> processes = program.browserProcesses();
+  ASSERT_FALSE(processes.isEmpty());
+  for (const qint64 process : processes) {
+    kill(static_cast<pid_t>(process), SIGKILL);
+  }
+  const ProgramResult result = program.finish();
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_TRUE(result.output.contains(QLatin1String("The browser was lost"))) << qPrintable(result.output);
+  EXPECT_TRUE(result.output.contains(QLatin1String("test.js:3: snooze(50);")));
+  EXPECT_FALSE(result.output.contains(QLatin1String("reached")));
+  expectNothingLeft(program);
+}
+
+class Signals : public testing::TestWithParam<int> {};
+
+TEST_P(Signals, EndTheProgramInAnEndlessScriptAndLeaveNothing) {
+  ProgramRun program;
+  program.write(QStringLiteral("test.js"), QStringLiteral("startBrowser('about:blank');\ntest.log('started');\nfor(;;){}"));
+  program.start({QStringLiteral("run"), QStringLiteral("test.js")});
+  ASSERT_TRUE(program.waitForOutput(QStringLiteral("started")));
+  kill(static_cast<pid_t>(program.processId()), GetParam());
+  EXPECT_EQ(program.finish().exitCode, 128 + GetParam());
+  expectNothingLeft(program);
+}
+
+INSTANTIATE_TEST_SUITE_P(Program, Signals, testing::Values(SIGINT, SIGTERM));
+
+TEST(ExtensionScripts, TheOneToBlameIsNamed) {
+  ProgramRun program;
+  program.write(QStringLiteral("lib/extensions/web/a.js"), QStringLiteral("Corvex.addTypeOfHook(function () {});"));
+  program.write(QStringLiteral("lib/extensions/web/b.js"), QStringLiteral("noSuchFunction();"));
+  program.setEnvironment(QStringLiteral("CORVEX_PREFIX"), program.folder());
+  program.write(QStringLiteral("test.js"), QStringLiteral("startBrowser('about:blank');"));
+  const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("test.js")});
+  EXPECT_EQ(result.exitCode, 3);
+  EXPECT_TRUE(result.output.contains(QLatin1String("b.js' failed: ReferenceError: noSuchFunction is not defined")))
+      << qPrintable(result.output);
+  EXPECT_FALSE(result.output.contains(QLatin1String("a.js' failed")));
+}
+
+TEST(StuckPage, IsToldFromASlowServer) {
+  TestSupport::TestServer server;
+  TestSupport::ServerPage silent;
+  silent.silent = true;
+  server.add(QStringLiteral("/"), silent);
+  ProgramRun program;
+  program.write(QStringLiteral("test.js"), QStringLiteral("startBrowser('%1');").arg(server.url(QStringLiteral("/"))));
+  const ProgramResult result =
+      program.run({QStringLiteral("run"), QStringLiteral("--timeout"), QStringLiteral("1"), QStringLiteral("test.js")});
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_TRUE(result.output.contains(server.url(QStringLiteral("/")))) << qPrintable(result.output);
+}
+
+}  // namespace

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+namespace TestSupport {
+
+/// What a run of the program gave.
+struct ProgramResult {
+  int exitCode = -1;
+  QString output;
+  QString errors;
+};
+
+/// Runs the program as a user does, in a folder of its own, where scripts can be written. What it leaves in the temporary
+/// folder can be seen.
+class ProgramRun {
+public:
+  ProgramRun();
+
+  /// Writes a file into the folder; gives its path.
+  QString write(const QString& name, const QString& text);
+  QString folder() const { return m_folder.path(); }
+  void setEnvironment(const QString& name, const QString& value) { m_environment.insert(name, value); }
+
+  void start(const QStringList& arguments);
+  /// Reads the output until it holds `text`; false when the program ended without it.
+  bool waitForOutput(const QString& text);
+  ProgramResult finish();
+  ProgramResult run(const QStringList& arguments);
+
+  qint64 processId() const { return m_process.processId(); }
+  /// Files and folders that the program left in its temporary folder.
+  QStringList leftovers() const;
+  /// Processes that carry the program's temporary folder in their command line.
+  QList<qint64> browserProcesses() const;
+
+private:
+  QTemporaryDir m_folder;
+  QTemporaryDir m_temporary;
+  QProcessEnvironment m_environment;
+  QProcess m_process;
+  QString m_output;
+};
+
+}  // namespace TestSupport

@@ -1,0 +1,54 @@
+// Wrong usage: exit code 2, one sentence that names what is wrong, and nothing started.
+
+#include <gtest/gtest.h>
+
+#include "program/programrun.h"
+#include "support/printing.h"
+
+namespace {
+
+using TestSupport::ProgramResult;
+using TestSupport::ProgramRun;
+
+struct Misuse {
+  const char* name;
+  QStringList arguments;
+  const char* complaint;
+};
+
+class WrongUsage : public testing::TestWithParam<Misuse> {};
+
+TEST_P(WrongUsage, IsExplained) {
+  ProgramRun program;
+  program.write(QStringLiteral("good.js"), QStringLiteral("test.log('ran');"));
+  const ProgramResult result = program.run(GetParam().arguments);
+  EXPECT_EQ(result.exitCode, 2);
+  EXPECT_EQ(result.output, QString());
+  EXPECT_TRUE(result.errors.contains(QLatin1String(GetParam().complaint))) << qPrintable(result.errors);
+}
+
+const Misuse misuses[] = {
+    {"NoCommand", {}, "A command is missing."},
+    {"UnknownCommand", {"rnu"}, "There is no command 'rnu'."},
+    {"UnknownOption", {"run", "--hedaed", "good.js"}, "Unknown option 'hedaed'."},
+    {"NoScript", {"run"}, "A script is missing."},
+    {"MissingScript", {"run", "good.js", "bad.js"}, "The script 'bad.js' does not exist."},
+    {"BadTimeout", {"run", "--timeout", "soon", "good.js"}, "--timeout takes a number of seconds above 0, not 'soon'."},
+    {"JUnitFile", {"run", "--junit", "/nowhere/x.xml", "good.js"}, "/nowhere/x.xml"},
+    {"HookScriptArgument", {"hook-script", "now"}, "It takes no arguments."},
+};
+
+INSTANTIATE_TEST_SUITE_P(Program, WrongUsage, testing::ValuesIn(misuses),
+                         [](const auto& misuse) { return misuse.param.name; });
+
+TEST(Help, GoesToStandardOutputAndNamesTheOptions) {
+  ProgramRun program;
+  const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("--help")});
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_EQ(result.errors, QString());
+  for (const char* option : {"--browser", "--headed", "--attach", "--timeout", "--junit", "--verbose", "SCRIPT..."}) {
+    EXPECT_TRUE(result.output.contains(QLatin1String(option))) << option;
+  }
+}
+
+}  // namespace

@@ -1,0 +1,74 @@
+#include "support/hookedbrowser.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <cstdio>
+#include <cstdlib>
+
+#include "support/printing.h"
+
+namespace TestSupport {
+
+namespace {
+
+HookedBrowser* theBrowser = nullptr;
+
+class BrowserEnvironment : public testing::Environment {
+public:
+  void TearDown() override {
+    delete theBrowser;
+    theBrowser = nullptr;
+  }
+};
+
+void require(const QString& error) {
+  if (!error.isEmpty()) {
+    std::fprintf(stderr, "The test browser could not be started: %s\n", qPrintable(error));
+    std::exit(1);
+  }
+}
+
+}  // namespace
+
+HookedBrowser& HookedBrowser::instance() {
+  if (!theBrowser) {
+    theBrowser = new HookedBrowser;
+    testing::AddGlobalTestEnvironment(new BrowserEnvironment);
+  }
+  return *theBrowser;
+}
+
+HookedBrowser::HookedBrowser() : m_model(new Corvex::Webhook::WebModel) {
+  using namespace Corvex::Webhook;
+  qputenv("CORVEX_PREFIX", CORVEX_TEST_PREFIX);
+  BrowserSession::Start start = BrowserSession::start(SessionOptions());
+  require(start.error);
+  m_session = std::move(start.session);
+  m_connection = std::make_unique<Connection>(m_session->firstPage(), &m_config, BrowserIdentity());
+  QObject::connect(m_connection.get(), &Connection::documentGone, [this] { m_model->invalidateObjects(); });
+  m_model->setConnection(m_connection.get());
+  require(m_connection->install());
+}
+
+void HookedBrowser::load(const QString& body) {
+  const QString path = QStringLiteral("/page%1.html").arg(++m_pages);
+  ServerPage page;
+  page.body = QStringLiteral("<!DOCTYPE html><html><head></head><body>%1</body></html>").arg(body).toUtf8();
+  m_server.add(path, page);
+  ASSERT_EQ(m_connection->navigate(m_server.url(path)), QString());
+}
+
+QJsonValue HookedBrowser::evaluate(const QString& expression) {
+  const auto answer = m_connection->evaluateJS(QStringLiteral("JSON.stringify([%1])").arg(expression), 0);
+  if (!answer.succeeded()) {
+    return QStringLiteral("failed: ") + answer.text;
+  }
+  return QJsonDocument::fromJson(answer.text.toUtf8()).array().at(0);
+}
+
+QString testFile(const QString& path) { return QStringLiteral(CORVEX_TEST_SOURCE "/") + path; }
+
+}  // namespace TestSupport

@@ -1,0 +1,73 @@
+#include "support/testserver.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTcpSocket>
+#include <QUrl>
+
+namespace TestSupport {
+
+namespace {
+
+QByteArray typeOf(const QString& path) {
+  static const QMap<QString, QByteArray> types{{QStringLiteral("html"), "text/html; charset=utf-8"},
+                                               {QStringLiteral("js"), "text/javascript; charset=utf-8"},
+                                               {QStringLiteral("css"), "text/css; charset=utf-8"},
+                                               {QStringLiteral("json"), "application/json"},
+                                               {QStringLiteral("svg"), "image/svg+xml"},
+                                               {QStringLiteral("png"), "image/png"}};
+  return types.value(QFileInfo(path).suffix(), "text/plain; charset=utf-8");
+}
+
+QByteArray responseText(const ServerPage& page) {
+  QByteArray text = "HTTP/1.1 " + QByteArray::number(page.status) + " Status\r\n";
+  text += "Content-Type: " + page.type + "\r\nContent-Length: " + QByteArray::number(page.body.size()) + "\r\n";
+  for (const auto& header : page.headers)
+    text += header.first + ": " + header.second + "\r\n";
+  return text + "Connection: close\r\n\r\n" + page.body;
+}
+
+}  // namespace
+
+TestServer::TestServer() {
+  QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
+    while (QTcpSocket* socket = m_server.nextPendingConnection())
+      serve(socket);
+  });
+  m_server.listen(QHostAddress::LocalHost);
+}
+
+QString TestServer::url(const QString& path, const QString& host) const {
+  return QStringLiteral("http://%1:%2%3").arg(host, QString::number(m_server.serverPort()), path);
+}
+
+void TestServer::serve(QTcpSocket* socket) {
+  QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+  QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+    const QByteArray seen = socket->peek(64 * 1024);
+    const int headEnd = seen.indexOf("\r\n\r\n");
+    if (headEnd >= 0)
+      answer(socket, socket->read(headEnd + 4));
+  });
+}
+
+void TestServer::answer(QTcpSocket* socket, const QByteArray& head) {
+  const QString target = QString::fromLatin1(head.split(' ').value(1));
+  m_requests.append(target);
+  const ServerPage page = pageFor(QUrl::fromPercentEncoding(target.section(QLatin1Char('?'), 0, 0).toLatin1()));
+  if (page.silent)
+    return;
+  socket->write(responseText(page));
+  socket->disconnectFromHost();
+}
+
+ServerPage TestServer::pageFor(const QString& path) const {
+  if (m_pages.contains(path))
+    return m_pages.value(path);
+  QFile file(m_folder + path);
+  if (!m_folder.isEmpty() && !path.contains(QStringLiteral("..")) && file.open(QIODevice::ReadOnly))
+    return {file.readAll(), typeOf(path)};
+  return {"<title>Not found</title>", "text/html", {}, 404};
+}
+
+}  // namespace TestSupport

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QMap>
+#include <QPair>
+#include <QString>
+#include <QStringList>
+#include <QTcpServer>
+
+class QTcpSocket;
+
+namespace TestSupport {
+
+/// What the server answers to one path.
+struct ServerPage {
+  QByteArray body;
+  QByteArray type = "text/html; charset=utf-8";
+  QList<QPair<QByteArray, QByteArray>> headers = {};
+  int status = 200;
+  bool silent = false;  ///< Takes the request and never answers.
+};
+
+/// A small HTTP server on a free port of the loopback interface. It serves from the event loop of the thread that made
+/// it, so whatever waits for a page has to let events run.
+class TestServer {
+public:
+  TestServer();
+
+  bool isListening() const { return m_server.isListening(); }
+
+  /// Answers `path` (such as "/a.html") with `page`.
+  void add(const QString& path, const ServerPage& page) { m_pages[path] = page; }
+
+  /// Answers every path that is not added with the file of that name below `folder`.
+  void serveFolder(const QString& folder) { m_folder = folder; }
+
+  /// "http://127.0.0.1:port" + path; `host` may be another name of the loopback interface.
+  QString url(const QString& path, const QString& host = QStringLiteral("127.0.0.1")) const;
+
+  /// The paths that were asked for, queries included, in order.
+  const QStringList& requests() const { return m_requests; }
+
+private:
+  void serve(QTcpSocket* socket);
+  ServerPage pageFor(const QString& path) const;
+  void answer(QTcpSocket* socket, const QByteArray& head);
+
+  QTcpServer m_server;
+  QMap<QString, ServerPage> m_pages;
+  QString m_folder;
+  QStringList m_requests;
+};
+
+}  // namespace TestSupport

@@ -1,0 +1,24 @@
+// Starts a browser, says where, and goes the way that its argument names.
+
+#include <QCoreApplication>
+#include <cstdio>
+#include <cstdlib>
+
+#include "webhook/browsersession.h"
+#include "webhook/cleanup.h"
+
+int main(int argc, char** argv) {
+  Corvex::Webhook::Cleanup::install();
+  QCoreApplication application(argc, argv);
+  const QString way = application.arguments().value(1);
+  auto* const start = new Corvex::Webhook::BrowserSession::Start(Corvex::Webhook::BrowserSession::start({}));
+  if (!start->session)
+    return 3;
+  std::printf("%lld %s\n", start->session->browserProcess(), start->session->browserDirectory().toUtf8().constData());
+  std::fflush(stdout);
+  if (way == QLatin1String("exit"))
+    std::exit(7);
+  volatile bool stuck = true;
+  while (stuck) {
+  }
+}
