@@ -4,7 +4,7 @@
 #include "corvexhook/inspector.h"
 #include "webhook/browsersession.h"
 #include "webhook/cleanup.h"
-#include "webhook/connection.h"
+#include "webhook/browserwindows.h"
 #include "webhook/webmodel.h"
 #include "wrappers/web/calljavascriptfunction.h"
 #include "wrappers/web/getjscode.h"
@@ -112,18 +112,17 @@ bool measureLookups() {
   }
   WebWrapper::MemoryBasedConfig config;
   Webhook::WebModel model;
-  Webhook::Connection connection(start.session->firstPage(), &config, Webhook::BrowserIdentity());
-  model.setConnection(&connection);
-  const QString error = connection.install();
+  Webhook::BrowserWindows windows(*start.session, config, model);
+  const QString error = windows.open();
   if (!error.isEmpty()) {
     return fail(error);
   }
+  Webhook::Connection& connection = *windows.current();
   const bool done =
       measurePage(connection, "1,000 elements of ten tags, medians",
                   {"input", "div", "span", "a", "p", "li", "td", "button", "label", "section"}) &&
       measurePage(connection, "1,000 elements of one tag, medians", {"input"});
   std::printf("\n%-52s %9d\n", "hook script, characters", WebWrapper::getJSCode(config).size());
-  model.setConnection(nullptr);
   return done;
 }
 

@@ -27,6 +27,12 @@ const PrimitiveRow primitiveRows[] = {
     {PrimitiveType::String, "string"}, {PrimitiveType::Double, "double"},     {PrimitiveType::Void, "void"},
 };
 
+std::function<qint64()> machineClock() {
+  QElapsedTimer timer;
+  timer.start();
+  return [timer] { return timer.elapsed(); };
+}
+
 }  // namespace
 
 Inspector* Inspector::self() {
@@ -146,13 +152,39 @@ SharedPtr<Object> Inspector::lookup(const QString& name) {
   return lookupInRoots(QString(realName).replace(entity, QLatin1String("&")));
 }
 
+static const ObjectHierarchyDelegate* hierarchyDelegate(const SharedPtr<Object>& object) {
+  return dynamic_cast<const ObjectHierarchyDelegate*>(
+      DelegateFactory::self()->delegate(object->objectClass(), Delegate::ObjectHierarchyDelegateType));
+}
+
+static SharedPtr<Object> childByName(const SharedPtr<Object>& object, const QString& name) {
+  const ObjectHierarchyDelegate* delegate = hierarchyDelegate(object);
+  return delegate ? delegate->childByName(object, name) : SharedPtr<Object>();
+}
+
+/// Follows a plain name from child to child, its levels parted by dots.
+static SharedPtr<Object> descend(const SharedPtr<Object>& root, const QString& name) {
+  const QStringList levels = name.split(QLatin1Char('.'));
+  SharedPtr<Object> object = childByName(root, levels.first());
+  if (!object) {
+    // The dots may belong to the text that a child of the root is known by.
+    return levels.size() > 1 ? childByName(root, name) : SharedPtr<Object>();
+  }
+  for (int i = 1; object && i < levels.size(); ++i) {
+    object = childByName(object, levels.at(i));
+  }
+  return object;
+}
+
 SharedPtr<Object> Inspector::lookupInRoots(const QString& realName) const {
+  const ObjectName name(realName);
   const std::vector<SharedPtr<Object>> roots = m_roots;
   for (const SharedPtr<Object>& root : roots) {
-    const auto* delegate = dynamic_cast<const ObjectHierarchyDelegate*>(
-        DelegateFactory::self()->delegate(root->objectClass(), Delegate::ObjectHierarchyDelegateType));
-    const SharedPtr<Object> found =
-        delegate ? delegate->objectByQualifiedName(root, ObjectName(realName)) : SharedPtr<Object>();
+    const ObjectHierarchyDelegate* delegate = hierarchyDelegate(root);
+    SharedPtr<Object> found = delegate ? delegate->objectByQualifiedName(root, name) : SharedPtr<Object>();
+    if (!found && !hasScriptError() && !name.isMultiProperty()) {
+      found = descend(root, realName);
+    }
     if (found || hasScriptError()) {
       return found;
     }
@@ -161,8 +193,8 @@ SharedPtr<Object> Inspector::lookupInRoots(const QString& realName) const {
 }
 
 SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) {
-  QElapsedTimer timer;
-  timer.start();
+  const std::function<qint64()> now = m_services.now ? m_services.now : machineClock();
+  const qint64 start = now();
   bool wasFound = false;
   do {
     const SharedPtr<Object> found = lookup(name);
@@ -182,7 +214,7 @@ SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) 
     if (m_services.sleep) {
       m_services.sleep(attemptIntervalMs);
     }
-  } while (timer.elapsed() < timeoutMs);
+  } while (now() - start < timeoutMs);
   if (wasFound) {
     reportScriptError(
         QStringLiteral("The object '%1' was found, but was not ready within %2 ms: it is hidden or disabled.")
@@ -199,6 +231,11 @@ QString Inspector::notFoundError(const QString& name) const {
                              ? QString()
                              : QStringLiteral(" No element matched: %1.").arg(unmatched.join(QLatin1String(", ")));
   return QStringLiteral("Object '%1' not found.%2").arg(name, reason);
+}
+
+void Inspector::askFirst(const SharedPtr<Object>& root) {
+  std::stable_partition(m_roots.begin(), m_roots.end(),
+                        [&root](const SharedPtr<Object>& candidate) { return candidate == root; });
 }
 
 void Inspector::removeRootObject(const SharedPtr<Object>& root) {

@@ -20,6 +20,8 @@ struct HostServices {
   std::function<FunctionCallResult<bool>(const SharedPtr<Object>&)> isReady;
   /// Lets the given milliseconds pass while events are served, or less where there is trouble.
   std::function<void(int milliseconds)> sleep;
+  /// Milliseconds of a clock that never goes back. Without it the machine's own clock counts.
+  std::function<qint64()> now;
   /// Why nothing can be looked up now, as a sentence; an empty text when all is well.
   std::function<QString()> trouble;
 };
@@ -72,6 +74,8 @@ public:
 
   /// Where lookups start; asked in this order.
   void addRootObject(const SharedPtr<Object>& root) { m_roots.push_back(root); }
+  /// Moves a root object to the front.
+  void askFirst(const SharedPtr<Object>& root);
   void removeRootObject(const SharedPtr<Object>& root);
   const std::vector<SharedPtr<Object>>& rootObjects() const { return m_roots; }
 

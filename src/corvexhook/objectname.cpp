@@ -132,11 +132,15 @@ private:
   QString parseNested(const QString& name, PropertyValue::Modifiers modifiers) {
     const int start = m_pos;
     int depth = 0;
+    bool inQuotes = false;
     for (; !atEnd(); ++m_pos) {
-      const bool escaped = m_text.at(m_pos - 1) == QLatin1Char('\\');
-      if (current() == QLatin1Char('{') && !escaped) {
+      if (inQuotes && current() == QLatin1Char('\\')) {
+        ++m_pos;
+      } else if (current() == QLatin1Char('\'')) {
+        inQuotes = !inQuotes;
+      } else if (!inQuotes && current() == QLatin1Char('{')) {
         ++depth;
-      } else if (current() == QLatin1Char('}') && !escaped && --depth == 0) {
+      } else if (!inQuotes && current() == QLatin1Char('}') && --depth == 0) {
         ++m_pos;
         const QString value = m_text.mid(start, m_pos - start);
         const QString nestedError = ObjectName(value).parseError();

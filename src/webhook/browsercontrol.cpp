@@ -18,20 +18,6 @@ namespace {
 // How soon a sleeping script learns that its browser is gone.
 const int sleepSliceMs = 100;
 
-using ScriptValue = FunctionCallResult<SharedPtr<Object>>;
-
-BrowserIdentity identify(const BrowserSession& session) {
-  BrowserIdentity identity;
-  const QString name = session.browserName().toLower();
-  identity.family = name.contains(QLatin1String("firefox"))  ? BrowserIdentity::Firefox
-                    : name.contains(QLatin1String("google")) ? BrowserIdentity::Chrome
-                                                             : BrowserIdentity::Chromium;
-  identity.majorVersion = session.browserVersion().section(QLatin1Char('.'), 0, 0).toInt();
-  return identity;
-}
-
-ScriptValue scriptValue(const QString& error) { return {nullptr, error}; }
-
 }  // namespace
 
 BrowserControl::BrowserControl(const SessionOptions& options) : m_options(options) {
@@ -49,21 +35,6 @@ BrowserControl::~BrowserControl() {
   Inspector::self()->setHostServices(HostServices());
 }
 
-Scripting::ScriptHost BrowserControl::scriptHost() {
-  Scripting::ScriptHost host;
-  host.functions = {
-      {QStringLiteral("startBrowser"), QStringLiteral("startBrowser(url)"), 1, 1,
-       [this](const ObjectList& arguments) { return scriptValue(startBrowser(arguments[0]->toString())); }},
-      {QStringLiteral("closeWindow"), QStringLiteral("closeWindow()"), 0, 0,
-       [this](const ObjectList&) { return scriptValue(closeWindow()); }},
-      {QStringLiteral("scriptPath"), QStringLiteral("scriptPath(file)"), 1, 1,
-       [this](const ObjectList& arguments) {
-         return ScriptValue::success(Inspector::self()->wrapString(resolvePath(arguments[0]->toString())));
-       }},
-  };
-  return host;
-}
-
 QString BrowserControl::startBrowser(const QString& address) {
   closeBrowser();
   const QString error = openSession();
@@ -72,7 +43,7 @@ QString BrowserControl::startBrowser(const QString& address) {
     closeBrowser();
     return error;
   }
-  return m_connection->navigate(resolveAddress(address));
+  return m_windows->current()->navigate(resolveAddress(address));
 }
 
 QString BrowserControl::openSession() {
@@ -81,39 +52,41 @@ QString BrowserControl::openSession() {
     return start.error;
   }
   m_session = std::move(start.session);
-  m_connection = std::make_unique<Connection>(m_session->firstPage(), &m_config, identify(*m_session));
-  QObject::connect(m_session.get(), &BrowserSession::lost, m_connection.get(), [this](const QString& reason) {
+  m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model);
+  m_dialogs = std::make_unique<Dialogs>(*m_windows, [this](int milliseconds) { sleep(milliseconds); });
+  QObject::connect(m_session.get(), &BrowserSession::lost, m_windows.get(), [this](const QString& reason) {
     m_lossReason = reason;
     m_browserFailure = true;
   });
-  QObject::connect(m_connection.get(), &Connection::documentGone, m_connection.get(),
-                   [this] { m_model.invalidateObjects(); });
-  m_model.setConnection(m_connection.get());
-  return m_connection->install();
+  return m_windows->open();
 }
 
 QString BrowserControl::closeWindow() {
-  const QString error = trouble();
-  return error.isEmpty() ? m_connection->close() : error;
+  const QString error = windowTrouble();
+  return error.isEmpty() ? m_windows->current()->close() : error;
 }
 
 void BrowserControl::closeBrowser() {
-  m_model.setConnection(nullptr);
-  m_connection.reset();
+  m_dialogs.reset();
+  m_windows.reset();
   m_session.reset();
   m_lossReason.clear();
 }
 
-QString BrowserControl::trouble() const {
+QString BrowserControl::windowTrouble() const {
   if (!m_lossReason.isEmpty()) {
     return QStringLiteral("The browser was lost: %1").arg(m_lossReason);
   }
-  if (!m_connection) {
+  if (!m_windows) {
     return QStringLiteral("No browser is running. Call startBrowser(url) first.");
   }
-  return m_connection->isOpen()
-             ? QString()
-             : QStringLiteral("The browser window is closed. Call startBrowser(url) to open another.");
+  return m_windows->current() ? QString()
+                              : QStringLiteral("The browser window is closed. Call startBrowser(url) to open another.");
+}
+
+QString BrowserControl::trouble() const {
+  const QString error = windowTrouble();
+  return error.isEmpty() ? m_dialogs->obstacle() : error;
 }
 
 void BrowserControl::scriptStarted(const QString& path) { m_scriptFolder = QFileInfo(path).absolutePath(); }
@@ -137,12 +110,13 @@ QString BrowserControl::resolveAddress(const QString& address) const {
 void BrowserControl::sleep(int milliseconds) {
   QElapsedTimer timer;
   timer.start();
-  for (int left = milliseconds; left > 0 && m_lossReason.isEmpty();
-       left = milliseconds - static_cast<int>(timer.elapsed())) {
+  int left = milliseconds;
+  while (left > 0 && m_lossReason.isEmpty()) {
     WebWrapper::gentleSleep(qMin(left, sleepSliceMs));
+    left = milliseconds - static_cast<int>(timer.elapsed());
   }
   if (!m_lossReason.isEmpty()) {
-    Inspector::self()->reportScriptError(trouble());
+    Inspector::self()->reportScriptError(windowTrouble());
   }
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "scripting/scriptfunction.h"
 #include "scripting/scriptlistener.h"
 #include "webhook/browsersession.h"
-#include "webhook/connection.h"
+#include "webhook/browserwindows.h"
+#include "webhook/dialogs.h"
 #include "webhook/webmodel.h"
 #include "wrappers/web/wrapperconfig.h"
 
@@ -19,33 +19,41 @@ public:
   explicit BrowserControl(const SessionOptions& options);
   ~BrowserControl() override;
 
-  /// The script functions that this class serves.
-  Scripting::ScriptHost scriptHost();
-
   /// Starts a browser, in place of one that runs, and opens a page in it.
   QString startBrowser(const QString& address);
+  /// Closes the current window.
   QString closeWindow();
   void closeBrowser();
 
-  /// Why nothing can be looked up now; empty when all is well.
+  /// Null when no browser runs.
+  BrowserWindows* windows() const { return m_windows.get(); }
+  Dialogs* dialogs() const { return m_dialogs.get(); }
+
+  /// Why no window can be used now; empty when all is well.
+  QString windowTrouble() const;
+  /// The same, and why the current window cannot be asked anything.
   QString trouble() const;
   /// Whether, at any time, a browser could not be started or was lost.
   bool hadBrowserFailure() const { return m_browserFailure; }
+
+  /// A path as the running script means it: relative to its own folder.
+  QString resolvePath(const QString& path) const;
+  /// Sleeps that long, or less when the browser is lost, which is then the error of the script.
+  void sleep(int milliseconds);
 
   void scriptStarted(const QString& path) override;
   void scriptFinished(const Scripting::ScriptResult& result) override;
 
 private:
   QString openSession();
-  QString resolvePath(const QString& path) const;
   QString resolveAddress(const QString& address) const;
-  void sleep(int milliseconds);
 
   SessionOptions m_options;
   WebWrapper::FileSystemBasedConfig m_config;
   WebModel m_model;
   std::unique_ptr<BrowserSession> m_session;
-  std::unique_ptr<Connection> m_connection;
+  std::unique_ptr<BrowserWindows> m_windows;
+  std::unique_ptr<Dialogs> m_dialogs;
   QString m_scriptFolder;
   QString m_lossReason;
   bool m_browserFailure = false;

@@ -54,6 +54,10 @@ public:
   };
   virtual NewPage newPage() = 0;
 
+  /// Has `text` run in every page that opens from now on, as `BrowserPage::addStartScript` has it in one: in the first
+  /// document already, before the page's own scripts.
+  virtual QString addStartScriptOfNewPages(const QString& text) = 0;
+
   /// Ends the browser that was started, with its processes and its profile; of a visited one, closes the session's
   /// pages. Open calls end. No signal lost().
   virtual void close() = 0;

@@ -1,6 +1,7 @@
 #include "webhook/connection.h"
 
 #include "webhook/extensioncheck.h"
+#include "wrappers/web/escaping.h"
 #include "wrappers/web/html_text.h"
 #include "wrappers/web/widgetclasses.h"
 
@@ -22,49 +23,94 @@ const BrowserKindRow browserKinds[] = {
     {BrowserIdentity::Chromium, 4},
 };
 
-QString closedPage() {
-  return QStringLiteral("The browser window is closed. Call startBrowser(url) to open another.");
-}
+QString closedPage() { return QStringLiteral("The browser window is closed. Call startBrowser(url) to open another."); }
 
 }  // namespace
 
 Connection::Connection(BrowserPage* page, const WebWrapper::WrapperConfig* config, const BrowserIdentity& browser,
-                       QObject* parent)
-    : QObject(parent), m_page(page), m_config(config), m_browser(browser) {
+                       const QString& tabId, QObject* parent)
+    : QObject(parent), m_page(page), m_config(config), m_browser(browser), m_tabId(tabId) {
+  connect(page, &BrowserPage::crashed, this, &Connection::documentGone);
   connect(page, &BrowserPage::navigated, this, &Connection::documentGone);
   connect(page, &BrowserPage::closed, this, &Connection::documentGone);
-  connect(page, &BrowserPage::crashed, this, &Connection::documentGone);
+  connect(this, &Connection::documentGone, this, [this] { m_greeted = false; });
+  connect(page, &BrowserPage::dialogOpened, this, [this] {
+    if (const std::optional<Dialog> dialog = openDialog()) {
+      m_lastDialogs[dialog->kind] = *dialog;
+    }
+  });
 }
 
 QString Connection::install() {
-  const QString text = hookText(*m_config, m_browser);
-  const WebWrapper::JavaScriptAnswer answer = evaluateJS(text, 0);
-  if (!answer.succeeded()) {
-    return extensionError(*this, answer.text);
+  const QString error = greetDocument();
+  if (!error.isEmpty()) {
+    return error;
   }
-  return m_page ? m_page->addStartScript(text) : closedPage();
+  return m_page ? m_page->addStartScript(hookText(*m_config, m_browser)) : closedPage();
+}
+
+QString Connection::greetDocument() {
+  m_greeted = true;
+  const QString greeting = QStringLiteral(
+                               "typeof __corvex__isHooked === 'function' && __corvex__isHooked() ? "
+                               "(window.__corvex__browsertabid = '%1', true) : false")
+                               .arg(m_tabId);
+  WebWrapper::JavaScriptAnswer answer = ask(greeting, 0);
+  if (answer.succeeded() && answer.text != QLatin1String("true")) {
+    answer = ask(hookText(*m_config, m_browser), 0);
+    if (answer.failed) {
+      m_greeted = false;
+      return extensionError(*this, answer.text);
+    }
+    answer = ask(greeting, 0);
+  }
+  m_greeted = answer.text == QLatin1String("true");
+  if (m_greeted && !m_contextName.isEmpty()) {
+    setContext(m_contextName);
+  }
+  return m_greeted ? QString() : answer.text;
 }
 
 QString Connection::navigate(const QString& url, int timeoutMs) {
   if (!m_page) {
     return closedPage();
   }
+  m_contextName.clear();
   const QString error = m_page->navigate(url, timeoutMs);
   if (!error.isEmpty()) {
     return error;
   }
-  const WebWrapper::JavaScriptAnswer hooked =
-      evaluateJS(QStringLiteral("typeof __corvex__isHooked === 'function' && __corvex__isHooked()"), 0);
-  return hooked.text == QLatin1String("true")
+  const QString why = m_greeted ? QString() : greetDocument();
+  return why.isEmpty()
              ? QString()
-             : QStringLiteral("The page '%1' was loaded, but its scripts could not be reached: %2").arg(url, hooked.text);
+             : QStringLiteral("The page '%1' was loaded, but its scripts could not be reached: %2").arg(url, why);
+}
+
+bool Connection::setContext(const QString& name) {
+  m_contextName = name;
+  const QString code = QStringLiteral("__corvex__setContext('%1')").arg(WebWrapper::escapeQuoteWithBackslash(name));
+  return evaluateJS(code, 0).text == QLatin1String("true");
 }
 
 QString Connection::close() { return m_page ? m_page->close() : QString(); }
 
 bool Connection::isOpen() const { return m_page && m_page->isOpen(); }
 
+std::optional<Dialog> Connection::openDialog() const { return m_page ? m_page->openDialog() : std::nullopt; }
+
+QString Connection::answerDialog(bool accept, const QString& text) {
+  return m_page ? m_page->answerDialog(accept, text) : closedPage();
+}
+
 WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigned int timeoutMs) {
+  if (!m_greeted) {
+    // Whether it worked shows in what the code itself gives.
+    greetDocument();
+  }
+  return ask(code, timeoutMs);
+}
+
+WebWrapper::JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {
   WebWrapper::JavaScriptAnswer answer;
   if (!m_page) {
     answer.text = closedPage();

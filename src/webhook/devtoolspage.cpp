@@ -29,12 +29,15 @@ private:
 
 }  // namespace
 
-DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target)
+DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
+                           const QStringList& startScripts)
     : m_channel(channel), m_session(session), m_sessionId(target.session), m_target(target.id), m_url(target.url) {
   m_channel.subscribe(m_sessionId, this,
                       [this](const QString& method, const QJsonObject& parameters) { takeEvent(method, parameters); });
   for (const Command& command : DevTools::watchPage())
     m_watched = m_channel.start(m_sessionId, command);
+  for (const QString& script : startScripts)
+    m_watched = m_channel.start(m_sessionId, DevTools::addStartScript(script));
   m_channel.start(m_sessionId, DevTools::resumePage());
 }
 

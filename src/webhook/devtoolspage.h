@@ -17,8 +17,9 @@ class DevToolsPage : public BrowserPage {
   Q_OBJECT
 
 public:
-  /// Begins to watch the page and lets it go on. Both arguments outlive the page.
-  DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target);
+  /// Begins to watch the page, gives it its start scripts and lets it go on. Channel and session outlive the page.
+  DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
+               const QStringList& startScripts);
   ~DevToolsPage() override;
 
   Evaluation evaluate(const QString& code, int timeoutMs) override;

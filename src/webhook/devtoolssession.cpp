@@ -114,6 +114,11 @@ BrowserSession::NewPage DevToolsSession::newPage() {
   return {nullptr, QStringLiteral("The browser opened a page but did not report it. Try again.")};
 }
 
+QString DevToolsSession::addStartScriptOfNewPages(const QString& text) {
+  m_startScripts << text;
+  return {};
+}
+
 void DevToolsSession::close() {
   if (m_ended)
     return;
@@ -159,7 +164,7 @@ void DevToolsSession::onAttached(const QJsonObject& parameters) {
   }
   if (target.opener.isEmpty() && m_pagesToCome > 0)
     --m_pagesToCome;
-  m_pages.push_back(std::make_unique<DevToolsPage>(m_channel, *this, target));
+  m_pages.push_back(std::make_unique<DevToolsPage>(m_channel, *this, target, m_startScripts));
   m_firstPageOpened->complete();
   if (m_pages.size() > 1)
     Q_EMIT pageOpened(m_pages.back().get());

@@ -23,6 +23,7 @@ public:
   BrowserPage* firstPage() const override;
   QVector<BrowserPage*> pages() const override;
   NewPage newPage() override;
+  QString addStartScriptOfNewPages(const QString& text) override;
   void close() override;
   bool isLost() const override { return m_ended; }
   QString browserName() const override { return m_name; }
@@ -50,6 +51,7 @@ private:
   Channel m_channel;
   std::vector<std::unique_ptr<DevToolsPage>> m_pages;  ///< Closed ones included: callers may still hold them.
   std::shared_ptr<Pending> m_firstPageOpened = std::make_shared<Pending>();
+  QStringList m_startScripts;  ///< Of pages that open from now on.
   int m_pagesToCome = 0;
   QString m_name;
   QString m_version;

@@ -5,6 +5,7 @@
 #include "scripting/junitreporter.h"
 #include "scripting/scriptengine.h"
 #include "webhook/browsercontrol.h"
+#include "webhook/browserfunctions.h"
 #include "webhook/commandline.h"
 #include "webhook/commandoptions.h"
 #include "webhook/output.h"
@@ -86,7 +87,7 @@ int runScripts(const RunOptions& options) {
     listeners.add(&junit);
   }
   Inspector::self()->setDefaultTimeout(options.timeoutMs);
-  const RunSummary summary = ScriptEngine(browser.scriptHost(), &listeners).run(options.scripts);
+  const RunSummary summary = ScriptEngine(browserFunctions(browser), &listeners).run(options.scripts);
   if (!junit.error().isEmpty()) {
     printError(QStringLiteral("corvexweb run: %1\n").arg(junit.error()));
   }

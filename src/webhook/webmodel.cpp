@@ -2,17 +2,20 @@
 
 #include "corvexhook/inspector.h"
 #include "webhook/connection.h"
-#include "wrappers/web/readiness.h"
 #include "wrappers/web/sharedobjectmodelfunctions.h"
 #include "wrappers/web/webobject_init.h"
 #include "wrappers/web/webobjectdelegate.h"
-#include "wrappers/web/wraphtmlobject.h"
+
+#include <QScopedValueRollback>
 
 namespace Corvex::Webhook {
 
 namespace {
 
 const char* const browserClassName = "Browser";
+
+// One sweep leaves at most every other object of a connection behind, so this many leave none of 2^32.
+const int sweepsThatReachAll = 32;
 
 }  // namespace
 
@@ -21,46 +24,77 @@ class BrowserToplevelDelegate : public WebWrapper::WebToplevelDelegate {
 public:
   BrowserToplevelDelegate() : WebToplevelDelegate(QString::fromLatin1(browserClassName)) {}
 
-  void setConnection(Connection* connection) { m_connection = connection; }
+  void setCurrent(Connection* connection) { m_current = connection; }
+  Connection* current() const { return m_current; }
 
   WebWrapper::HTMLComponent* component(SharedPtr<Object> root) const override {
     void* data = nullptr;
-    return root && root->get(&data) ? static_cast<Connection*>(data) : m_connection;
+    if (root && root->get(&data)) {
+      return static_cast<Connection*>(data);
+    }
+    return m_asked ? m_asked : m_current;
   }
 
   bool keepsDocumentAcrossComponents() const override { return false; }
 
+  /// The containers of a name come with no root: they are in the page of the name itself.
+  SharedPtr<Object> objectByQualifiedName(SharedPtr<Object> root, const ObjectName& name) const override {
+    const QScopedValueRollback<WebWrapper::HTMLComponent*> asked(m_asked, component(root));
+    return WebToplevelDelegate::objectByQualifiedName(root, name);
+  }
+
 private:
-  Connection* m_connection = nullptr;
+  Connection* m_current = nullptr;
+  mutable WebWrapper::HTMLComponent* m_asked = nullptr;
 };
 
 WebModel::WebModel() {
-  Inspector* inspector = Inspector::self();
-  m_browserClass = new Class(browserClassName, inspector->globalNamespace(), true);
+  m_browserClass = new Class(browserClassName, Inspector::self()->globalNamespace(), true);
   WebWrapper::createWebObjectClasses();
   WebWrapper::setupSharedObjectModelFunctions();
   m_toplevel = std::make_unique<BrowserToplevelDelegate>();
   m_hierarchy = std::make_unique<WebWrapper::HTMLObjectHierarchyDelegate>();
 }
 
-WebModel::~WebModel() { setConnection(nullptr); }
-
-void WebModel::setConnection(Connection* connection) {
-  Inspector* inspector = Inspector::self();
-  if (m_root) {
-    inspector->removeRootObject(m_root);
-    m_root = nullptr;
-    invalidateObjects();
-  }
-  m_toplevel->setConnection(connection);
-  if (connection) {
-    m_root = m_browserClass->wrap(connection, ObjectAttribute(ObjectAttribute::NativePointer));
-    inspector->addRootObject(m_root);
+WebModel::~WebModel() {
+  while (!m_roots.empty()) {
+    removeConnection(m_roots.begin()->first);
   }
 }
 
-void WebModel::invalidateObjects() {
-  m_hierarchy->invalidateAllReferencedObjects();
+void WebModel::addConnection(Connection* connection) {
+  const SharedPtr<Object> root = m_browserClass->wrap(connection, ObjectAttribute(ObjectAttribute::NativePointer));
+  m_roots[connection] = root;
+  Inspector::self()->addRootObject(root);
+  if (!current()) {
+    m_toplevel->setCurrent(connection);
+  }
+}
+
+void WebModel::removeConnection(Connection* connection) {
+  const auto found = m_roots.find(connection);
+  if (found == m_roots.end()) {
+    return;
+  }
+  Inspector::self()->removeRootObject(found->second);
+  m_roots.erase(found);
+  invalidateObjects(connection);
+  if (current() == connection) {
+    m_toplevel->setCurrent(nullptr);
+  }
+}
+
+void WebModel::setCurrent(Connection* connection) {
+  m_toplevel->setCurrent(connection);
+  Inspector::self()->askFirst(m_roots[connection]);
+}
+
+Connection* WebModel::current() const { return m_toplevel->current(); }
+
+void WebModel::invalidateObjects(Connection* connection) {
+  for (int sweep = 0; sweep < sweepsThatReachAll; ++sweep) {
+    m_hierarchy->clearAllJSReferences(connection);
+  }
   m_toplevel->clearDocumentReference();
 }
 

@@ -2,6 +2,7 @@
 
 #include "corvexhook/object.h"
 
+#include <map>
 #include <memory>
 
 namespace Corvex {
@@ -18,24 +19,31 @@ namespace Webhook {
 class BrowserToplevelDelegate;
 class Connection;
 
-/// The web wrapper inside the host framework: its classes, its delegates, and the browser page that lookups start from.
-/// One for the life of the process.
+/// The web wrapper inside the host framework: its classes, its delegates, and the pages that lookups start from, each a
+/// root object. One for the life of the process.
 class WebModel {
 public:
   WebModel();
   ~WebModel();
 
-  /// From now on lookups start in this page; null for none. The connection stays its owner's.
-  void setConnection(Connection* connection);
-  /// A document went away: every object of it is dead from now on.
-  void invalidateObjects();
+  /// From now on lookups look into this page too, behind the others. The connection stays its owner's.
+  void addConnection(Connection* connection);
+  /// Every object of the page is dead from now on.
+  void removeConnection(Connection* connection);
+  /// Lookups start in this page.
+  void setCurrent(Connection* connection);
+  /// Null without any.
+  Connection* current() const;
+
+  /// A document went away: every object of its page is dead from now on.
+  void invalidateObjects(Connection* connection);
 
 private:
   const Class* m_browserClass;
   std::unique_ptr<BrowserToplevelDelegate> m_toplevel;
   std::unique_ptr<WebWrapper::HTMLObjectHierarchyDelegate> m_hierarchy;
   std::unique_ptr<WebWrapper::WebObjectComparisonDelegate> m_comparison;
-  SharedPtr<Object> m_root;
+  std::map<Connection*, SharedPtr<Object>> m_roots;
 };
 
 }  // namespace Webhook

@@ -47,10 +47,8 @@ HookedBrowser::HookedBrowser() : m_model(new Corvex::Webhook::WebModel) {
   BrowserSession::Start start = BrowserSession::start(SessionOptions());
   require(start.error);
   m_session = std::move(start.session);
-  m_connection = std::make_unique<Connection>(m_session->firstPage(), &m_config, BrowserIdentity());
-  QObject::connect(m_connection.get(), &Connection::documentGone, [this] { m_model->invalidateObjects(); });
-  m_model->setConnection(m_connection.get());
-  require(m_connection->install());
+  m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, *m_model);
+  require(m_windows->open());
 }
 
 void HookedBrowser::load(const QString& body) {
@@ -58,11 +56,11 @@ void HookedBrowser::load(const QString& body) {
   ServerPage page;
   page.body = QStringLiteral("<!DOCTYPE html><html><head></head><body>%1</body></html>").arg(body).toUtf8();
   m_server.add(path, page);
-  ASSERT_EQ(m_connection->navigate(m_server.url(path)), QString());
+  ASSERT_EQ(connection().navigate(m_server.url(path)), QString());
 }
 
 QJsonValue HookedBrowser::evaluate(const QString& expression) {
-  const auto answer = m_connection->evaluateJS(QStringLiteral("JSON.stringify([%1])").arg(expression), 0);
+  const auto answer = connection().evaluateJS(QStringLiteral("JSON.stringify([%1])").arg(expression), 0);
   if (!answer.succeeded()) {
     return QStringLiteral("failed: ") + answer.text;
   }

@@ -6,7 +6,7 @@
 
 #include "support/testserver.h"
 #include "webhook/browsersession.h"
-#include "webhook/connection.h"
+#include "webhook/browserwindows.h"
 #include "webhook/webmodel.h"
 #include "wrappers/web/wrapperconfig.h"
 
@@ -19,7 +19,7 @@ public:
   static HookedBrowser& instance();
 
   Corvex::Webhook::BrowserSession& session() { return *m_session; }
-  Corvex::Webhook::Connection& connection() { return *m_connection; }
+  Corvex::Webhook::Connection& connection() { return *m_windows->current(); }
   TestServer& server() { return m_server; }
 
   /// Loads a page with this body from the local server; the test fails when it cannot.
@@ -34,7 +34,7 @@ private:
   Corvex::WebWrapper::MemoryBasedConfig m_config;
   std::unique_ptr<Corvex::Webhook::WebModel> m_model;
   std::unique_ptr<Corvex::Webhook::BrowserSession> m_session;
-  std::unique_ptr<Corvex::Webhook::Connection> m_connection;
+  std::unique_ptr<Corvex::Webhook::BrowserWindows> m_windows;
   int m_pages = 0;
 };
 

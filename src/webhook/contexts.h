@@ -1,0 +1,39 @@
+#pragma once
+
+#include "corvexhook/functioncallresult.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+namespace Corvex::Webhook {
+
+class BrowserWindows;
+class Connection;
+
+/// A document that lookups can start in.
+struct Context {
+  QString name;
+  Connection* connection = nullptr;
+  /// Its name inside the page of that connection.
+  QString localName;
+};
+
+/// All contexts of all pages: each window's document, and behind it its frames. Where two pages have the same name, the
+/// second and later ones have "<2>" and so on behind the page's part of the name. Pages that cannot answer have none.
+QVector<Context> allContexts(const BrowserWindows& windows);
+
+/// Whether there is a context of that name now.
+bool hasContext(const BrowserWindows& windows, const QString& name);
+
+/// Lookups start in that context from now on. The error lists the names that there are.
+QString selectContext(BrowserWindows& windows, const QString& name);
+
+/// Selects a frame of the current page by its path of names, ids or "FRAME" and number, parted by dots.
+QString selectFrame(const BrowserWindows& windows, const QString& path);
+
+QStringList contextNames(const BrowserWindows& windows);
+/// The names of the contexts that are windows.
+QStringList windowNames(const BrowserWindows& windows);
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "corvexhook/objectname.h"
+
+#include <list>
+
+namespace Corvex::WebWrapper {
+
+/// The chain of names from the outermost container down to the name itself, each without its container. A container
+/// that stands in the object map is taken from there.
+std::list<ObjectName> splitByContainer(ObjectName name);
+
+/// The reverse of `splitByContainer`.
+ObjectName joinByContainer(const std::list<ObjectName>& names);
+
+/// The name with `container` around its outermost container.
+ObjectName setObjectNameContainer(ObjectName name, QString container);
+
+}  // namespace Corvex::WebWrapper

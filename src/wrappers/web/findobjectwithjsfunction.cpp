@@ -1,0 +1,41 @@
+#include "wrappers/web/findobjectwithjsfunction.h"
+
+#include "corvexhook/inspector.h"
+#include "shared/environment.h"
+#include "tracelib/tracepoint.h"
+#include "wrappers/web/escaping.h"
+#include "wrappers/web/retrievehtmlobject.h"
+#include "wrappers/web/wraphtmlobject.h"
+
+namespace Corvex::WebWrapper {
+
+namespace {
+
+const unsigned int defaultTimeoutMs = 5000;
+
+unsigned int lookupTimeout() {
+  bool isNumber = false;
+  const unsigned int timeoutMs = environmentVariable("CORVEX_WEB_OBJECT_LOOKUP_TIMEOUT").toUInt(&isNumber, 10);
+  return isNumber ? timeoutMs : defaultTimeoutMs;
+}
+
+}  // namespace
+
+SharedPtr<Object> findObjectWithJsFunction(const QString& code, const QString& name, HTMLComponent* component) {
+  const FunctionCallResult<HTML_Object*> result =
+      htmlObjectFromJavaScriptResult(component, code, name, lookupTimeout());
+  TRACE_POINT("WebObjectDelegate", QLatin1String("Generated html object for name ") + name + QLatin1String(": ") +
+                                       (result.value ? result.value->reference : QStringLiteral("null")));
+  if (result.failed()) {
+    Inspector::self()->reportScriptError(
+        QStringLiteral("Failed to lookup object name '%1' with function '%2': %3").arg(name, code, result.error));
+    return nullptr;
+  }
+  if (!result.value) {
+    return nullptr;
+  }
+  Inspector::self()->removeUnmatchedProperties(unescape(name));
+  return wrapObject(result.value);
+}
+
+}  // namespace Corvex::WebWrapper

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "corvexhook/object.h"
+
+#include <QString>
+
+namespace Corvex::WebWrapper {
+
+class HTMLComponent;
+
+/// One attempt to find an object by evaluating `code` in the page; `name` is what was asked for. A null pointer when
+/// there is no such object, and when the lookup failed, which is reported to the script. The environment variable
+/// CORVEX_WEB_OBJECT_LOOKUP_TIMEOUT has the time limit in milliseconds, 5000 without it.
+SharedPtr<Object> findObjectWithJsFunction(const QString& code, const QString& name, HTMLComponent* component);
+
+}  // namespace Corvex::WebWrapper

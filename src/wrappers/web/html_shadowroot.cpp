@@ -1,0 +1,11 @@
+#include "wrappers/web/html_shadowroot.h"
+
+#include "wrappers/web/scriptclass.h"
+
+namespace Corvex::WebWrapper {
+
+const char* HTML_ShadowRoot::className() const { return ScriptName; }
+
+const ClassRows HTML_ShadowRoot_Class = classRows("HTML_ShadowRoot", "HTML_Object");
+
+}  // namespace Corvex::WebWrapper

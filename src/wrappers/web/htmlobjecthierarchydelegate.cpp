@@ -1,0 +1,209 @@
+#include "corvexhook/inspector.h"
+#include "tracelib/tracepoint.h"
+#include "wrappers/web/calljavascriptfunction.h"
+#include "wrappers/web/containers.h"
+#include "wrappers/web/escaping.h"
+#include "wrappers/web/findobjectwithjsfunction.h"
+#include "wrappers/web/htmlcomponent.h"
+#include "wrappers/web/jsonanswer.h"
+#include "wrappers/web/references.h"
+#include "wrappers/web/retrievehtmlobject.h"
+#include "wrappers/web/webobjectdelegate.h"
+#include "wrappers/web/wraphtmlobject.h"
+
+#include <cstdio>
+#include <cstring>
+
+namespace Corvex::WebWrapper {
+
+namespace {
+
+const int webWrapperType = 8;
+const unsigned int childInfoTimeoutMs = 60000;
+
+bool isReachable(const HTML_Object* object) { return object && object->component && object->component->isAvailable(); }
+
+void printError(const char* format, const QString& text) { std::fprintf(stderr, format, qUtf8Printable(text)); }
+
+const ObjectHierarchyDelegate* hierarchyDelegate(const SharedPtr<Object>& object) {
+  return object ? dynamic_cast<const ObjectHierarchyDelegate*>(
+                      DelegateFactory::self()->delegate(object->objectClass(), Delegate::ObjectHierarchyDelegateType))
+                : nullptr;
+}
+
+}  // namespace
+
+HTMLObjectHierarchyDelegate::HTMLObjectHierarchyDelegate() : ObjectHierarchyDelegate(QStringLiteral("HTML_Object")) {}
+
+HTMLObjectHierarchyDelegate::~HTMLObjectHierarchyDelegate() = default;
+
+int HTMLObjectHierarchyDelegate::numChildren(SharedPtr<Object> object) const { return children(object).size(); }
+
+SharedPtr<Object> HTMLObjectHierarchyDelegate::child(SharedPtr<Object> object, int index) const {
+  return children(object).at(index);
+}
+
+SharedPtr<Object> HTMLObjectHierarchyDelegate::childByName(SharedPtr<Object> object, const QString& name) const {
+  const ObjectList list = children(object);
+  for (const SharedPtr<Object>& child : list) {
+    if (this->name(child) == name) {
+      return child;
+    }
+  }
+  return nullptr;
+}
+
+QString HTMLObjectHierarchyDelegate::name(SharedPtr<Object> object) const {
+  const HTML_Object* native = retrieveObject(object);
+  if (!native) {
+    return QString();
+  }
+  const FunctionCallResult<QString> name = native->name();
+  if (name.failed()) {
+    printError("%s\n", name.error);
+  }
+  return name.value;
+}
+
+int HTMLObjectHierarchyDelegate::wrapperType() const { return webWrapperType; }
+
+SharedPtr<Object> HTMLObjectHierarchyDelegate::objectByQualifiedName(SharedPtr<Object> parent,
+                                                                     const ObjectName& name) const {
+  const QString qualifiedName = name.qualifiedName();
+  if (name.isMultiProperty() && name.hasProperty(QStringLiteral("context"))) {
+    Inspector::self()->reportScriptError(
+        QStringLiteral("Invalid object name '%1'. Cannot lookup objects that have a context and a container property, "
+                       "please make sure the context property is set only on the 'top-most' object name in a hierarchy "
+                       "of containers.")
+            .arg(qualifiedName));
+    TRACE_POINT("WebObjectSearch", QLatin1String("Found object name with context and container: ") + qualifiedName);
+    return nullptr;
+  }
+  if (splitByContainer(name).size() > 1) {
+    return objectInContainer(parent, name);
+  }
+  const HTML_Object* native = retrieveObject(parent);
+  const bool lacksTagName = name.isMultiProperty() && !name.hasProperty(QStringLiteral("tagName"));
+  if (!isReachable(native) || lacksTagName) {
+    return nullptr;
+  }
+  const QString code = QLatin1String("__corvex__findObjectByProps( ") + native->reference + QLatin1String(", \"") +
+                       escapeObjectNameForUseAsStringLiteral(qualifiedName) + QLatin1String("\");");
+  return findObjectWithJsFunction(code, qualifiedName, native->component);
+}
+
+SharedPtr<Object> HTMLObjectHierarchyDelegate::objectInContainer(SharedPtr<Object> parent,
+                                                                 const ObjectName& name) const {
+  std::list<ObjectName> parts = splitByContainer(name);
+  const ObjectName first = parts.front();
+  parts.pop_front();
+  const ObjectHierarchyDelegate* parentDelegate = hierarchyDelegate(parent);
+  const SharedPtr<Object> container =
+      parentDelegate ? parentDelegate->objectByQualifiedName(parent, first) : SharedPtr<Object>();
+  if (!container) {
+    Inspector::self()->addUnmatchedProperty(name.qualifiedName(), QStringLiteral("container"));
+    return nullptr;
+  }
+  const ObjectHierarchyDelegate* delegate = hierarchyDelegate(container);
+  if (!delegate) {
+    Inspector::self()->reportScriptError(
+        QStringLiteral("No container delegate found for type '%1' from object name: %2")
+            .arg(container->objectClass()->name(), name.qualifiedName()));
+    return nullptr;
+  }
+  return delegate->objectByQualifiedName(container, joinByContainer(parts));
+}
+
+QString HTMLObjectHierarchyDelegate::qualifiedName(SharedPtr<Object> object) const {
+  const HTML_Object* native = retrieveObject(object);
+  if (!native) {
+    return QString();
+  }
+  const JavaScriptAnswer answer = native->evaluateJS(QStringLiteral("__corvex__nameOf(%1);").arg(native->reference));
+  if (!answer.succeeded()) {
+    printError("Error obtaining qualified name of object: %s\n", answer.text);
+    return QString();
+  }
+  return unescape(answer.text);
+}
+
+ObjectList HTMLObjectHierarchyDelegate::children(SharedPtr<Object> object) const {
+  ObjectList list;
+  if (!isReachable(retrieveObject(object))) {
+    return list;
+  }
+  if (m_childCache.value(object).empty()) {
+    const QString error = getChildInfo(object);
+    if (!error.isEmpty()) {
+      printError("%s\n", error);
+    }
+  }
+  // Other work may have changed the cache during the page call.
+  list.append(m_childCache.value(object));
+  return list;
+}
+
+QString HTMLObjectHierarchyDelegate::getChildInfo(SharedPtr<Object> object) const {
+  const HTML_Object* native = retrieveObject(object);
+  HTMLComponent* const component = native->component;
+  const QString failure = QStringLiteral("Failed to retrieve children for html object %1: %2\n");
+  const FunctionCallResult<Json::Value> info = callJavaScriptFunction(
+      component, QStringLiteral("window.top.__corvex.childObjectAndInfo( %1 )").arg(native->reference),
+      childInfoTimeoutMs);
+  if (info.failed()) {
+    return failure.arg(native->knownName(), info.error);
+  }
+  if (!info.value.isArray()) {
+    return failure.arg(native->knownName(), QStringLiteral("the page answered no list"));
+  }
+  std::vector<SharedPtr<Object>> children;
+  for (const Json::Value& entry : info.value) {
+    if (!entry.isObject()) {
+      continue;
+    }
+    HTML_Object* child = htmlObjectFromReferenceInfo(component, jsonText(entry["typeString"]),
+                                                     jsonText(entry["reference"]), jsonText(entry["nameInLeaf"]));
+    if (child) {
+      children.push_back(wrapObject(child));
+    }
+  }
+  m_childCache.insert(object, children);
+  return QString();
+}
+
+SharedPtr<Object> HTMLObjectHierarchyDelegate::parent(SharedPtr<Object> object) const {
+  HTML_Object* native = retrieveObject(object);
+  if (!native) {
+    return nullptr;
+  }
+  if (std::strcmp(native->className(), "HTML_Document") == 0) {
+    const JavaScriptAnswer context =
+        native->evaluateJS(QStringLiteral("__corvex__contextOf( %1 );").arg(native->reference));
+    if (!context.succeeded()) {
+      printError("Error obtaining context of html document: %s\n", context.text);
+    }
+    if (!context.succeeded() || !context.text.contains(QLatin1String("FRAME"))) {
+      return ObjectHierarchyDelegate::parent(object);
+    }
+  }
+  const FunctionCallResult<HTML_Object*> element = native->parentElement();
+  if (element.failed()) {
+    Inspector::self()->reportScriptError(element.error);
+    return nullptr;
+  }
+  return element.value ? wrapObject(element.value) : SharedPtr<Object>();
+}
+
+void HTMLObjectHierarchyDelegate::clearAllJSReferences(HTMLComponent* component) const {
+  clearReferences(component);
+  clearChildCache();
+}
+
+void HTMLObjectHierarchyDelegate::invalidateAllReferencedObjects() const {
+  invalidateReferences();
+  clearChildCache();
+}
+
+void HTMLObjectHierarchyDelegate::clearChildCache() const { m_childCache.clear(); }
+
+}  // namespace Corvex::WebWrapper

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QDateTime>
+
+namespace Corvex::WebWrapper {
+
+/// Milliseconds since the epoch.
+unsigned long long now();
+
+/// False, with `*out` untouched, for 0; otherwise whether the time is valid.
+bool msecsToDateTime(unsigned long long msecs, QDateTime* out);
+
+}  // namespace Corvex::WebWrapper
