@@ -1,5 +1,5 @@
-// Gives: the event handlers of documents: from a DOM event to the window and the element that it concerns.
-// Needs: event objects and sources, contexts, the change-listener installer, the touch switches.
+// Gives: the event handlers of documents and windows, picking with the pointer, and the touch listeners.
+// Needs: event objects and sources, contexts, names, the change-listener installer, the touch switches, the transport.
 
 function __corvex__isEventObject(ev) {
   return !!ev && typeof ev.type == "string" && __corvex__srcElement(ev) !== undefined;
@@ -113,12 +113,71 @@ function __corvex__isSelectionElement(o) {
   return !!o && typeof o.type == "string" && o.type.indexOf("select") != -1;
 }
 
+// While it picks, the page never sees the event.
+function __corvex__swallowEvent(e) {
+  e.cancelBubble = true;
+  if (e.stopPropagation) {
+    e.stopPropagation();
+  }
+  if (e.preventDefault) {
+    e.preventDefault();
+  }
+}
+
+// A waiting request must not catch code that is meant for the next page.
+function __corvex__stopLongPoll() {
+  try {
+    var wait = window.__corvex__asyncWaitRequest;
+    if (wait && wait.request) {
+      wait.startAgain = false;
+      wait.request.abort();
+    }
+  } catch (e) {
+    // It goes with the page.
+  }
+}
+
+// The text passes through the head function twice, and the driver knows it so.
+function __corvex__sendUnload(e) {
+  if (window.__corvex__no_unload) {
+    return;
+  }
+  try {
+    var url = __corvex__getLogEventUrl("event=unload&object=[Window]");
+    // Through a proxy, the message might never arrive if the page did not wait for it.
+    __corvex__sendLogEventData(e, url, !window.top.__corvex__proxy);
+  } catch (ex) {
+    // Browsers may refuse requests of a page that goes away.
+  }
+}
+
+function __corvex__logUnload(e) {
+  __corvex__stopLongPoll();
+  var handler = window.old_onunload;
+  // Cleared before the call, which could lead back here.
+  window.old_onunload = undefined;
+  try {
+    if (handler) {
+      handler.call(window, e);
+    }
+  } finally {
+    __corvex__sendUnload(e);
+  }
+}
+
+// e: an event, or the text "__clear__".
 function __corvex__logEvent(e, w) {
   if (!e) {
     return undefined;
   }
+  if (e.type == "unload") {
+    __corvex__logUnload(e);
+    return undefined;
+  }
+  var isPicking = !!window.__corvex__pickObject;
   var srcElem = __corvex__srcElement(e);
-  var o = __corvex__eventObject(srcElem);
+  var o = isPicking ? __corvex__pickableObject(srcElem) : __corvex__eventObject(srcElem);
+  var text = "event=";
   if (__corvex__isHookedWasmCanvas(srcElem)) {
     return undefined;
   }
@@ -126,7 +185,31 @@ function __corvex__logEvent(e, w) {
     __corvex__lastSelectEvent = e;
     __corvex__lastSelectEventObject = o;
   }
+  if (isPicking) {
+    __corvex__swallowEvent(e);
+    if (o && (e.type == "mousedown" || e.type == "click")) {
+      __corvex__logPickEvent(e, o, text);
+    }
+    return false;
+  }
   return window.__corvex__ie ? undefined : true;
+}
+
+// For the handler properties of opened windows. e: null where the browser passes no event.
+function __corvex__logEventByWindow(e, w) {
+  var ev = __corvex__determineEventObject(e, w);
+  if (!__corvex__isEventObject(ev)) {
+    ev = __corvex__determineEventObject(ev, window);
+  }
+  var ctxwin = window.__corvex__ctxwin;
+  if (w.document) {
+    window.__corvex__ctxwin = w;
+  }
+  if (ev && (ev.type == "mousedown" || ev.type == "click")) {
+    __corvex__install__handler(ev, w);
+  }
+  __corvex__logEvent(ev, w);
+  window.__corvex__ctxwin = ctxwin;
 }
 
 // Change handler of old Internet Explorer for selection elements.
@@ -142,4 +225,136 @@ function __corvex__onChangeHandler() {
   // A later widget of another kind must not run into them.
   __corvex__lastSelectEvent = null;
   __corvex__lastSelectEventObject = null;
+}
+
+function __corvex__tabIdLogEventParameter() {
+  var id = window.top.__corvex__browsertabid;
+  return id ? "&tabId=" + id : "";
+}
+
+// url: the text to put the object behind.
+function __corvex__logPickEvent(e, o, url) {
+  var node = o;
+  var nodeType = __corvex__node.nodeType(node);
+  while (node && nodeType !== 1 && nodeType !== 9) {
+    node = __corvex__node.parentNode(node);
+    nodeType = node && __corvex__node.nodeType(node);
+  }
+  var text = url + "pickedObject&object=" + __corvex__nameOf(node) + __corvex__tabIdLogEventParameter();
+  // So late that the click behind a press is swallowed, too.
+  __corvex__later(function () {
+    window.__corvex__pickObject = false;
+  }, 50);
+  __corvex__sendLogEventData(e, text, true);
+}
+
+function __corvex__isFunction(obj) {
+  return typeof obj == "function" || Object.prototype.toString.call(obj) == "[object Function]";
+}
+
+function __corvex__pickableObject(elem) {
+  var hooks = top.__corvex__pickableObjectHooks || [];
+  for (var i = 0; i < hooks.length; ++i) {
+    try {
+      var answer = __corvex__isFunction(hooks[i]) && hooks[i](elem);
+      if (answer) {
+        return answer;
+      }
+    } catch (e) {
+      // No answer.
+    }
+  }
+  var better = __corvex__findUsableParentElement(elem);
+  return better && !__corvex__isDocumentNode(elem) && __corvex__isVisible(elem) ? better : elem;
+}
+
+// The name of the message is misspelled, and the driver knows it so.
+function __corvex__hoverElement() {
+  __corvex__hoverTimer = null;
+  try {
+    var rect = __corvex__getScreenRect(__corvex__mouseElement);
+    __corvex__sendXMLHttpRequest(document, "highlighteWidget&info=" + rect + "," +
+      __corvex__nameOf(__corvex__mouseElement, true) + "&" + __corvex__natives.milliseconds(), true);
+  } catch (e) {
+    // The element is gone.
+  }
+}
+
+function __corvex__eventOfPointer(e) {
+  var ev = __corvex__determineEventObject(e, window);
+  var windows = ev ? [] : __corvex__contextList();
+  for (var i = 0; !ev && i < windows.length; ++i) {
+    ev = __corvex__determineEventObject(undefined, windows[i]);
+  }
+  return ev;
+}
+
+function __corvex__mousemove(e) {
+  if (!window.__corvex__pickObject) {
+    return;
+  }
+  var source = __corvex__srcElement(__corvex__eventOfPointer(e));
+  if (!source || __corvex__isHookedWasmCanvas(source)) {
+    return;
+  }
+  var picked = __corvex__pickableObject(source);
+  if (!picked || picked === window.__corvex__selectedObject) {
+    return;
+  }
+  window.__corvex__selectedObject = picked;
+  __corvex__mouseElement = picked;
+  // A pointer that crosses many objects fast causes one message.
+  if (__corvex__hoverTimer) {
+    __corvex__natives.clearTimeout(__corvex__hoverTimer);
+  }
+  __corvex__hoverTimer = __corvex__natives.setTimeout(__corvex__hoverElement, 50);
+}
+
+function __corvex__touchstart(ev) {
+  if (!ev) {
+    return true;
+  }
+  if (window.__corvex__pickObject || window.__corvex__recording) {
+    window.top.__corvex.lastTouches = ev.targetTouches;
+  }
+  if (!window.__corvex__pickObject) {
+    return true;
+  }
+  __corvex__swallowEvent(ev);
+  return false;
+}
+
+// A swipe from one object to another is none.
+function __corvex__isTouchOfOneObject(ended, started) {
+  return !!ended && !!started && ended.length > 0 && ended.length === started.length &&
+         ended[0].target === started[0].target;
+}
+
+function __corvex__touchend(ev) {
+  if (!ev || !(window.top.__corvex__pickObject || window.top.__corvex__recording)) {
+    return true;
+  }
+  if (!__corvex__isTouchOfOneObject(ev.changedTouches, window.top.__corvex.lastTouches)) {
+    return true;
+  }
+  var touch = ev.changedTouches[0];
+  if (__corvex__isHookedWasmCanvas(touch.target)) {
+    return undefined;
+  }
+  window.top.__corvex.lastTouches = null;
+  if (window.top.__corvex__pickObject) {
+    __corvex__swallowEvent(ev);
+    __corvex__logPickEvent(touch, touch.target, "event=");
+    return false;
+  }
+  return true;
+}
+
+function __corvex__hookupTouchEvents(win) {
+  try {
+    win.document.addEventListener("touchstart", __corvex__quietTouchstart, true);
+    win.document.addEventListener("touchend", __corvex__quietTouchend, true);
+  } catch (e) {
+    // A browser without listeners has no touches either.
+  }
 }

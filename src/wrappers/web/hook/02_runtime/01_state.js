@@ -47,6 +47,7 @@ var __corvex__topWindow = null;
 var __corvex__log__window = null;
 var __corvex__rehookLoadLock = false;
 var __corvex__rehookUnLoadLock = false;
+var __corvex__isPageLeaving = false;
 var __corvex__lazyHookWindows = [];
 var __corvex__lazyHookTimer = null;
 var __corvex__lastSelectEvent = null;

@@ -58,12 +58,12 @@ function __corvex__contextOfForUrl(w) {
   return escape(__corvex__contextOf(w));
 }
 
-// How many top-level windows have this name, up to w where w is among them.
+// How many top-level windows have this name, up to w where w is among them. A closed window has none.
 function __corvex__findContext(ctx, w) {
   var count = 0;
   var windows = [window].concat(window.__corvex__windows);
   for (var i = 0; i < windows.length; ++i) {
-    if (__corvex__contextOf(windows[i], true) == ctx) {
+    if (windows[i] && !windows[i].closed && __corvex__contextOf(windows[i], true) == ctx) {
       ++count;
       if (windows[i] == w) {
         return count;

@@ -1,0 +1,72 @@
+// Gives: __corvex__natives, the requests, timers and clock that pages replace and the runtime must not lose.
+// Needs: nothing; it is evaluated before the page's own scripts.
+
+var __corvex__natives = (function () {
+  var Request = window.XMLHttpRequest;
+  var prototype = (Request && Request.prototype) || {};
+  var open = prototype.open;
+  var send = prototype.send;
+  var startFetch = window.fetch;
+  var Clock = window.Date;
+  var startTimeout = window.setTimeout;
+  var stopTimeout = window.clearTimeout;
+  var startInterval = window.setInterval;
+  var stopInterval = window.clearInterval;
+  return {
+    Request: Request,
+    createRequest: function () {
+      var request = new __corvex__natives.Request();
+      // Wrapped methods would tell the page of requests that are not its own.
+      if (__corvex__natives.Request === Request && open && send && request.overrideMimeType) {
+        request.open = open;
+        request.send = send;
+        // A reply of no stated type would be parsed as a document, and its faults be reported to the page.
+        request.overrideMimeType("text/plain");
+      }
+      return request;
+    },
+    // Sends what outlives the page. False where the browser cannot.
+    sendAndForget: function (method, url, body) {
+      if (!startFetch) {
+        return false;
+      }
+      var options = { method: method, keepalive: true, credentials: "omit" };
+      if (body !== null) {
+        options.body = body;
+      }
+      // A rejection that nobody takes would be reported to the page.
+      startFetch(url, options).then(undefined, function () {});
+      return true;
+    },
+    milliseconds: function () {
+      return new Clock().getTime();
+    },
+    setTimeout: function (action, delay) {
+      return startTimeout(action, delay);
+    },
+    clearTimeout: function (timer) {
+      stopTimeout(timer);
+    },
+    setInterval: function (action, delay) {
+      return startInterval(action, delay);
+    },
+    clearInterval: function (timer) {
+      stopInterval(timer);
+    }
+  };
+})();
+
+// What the browser calls from outside has no caller of ours to catch an error: the page would see it as its own.
+function __corvex__quiet(action) {
+  return function () {
+    try {
+      return action.apply(this, arguments);
+    } catch (e) {
+      return undefined;
+    }
+  };
+}
+
+function __corvex__later(action, delay) {
+  __corvex__natives.setTimeout(__corvex__quiet(action), delay);
+}

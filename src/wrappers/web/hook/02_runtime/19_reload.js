@@ -1,0 +1,141 @@
+// Gives: what happens when a frame loads or unloads, and the deferred hooking of old Internet Explorer.
+// Needs: the frame sweep, __corvex__logEvent, unload messages.
+
+// Errors of the page's own handler are its own matter.
+function __corvex__callSavedHandler(holder, name, self, e) {
+  try {
+    var handler = holder[name];
+    if (handler) {
+      holder[name] = undefined;
+      handler.call(self, e);
+    }
+  } catch (ex) {
+    // As above; or there is no holder.
+  }
+}
+
+function __corvex__topmostWindow(start) {
+  var w = start;
+  while (w.parent && w.parent !== w) {
+    w = w.parent;
+  }
+  return w;
+}
+
+function __corvex__callSavedHandlers(w, name, e) {
+  __corvex__callSavedHandler(w.document && w.document.body, name, w, e);
+  __corvex__callSavedHandler(w, name, w, e);
+}
+
+// The clear text has no source element, so logging it fails, and what stands behind does not run: the first load chains
+// the page's handlers, and from then on the lock lets only the mailbox be filled. The sweep finds the new documents.
+function __corvex__rehookFrames__load(e) {
+  try {
+    var w = __corvex__topmostWindow(this);
+    window.__corvex__framewin = w;
+    if (__corvex__rehookLoadLock) {
+      return;
+    }
+    __corvex__rehookLoadLock = true;
+    __corvex__callSavedHandlers(this, "old_onload", e);
+    __corvex__logEvent("__clear__");
+    __corvex__later(function () {
+      __corvex__hookFrames(w);
+    }, 2000);
+    __corvex__rehookLoadLock = false;
+  } catch (ex) {
+    // See above; the page is not to see it.
+  }
+}
+
+function __corvex__rehookFrames__unload(e) {
+  try {
+    var w = this;
+    try {
+      w = __corvex__topmostWindow(this);
+    } catch (ex) {
+      // A parent that is gone ends the walk.
+    }
+    window.__corvex__framewin = w;
+    if (__corvex__rehookUnLoadLock) {
+      return;
+    }
+    __corvex__rehookUnLoadLock = true;
+    __corvex__callSavedHandlers(this, "old_onunload", e);
+    __corvex__logEvent("__clear__");
+    __corvex__triggerUnloadEventHandler(this);
+    __corvex__later(function () {
+      __corvex__hookFrames(w);
+    }, 2000);
+    __corvex__rehookUnLoadLock = false;
+  } catch (ex) {
+    // As at the load of a frame.
+  }
+}
+
+// holder: a frame's window, or on old Internet Explorer its body.
+function __corvex__saveAndSetReloadHandlers(holder) {
+  if (holder.onunload !== __corvex__rehookFrames__unload) {
+    holder.old_onunload = holder.onunload;
+    holder.onunload = __corvex__rehookFrames__unload;
+  }
+  if (holder.onload !== __corvex__rehookFrames__load) {
+    holder.old_onload = holder.onload;
+    holder.onload = __corvex__rehookFrames__load;
+  }
+}
+
+function __corvex__frameChanged(e) {
+  try {
+    var frame = __corvex__srcElement(e || window.event);
+    __corvex__hookupWindow(frame.contentWindow);
+    if (frame.readyState == "interactive") {
+      __corvex__logEvent("__clear__");
+    }
+  } catch (ex) {
+    // As at the load of a frame.
+  }
+}
+
+function __corvex__hookLoadingIE(w) {
+  __corvex__saveAndSetReloadHandlers(w.document.body);
+}
+
+// False where the window has to wait for the next tick.
+function __corvex__hookLazyWindow(w) {
+  try {
+    if (!w.document.body) {
+      return false;
+    }
+    __corvex__hookLoadingIE(w);
+    __corvex__hookupWindow(w);
+    __corvex__hookFrames(w);
+    return true;
+  } catch (e) {
+    return false;
+  }
+}
+
+function __corvex__lazyHookIE() {
+  if (!__corvex__lazyHookWindows.length) {
+    __corvex__natives.clearInterval(__corvex__lazyHookTimer);
+    __corvex__lazyHookTimer = null;
+    return;
+  }
+  // Hooking can add windows.
+  var windows = __corvex__lazyHookWindows;
+  __corvex__lazyHookWindows = [];
+  for (var i = 0; i < windows.length; ++i) {
+    if (!__corvex__hookLazyWindow(windows[i])) {
+      __corvex__lazyHookWindows.push(windows[i]);
+    }
+  }
+}
+
+// For a window whose document has no body yet.
+function __corvex__addWindowForLazyHook(w) {
+  __corvex__lazyHookWindows.push(w);
+  if (!__corvex__lazyHookTimer) {
+    __corvex__lazyHookTimer = __corvex__natives.setInterval(__corvex__quiet(__corvex__lazyHookIE), 100);
+  }
+}
