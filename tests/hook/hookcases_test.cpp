@@ -56,7 +56,13 @@ const char* const plainPage = R"JS(
 
 class HookCases : public testing::TestWithParam<HookCase> {
 protected:
-  static void SetUpTestSuite() { HookedBrowser::instance().load(QString()); }
+  static void SetUpTestSuite() {
+    HookedBrowser::instance().load(QString());
+    QFile kit(TestSupport::testFile(QStringLiteral("hook/hookkit.js")));
+    ASSERT_TRUE(kit.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(kit.readAll());
+    ASSERT_EQ(HookedBrowser::instance().evaluate(QStringLiteral("(function () { %1; return true; })()").arg(text)), true);
+  }
 };
 
 TEST_P(HookCases, GivesTheExpectedValue) {

@@ -1,5 +1,5 @@
 // Gives: __corvex__matchObject and its parts: does an element have a property's value?; the standard matcher.
-// Needs: window.top.__corvex; when called, the text, visibility and name functions, Corvex.hasClassName.
+// Needs: window.top.__corvex; when called, the text, visibility and name functions, Corvex.hasClassName, the transport.
 
 var PropertyValue_StrictMatch = 0;
 var PropertyValue_RegExp = 1;
@@ -26,25 +26,15 @@ window.top.__corvex.StandardPropertyMatcher.prototype.matchObject = function (o)
 // What has been reported since the last __corvex__findObject: records of name and prop.
 window.top.__corvex.sentUnmatchedProperties = [];
 
-// What the driver can read: object name to the properties that kept an element from matching it.
-window.top.__corvex.unmatchedProperties = {};
-
 // The one way out for reports: property undefined says that the name was found.
 function __corvex__reportUnmatchedProperty(objname, property) {
-  var report = window.top.__corvex.unmatchedProperties;
-  if (property === undefined) {
-    delete report[objname];
-    return;
+  var text = property === undefined ? "removeUnmatchedProperties" : "addUnmatchedProperty";
+  var url = "event=" + text + "&name=" + escape(objname);
+  try {
+    __corvex__sendLogEventData(undefined, property === undefined ? url : url + "&property=" + escape(property), true);
+  } catch (e) {
+    // The search goes on without its report.
   }
-  if (!Object.prototype.hasOwnProperty.call(report, objname)) {
-    report[objname] = [];
-  }
-  for (var i = 0; i < report[objname].length; ++i) {
-    if (report[objname][i] === property) {
-      return;
-    }
-  }
-  report[objname].push(property);
 }
 
 function __corvex__reportsProperties() {
