@@ -52,8 +52,16 @@ QString BrowserControl::openSession() {
     return start.error;
   }
   m_session = std::move(start.session);
-  m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model);
-  m_dialogs = std::make_unique<Dialogs>(*m_windows, [this](int milliseconds) { sleep(milliseconds); });
+  m_endpoint = std::make_unique<MessageEndpoint>();
+  QString error;
+  if (!m_endpoint->start(&error)) {
+    return error;
+  }
+  // A page on another machine cannot reach this one's loopback interface.
+  const int port = m_options.remoteUrl.isEmpty() ? m_endpoint->port() : 0;
+  m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, port);
+  m_dialogs = std::make_unique<Dialogs>(*m_windows, *m_endpoint, [this](int milliseconds) { sleep(milliseconds); });
+  m_dispatcher = std::make_unique<MessageDispatcher>(*m_endpoint, *m_windows, *m_dialogs);
   QObject::connect(m_session.get(), &BrowserSession::lost, m_windows.get(), [this](const QString& reason) {
     m_lossReason = reason;
     m_browserFailure = true;
@@ -67,8 +75,10 @@ QString BrowserControl::closeWindow() {
 }
 
 void BrowserControl::closeBrowser() {
+  m_dispatcher.reset();
   m_dialogs.reset();
   m_windows.reset();
+  m_endpoint.reset();
   m_session.reset();
   m_lossReason.clear();
 }

@@ -4,6 +4,8 @@
 #include "webhook/browsersession.h"
 #include "webhook/browserwindows.h"
 #include "webhook/dialogs.h"
+#include "webhook/endpoint.h"
+#include "webhook/messagedispatcher.h"
 #include "webhook/webmodel.h"
 #include "wrappers/web/wrapperconfig.h"
 
@@ -52,8 +54,10 @@ private:
   WebWrapper::FileSystemBasedConfig m_config;
   WebModel m_model;
   std::unique_ptr<BrowserSession> m_session;
+  std::unique_ptr<MessageEndpoint> m_endpoint;
   std::unique_ptr<BrowserWindows> m_windows;
   std::unique_ptr<Dialogs> m_dialogs;
+  std::unique_ptr<MessageDispatcher> m_dispatcher;
   QString m_scriptFolder;
   QString m_lossReason;
   bool m_browserFailure = false;

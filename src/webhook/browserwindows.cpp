@@ -18,8 +18,11 @@ BrowserIdentity identify(const BrowserSession& session) {
 
 }  // namespace
 
-BrowserWindows::BrowserWindows(BrowserSession& session, const WebWrapper::WrapperConfig& config, WebModel& model)
-    : m_session(session), m_config(config), m_model(model), m_identity(identify(session)) {}
+BrowserWindows::BrowserWindows(BrowserSession& session, const WebWrapper::WrapperConfig& config, WebModel& model,
+                               int messagePort)
+    : m_session(session), m_config(config), m_model(model), m_identity(identify(session)) {
+  m_identity.messagePort = messagePort;
+}
 
 BrowserWindows::~BrowserWindows() {
   for (const auto& connection : m_connections) {
@@ -43,7 +46,10 @@ void BrowserWindows::addPage(BrowserPage* page) {
   Connection* connection = m_connections.back().get();
   m_model.addConnection(connection);
   connect(connection, &Connection::documentGone, this, [this, connection] { m_model.invalidateObjects(connection); });
+  connect(connection, &Connection::navigating, this, &BrowserWindows::documentExpected);
+  connect(page, &BrowserPage::navigated, this, &BrowserWindows::documentExpected);
   connect(page, &BrowserPage::closed, connection, [this, connection] { noteClosed(connection); });
+  Q_EMIT documentExpected(page->url());
 }
 
 void BrowserWindows::noteClosed(Connection* connection) {

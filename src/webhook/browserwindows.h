@@ -19,7 +19,9 @@ class BrowserWindows : public QObject {
 
 public:
   /// All three outlive this object.
-  BrowserWindows(BrowserSession& session, const WebWrapper::WrapperConfig& config, WebModel& model);
+  /// Pages send their messages to `messagePort`; with 0 they keep them in the queue of their session.
+  BrowserWindows(BrowserSession& session, const WebWrapper::WrapperConfig& config, WebModel& model,
+                 int messagePort = 0);
   ~BrowserWindows() override;
 
   /// Hooks the first page, and every page that opens from now on.
@@ -30,6 +32,11 @@ public:
   void setCurrent(Connection* connection);
   /// The open ones, oldest first.
   QVector<Connection*> connections() const;
+  bool opensNativeDialogs() const { return m_identity.opensNativeDialogs(); }
+
+Q_SIGNALS:
+  /// A page shows another document, or is about to.
+  void documentExpected(const QString& url);
 
 private:
   void addPage(BrowserPage* page);

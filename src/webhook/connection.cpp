@@ -76,6 +76,7 @@ QString Connection::navigate(const QString& url, int timeoutMs) {
     return closedPage();
   }
   m_contextName.clear();
+  Q_EMIT navigating(url);
   const QString error = m_page->navigate(url, timeoutMs);
   if (!error.isEmpty()) {
     return error;
@@ -117,7 +118,9 @@ WebWrapper::JavaScriptAnswer Connection::ask(const QString& code, unsigned int t
     answer.aborted = true;
     return answer;
   }
+  ++m_questions;
   const Evaluation evaluation = m_page->evaluate(code, static_cast<int>(timeoutMs));
+  --m_questions;
   answer.text = evaluation.text;
   answer.failed = evaluation.failed;
   answer.aborted = evaluation.aborted;

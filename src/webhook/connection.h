@@ -36,6 +36,9 @@ public:
   /// there is none of that name: a window that gets the name later is then selected.
   bool setContext(const QString& name);
 
+  /// Whether a question to the page is under way.
+  bool isBusy() const { return m_questions > 0; }
+
   /// The dialog that keeps the page's scripts from going on.
   std::optional<Dialog> openDialog() const;
   /// A null text leaves a prompt's field as it is.
@@ -56,6 +59,8 @@ public:
 Q_SIGNALS:
   /// The top document went away: what was known of its objects is void.
   void documentGone();
+  /// The connection's own `navigate` begins.
+  void navigating(const QString& url);
 
 private:
   WebWrapper::JavaScriptAnswer ask(const QString& code, unsigned int timeoutMs);
@@ -70,6 +75,7 @@ private:
   QString m_contextName;
   QHash<QString, Dialog> m_lastDialogs;
   bool m_greeted = false;
+  int m_questions = 0;
 };
 
 }  // namespace Corvex::Webhook

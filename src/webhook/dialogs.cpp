@@ -1,6 +1,7 @@
 #include "webhook/dialogs.h"
 
 #include "webhook/browserwindows.h"
+#include "webhook/endpoint.h"
 
 #include <QElapsedTimer>
 
@@ -23,7 +24,28 @@ const TextFunction textFunctions[] = {
 
 }  // namespace
 
-Dialogs::Dialogs(BrowserWindows& windows, const Sleep& sleep) : m_windows(windows), m_sleep(sleep) {}
+Dialogs::Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint, const Sleep& sleep)
+    : m_windows(windows), m_endpoint(endpoint), m_sleep(sleep) {}
+
+void Dialogs::noteMessage(const PageMessage& message) {
+  if (message.wantsReply()) {
+    const bool isConfirm = message.kind() == MessageKind::WaitForConfirm;
+    m_wait = {isConfirm ? QStringLiteral("confirm") : QStringLiteral("prompt"), message.waitId()};
+    return;
+  }
+  const QString name = message.value(QStringLiteral("name"));
+  if (name == QLatin1String("DialogText")) {
+    m_texts[message.value(QStringLiteral("kind"))] = message.value(QStringLiteral("text"));
+  } else if (name == QLatin1String("AlertOpened") && !m_windows.opensNativeDialogs()) {
+    ++m_swallowedAlerts;
+  }
+}
+
+void Dialogs::noteWaitEnded(quint64 waitId) {
+  if (m_wait.id == waitId) {
+    m_wait = Wait();
+  }
+}
 
 QString Dialogs::closeAlert(int timeoutMs) { return answer(QStringLiteral("alert"), true, QString(), timeoutMs); }
 
@@ -38,17 +60,38 @@ QString Dialogs::closePrompt(const QString& text, int timeoutMs) {
 QString Dialogs::answer(const QString& kind, bool accept, const QString& text, int timeoutMs) {
   QElapsedTimer timer;
   timer.start();
-  Connection* connection = showing(kind);
-  while (!connection && timer.elapsed() < timeoutMs && m_windows.current()) {
+  QString error;
+  while (!tryAnswer(kind, accept, text, &error)) {
+    if (timer.elapsed() >= timeoutMs || !m_windows.current()) {
+      const QString other = obstacle();
+      return QStringLiteral("No %1 opened within %2 ms.").arg(kind).arg(timeoutMs) +
+             (other.isEmpty() ? QString() : QLatin1Char(' ') + other);
+    }
     m_sleep(attemptIntervalMs);
-    connection = showing(kind);
   }
-  if (connection) {
-    return connection->answerDialog(accept, text);
+  return error;
+}
+
+bool Dialogs::tryAnswer(const QString& kind, bool accept, const QString& text, QString* error) {
+  if (Connection* connection = showing(kind)) {
+    *error = connection->answerDialog(accept, text);
+    return true;
   }
-  const QString other = obstacle();
-  return QStringLiteral("No %1 opened within %2 ms.").arg(kind).arg(timeoutMs) +
-         (other.isEmpty() ? QString() : QLatin1Char(' ') + other);
+  if (kind == QLatin1String("alert") && m_swallowedAlerts > 0) {
+    --m_swallowedAlerts;
+    return true;
+  }
+  if (m_wait.id == 0 || m_wait.kind != kind) {
+    return false;
+  }
+  const QString reply = kind == QLatin1String("confirm") ? (accept ? QStringLiteral("true") : QStringLiteral("false"))
+                        : accept                         ? QStringLiteral("__corvex__promptResult: ") + text
+                                                         : QStringLiteral("__corvex__promptCancelled");
+  const quint64 id = std::exchange(m_wait, Wait()).id;
+  if (!m_endpoint.answerWait(id, reply)) {
+    *error = QStringLiteral("The page did not wait any more for the answer to its %1.").arg(kind);
+  }
+  return true;
 }
 
 Connection* Dialogs::showing(const QString& kind) const {
@@ -66,6 +109,9 @@ FunctionCallResult<QString> Dialogs::lastText(const QString& kind) const {
   if (current && !current->lastDialog(kind).kind.isEmpty()) {
     return FunctionCallResult<QString>::success(current->lastDialog(kind).text);
   }
+  if (m_texts.contains(kind)) {
+    return FunctionCallResult<QString>::success(m_texts.value(kind));
+  }
   for (const TextFunction& row : textFunctions) {
     if (kind == QLatin1String(row.kind)) {
       return fromPage(QLatin1String(row.function));
@@ -79,7 +125,9 @@ FunctionCallResult<QString> Dialogs::lastPromptDefault() const {
   if (current && !current->lastDialog(QStringLiteral("prompt")).kind.isEmpty()) {
     return FunctionCallResult<QString>::success(current->lastDialog(QStringLiteral("prompt")).defaultText);
   }
-  return fromPage(QStringLiteral("__corvex__lastPromptDefault"));
+  return m_texts.contains(QStringLiteral("default"))
+             ? FunctionCallResult<QString>::success(m_texts.value(QStringLiteral("default")))
+             : fromPage(QStringLiteral("__corvex__lastPromptDefault"));
 }
 
 FunctionCallResult<QString> Dialogs::fromPage(const QString& function) const {
@@ -95,9 +143,13 @@ FunctionCallResult<QString> Dialogs::fromPage(const QString& function) const {
 QString Dialogs::obstacle() const {
   const Connection* current = m_windows.current();
   const std::optional<Dialog> dialog = current ? current->openDialog() : std::nullopt;
-  return dialog ? QStringLiteral("The page shows a dialog (%1: '%2'). Answer it with close%3.")
-                      .arg(dialog->kind, dialog->text, dialog->kind.left(1).toUpper() + dialog->kind.mid(1))
-                : QString();
+  if (!dialog && m_wait.id == 0) {
+    return QString();
+  }
+  const QString kind = dialog ? dialog->kind : m_wait.kind;
+  const QString text = dialog ? dialog->text : m_texts.value(kind);
+  return QStringLiteral("The page shows a dialog (%1: '%2'). Answer it with close%3.")
+      .arg(kind, text, kind.left(1).toUpper() + kind.mid(1));
 }
 
 }  // namespace Corvex::Webhook

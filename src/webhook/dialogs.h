@@ -12,6 +12,8 @@ namespace Corvex::Webhook {
 
 class BrowserWindows;
 class Connection;
+class MessageEndpoint;
+class PageMessage;
 
 /// The dialogs that pages open by themselves, as test scripts answer them. Some browsers show the native dialog; in the
 /// others the page has swallowed it, or stands still until it is told the answer.
@@ -22,7 +24,12 @@ public:
   /// Lets milliseconds pass while events are served.
   using Sleep = std::function<void(int)>;
 
-  Dialogs(BrowserWindows& windows, const Sleep& sleep);
+  /// Windows and endpoint outlive this object.
+  Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint, const Sleep& sleep);
+
+  /// A page told of a dialog, or waits for the answer to one.
+  void noteMessage(const PageMessage& message);
+  void noteWaitEnded(quint64 waitId);
 
   /// Each waits for a dialog of its kind and answers it. An error tells what is open instead.
   QString closeAlert(int timeoutMs);
@@ -39,12 +46,24 @@ public:
   QString obstacle() const;
 
 private:
+  /// A page that stands still until the driver answers.
+  struct Wait {
+    QString kind;
+    quint64 id = 0;
+  };
+
+  bool tryAnswer(const QString& kind, bool accept, const QString& text, QString* error);
   QString answer(const QString& kind, bool accept, const QString& text, int timeoutMs);
   Connection* showing(const QString& kind) const;
   FunctionCallResult<QString> fromPage(const QString& function) const;
 
   BrowserWindows& m_windows;
+  MessageEndpoint& m_endpoint;
   Sleep m_sleep;
+  Wait m_wait;
+  int m_swallowedAlerts = 0;
+  /// By kind; "default" is the first content of a prompt's field.
+  QHash<QString, QString> m_texts;
 };
 
 }  // namespace Corvex::Webhook

@@ -3,6 +3,8 @@
 #include "wrappers/web/getjscode.h"
 #include "wrappers/web/wrapperconfig.h"
 
+#include <QFile>
+
 namespace Corvex {
 namespace Webhook {
 
@@ -66,6 +68,10 @@ QString globals(const WrapperConfig& config, const BrowserIdentity& browser) {
   if (config.hookNewWindows()) {
     text += assignment("window.__corvex__newwindowhook", QStringLiteral("true"));
   }
+  if (browser.messagePort != 0) {
+    text += assignment("window.__corvex__port", QString::number(browser.messagePort));
+    text += assignment("window.__corvex__asynclog", QStringLiteral("true"));
+  }
   const int scheme = config.supportSinglePropertyNaming() ? singlePropertyNames : propertyNames;
   text += assignment("window.__corvex__os", QStringLiteral("\"Linux\""));
   text += assignment("window.__corvex__namegen__singleprop", QString::number(singlePropertyNames));
@@ -74,10 +80,18 @@ QString globals(const WrapperConfig& config, const BrowserIdentity& browser) {
   return text;
 }
 
+QString inPageFile(const char* name) {
+  QFile file(QStringLiteral(":/webhook/") + QLatin1String(name));
+  return file.open(QIODevice::ReadOnly) ? QLatin1Char('\n') + QString::fromUtf8(file.readAll()) : QString();
+}
+
 QString members(const WrapperConfig& config, const BrowserIdentity& browser) {
   QString text = assignment("window.__corvex.browsermajorversion", QString::number(browser.majorVersion));
   for (const ConfigVariable& row : namespaceMembers) {
     text += assignment(row, config);
+  }
+  if (browser.messagePort == 0) {
+    text += assignment("window.__corvex.useSessionStorageForEvents", QStringLiteral("true"));
   }
   return text;
 }
@@ -85,10 +99,12 @@ QString members(const WrapperConfig& config, const BrowserIdentity& browser) {
 }  // namespace
 
 QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
+  const QString dialogTexts = browser.opensNativeDialogs() ? QString() : inPageFile("dialogtexts.js");
   return QStringLiteral(
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
-         members(config, browser) + WebWrapper::getJSCode(config) + QStringLiteral("\n}");
+         members(config, browser) + WebWrapper::getJSCode(config) + dialogTexts + inPageFile("fallback.js") +
+         QStringLiteral("\n}");
 }
 
 }  // namespace Webhook

@@ -5,7 +5,7 @@ window.top.__corvex.simplifyText = function (text) {
   if (!text) {
     return text;
   }
-  return text.replace(/^\s+|\s+$/g, "").replace(/\s+/g, " ");
+  return text.replace(/\s+/g, " ").replace(/^ | $/g, "");
 };
 
 window.top.__corvex.getSimplifiedInnerText = function (o) {

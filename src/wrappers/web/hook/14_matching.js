@@ -115,7 +115,7 @@ function __corvex__wantsTrue(value) {
 
 var __corvex__propertyTests = {
   id: function (o, value) {
-    return __corvex__propMatches(value, __corvex__idHelper(o.id));
+    return __corvex__propMatches(value, __corvex__idHelper(__corvex__node.id(o)));
   },
   img_alt: function (o, value) {
     return __corvex__matchesPlainOrCleaned(value, o.alt);

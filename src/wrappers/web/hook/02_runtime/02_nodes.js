@@ -34,8 +34,14 @@ var __corvex__node = (function () {
     "previousSibling", "childNodes"]);
   addReaders("Element", ["tagName", "id", "className", "shadowRoot"]);
   addReaders("HTMLElement", ["offsetParent", "onclick", "onmousedown"]);
+  addReaders("Document", ["links"]);
   return readers;
 })();
+
+// As doc[method](argument), also where an element of that name hides the document's own function.
+function __corvex__askDocument(doc, method, argument) {
+  return typeof doc[method] == "function" ? doc[method](argument) : Document.prototype[method].call(doc, argument);
+}
 
 // By its shape: instanceof fails for a shadow root of another frame.
 function __corvex__isShadowRoot(node) {

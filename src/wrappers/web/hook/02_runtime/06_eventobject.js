@@ -102,7 +102,7 @@ function __corvex__labelledControl(o) {
   if (!o || __corvex__node.tagName(o) != "LABEL" || !o.htmlFor) {
     return null;
   }
-  return __corvex__node.ownerDocument(o).getElementById(o.htmlFor);
+  return __corvex__askDocument(__corvex__node.ownerDocument(o), "getElementById", o.htmlFor);
 }
 
 function __corvex__firstAnchorAbove(o) {

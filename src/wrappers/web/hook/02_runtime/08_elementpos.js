@@ -18,7 +18,26 @@ function __corvex__borderInOffset(o) {
   return { x: border, y: border };
 }
 
+// The box in its page of an element that has no offsets, as those of SVG have none; undefined for all others.
+function __corvex__boxWithoutOffsets(elem) {
+  if (!elem || elem.offsetLeft !== undefined || !elem.getBoundingClientRect) {
+    return undefined;
+  }
+  var bounds = elem.getBoundingClientRect();
+  var view = __corvex__node.ownerDocument(elem).defaultView;
+  return {
+    x: bounds.left + view.pageXOffset,
+    y: bounds.top + view.pageYOffset,
+    width: bounds.right - bounds.left,
+    height: bounds.bottom - bounds.top
+  };
+}
+
 function __corvex__elementPos(o) {
+  var box = __corvex__boxWithoutOffsets(o);
+  if (box) {
+    return { x: box.x, y: box.y };
+  }
   var pos = { x: 0, y: 0 };
   for (var elem = o; elem; elem = __corvex__node.offsetParent(elem)) {
     var border = __corvex__borderInOffset(elem);

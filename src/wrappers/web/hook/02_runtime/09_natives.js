@@ -35,7 +35,9 @@ var __corvex__natives = (function () {
         options.body = body;
       }
       // A rejection that nobody takes would be reported to the page.
-      startFetch(url, options).then(undefined, function () {});
+      startFetch(url, options).then(undefined, __corvex__quiet(function () {
+        __corvex__tellNotSent(url, body);
+      }));
       return true;
     },
     milliseconds: function () {

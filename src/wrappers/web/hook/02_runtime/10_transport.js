@@ -29,9 +29,24 @@ function __corvex__createRequest() {
   return ActiveX ? new ActiveX("MSXML2.XMLHTTP.3.0") : undefined;
 }
 
+// Whoever set messageNotSent learns of a message that no driver took: its head and its body.
+function __corvex__tellNotSent(url, body) {
+  var tell = window.top.__corvex.messageNotSent;
+  if (tell) {
+    tell(url.substring(url.indexOf("/?") + 2), body || "");
+  }
+}
+
 function __corvex__sendRequest(method, url, body, async) {
   var request = __corvex__createRequest();
   if (request) {
+    if (async) {
+      request.onloadend = __corvex__quiet(function () {
+        if (request.status !== 200) {
+          __corvex__tellNotSent(url, body);
+        }
+      });
+    }
     request.open(method, url, async);
     request.send(body);
   }

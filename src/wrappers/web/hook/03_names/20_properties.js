@@ -1,5 +1,5 @@
 // Gives: the pieces of a multi-property name: one property's text, escaping, ids without generated parts.
-// Needs: __corvex__clean and window.top.__corvex.getSimplifiedInnerText when called.
+// Needs: node property reads; __corvex__clean and window.top.__corvex.getSimplifiedInnerText when called.
 
 // A wildcard or exact value can hold any character but these two.
 function __corvex__escapeCharactersInPropertyValue(input) {
@@ -39,7 +39,7 @@ function __corvex__nameHelper(o, n, nm) {
   if (n === "simplifiedInnerText") {
     value = window.top.__corvex.getSimplifiedInnerText(o);
   } else {
-    value = o[n];
+    value = n === "tagName" || n === "id" ? __corvex__node[n](o) : o[n];
     if (n === "id") {
       value = __corvex__idHelper(value);
     } else if (n === "innerText") {

@@ -27,8 +27,9 @@ function __corvex__formOfInput(o) {
   if (!o.form || !__corvex__isElementAvailableFromForm(o, o.form)) {
     return "";
   }
-  if (o.form.id) {
-    return __corvex__formText(o.form.id);
+  var id = __corvex__node.id(o.form);
+  if (id) {
+    return __corvex__formText(id);
   }
   var name = __corvex__getObjectAttribute(o.form, "name");
   return name ? __corvex__formText(name) : "";
@@ -124,10 +125,6 @@ function __corvex__nameOfBySingleProp(o) {
   if (o.type === "button" && (o.value || o.innerText)) {
     return o.value || o.innerText;
   }
-  for (var link = o; link; link = link.parentElement) {
-    if (link.tagName === "A") {
-      return link.id || link.name || link.innerText || "[Window]";
-    }
-  }
-  return "[Window]";
+  var link = __corvex__enclosingLink(o);
+  return link && (link.id || link.name || link.innerText) || "[Window]";
 }

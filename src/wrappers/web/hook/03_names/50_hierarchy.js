@@ -34,10 +34,11 @@ function __corvex__uniqueNameInLeaf(o) {
 function __corvex__leafNamer() {
   var counts = {};
   return function (child) {
-    var tagName = __corvex__node.tagName(child) || "NODE";
-    // Behind a prefix, since a page may make an element of any name.
-    counts["tag " + tagName] = (counts["tag " + tagName] || 0) + 1;
-    return __corvex__specialLeaf(child) || tagName + counts["tag " + tagName];
+    var tagName = __corvex__node.tagName(child);
+    // Behind a prefix, since a page may make an element of any name, NODE among them.
+    var kind = tagName ? "tag " + tagName : "none";
+    counts[kind] = (counts[kind] || 0) + 1;
+    return __corvex__specialLeaf(child) || (tagName || "NODE") + counts[kind];
   };
 }
 

@@ -7,7 +7,7 @@ var __corvex__textElements = { SPAN: 1, DIV: 1, LI: 1, TD: 1, TR: 1, LABEL: 1 };
 var __corvex__controlElements = { INPUT: 1, SELECT: 1, BUTTON: 1 };
 
 function __corvex__enclosingLink(o) {
-  while (o && o.tagName !== "A") {
+  while (o && __corvex__node.tagName(o) !== "A") {
     o = __corvex__node.parentNode(o);
   }
   return o;
@@ -15,22 +15,24 @@ function __corvex__enclosingLink(o) {
 
 // The rule for an element that is neither control nor image nor part of a link; undefined if none applies.
 function __corvex__nameOfPlainElement(o, forceMultiProp) {
-  if (o.tagName && (o.name || o.title || (__corvex__idsAreNamed() && o.id))) {
+  var tagName = __corvex__node.tagName(o);
+  if (tagName && (o.name || o.title || (__corvex__idsAreNamed() && __corvex__node.id(o)))) {
     return __corvex__nameOfNamedElement(o);
   }
-  if (__corvex__textElements[String(o.tagName).toUpperCase()] === 1 && __corvex__clean(o.innerText)) {
+  if (__corvex__textElements[String(tagName).toUpperCase()] === 1 && __corvex__clean(o.innerText)) {
     return __corvex__nameOfSpanOrDiv(o);
   }
   return forceMultiProp === true ? __corvex__nameOfNamedElement(o) : undefined;
 }
 
 function __corvex__propertyNameOf(o, noUnify, forceMultiProp) {
+  var tagName = __corvex__node.tagName(o);
   var name, link;
-  if (__corvex__controlElements[o.tagName] === 1) {
+  if (__corvex__controlElements[tagName] === 1) {
     name = __corvex__nameOfInput(o);
-  } else if (o.tagName === "TD" && o.getAttribute("class") === "cMenuTD") {
+  } else if (tagName === "TD" && o.getAttribute("class") === "cMenuTD") {
     name = __corvex__nameOfCMenu(o);
-  } else if (o.tagName === "IMG") {
+  } else if (tagName === "IMG") {
     name = __corvex__nameOfImage(o);
   } else {
     link = __corvex__enclosingLink(o);

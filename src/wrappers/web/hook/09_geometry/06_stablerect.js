@@ -23,6 +23,10 @@ window.top.__corvex.getElementRectAsObject = function (e) {
     rect.y -= 13;
     rect.x += 3;
   }
+  var box = __corvex__boxWithoutOffsets(e);
+  if (box) {
+    return { x: rect.x + box.x, y: rect.y + box.y, width: box.width, height: box.height };
+  }
   for (var elem = e; elem; elem = __corvex__node.offsetParent(elem)) {
     rect.x += elem.offsetLeft;
     rect.y += elem.offsetTop;

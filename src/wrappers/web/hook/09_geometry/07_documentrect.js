@@ -81,7 +81,7 @@ window.top.__corvex.getElementRectangleInDocument = function (element, zoomFacto
   if (__corvex__isElementScrolledOutOfClippingParent(element)) {
     return __corvex__invalidRect();
   }
-  var rect = {
+  var rect = __corvex__boxWithoutOffsets(element) || {
     x: 0,
     y: 0,
     width: Math.max(element.scrollWidth, element.offsetWidth),
@@ -109,7 +109,8 @@ window.top.__corvex.getElementRectangleInDocument = function (element, zoomFacto
 function __corvex__documentExtent(ownSize, dimension) {
   var body = document.body;
   var root = document.documentElement;
-  return ownSize || Math.max(body["scroll" + dimension], body["offset" + dimension], root["client" + dimension],
+  // An element of that name hides what the document says itself.
+  return typeof ownSize == "number" && ownSize || Math.max(body["scroll" + dimension], body["offset" + dimension], root["client" + dimension],
     root["scroll" + dimension], root["offset" + dimension]);
 }
 

@@ -58,11 +58,12 @@ function __corvex__candidates(container, map) {
 
 // The candidates with those of the container's own shadow root behind them, where the object model shows it too.
 function __corvex__withShadowCandidates(candidates, container, tagName) {
-  if (!container.shadowRoot) {
+  var shadowRoot = __corvex__node.shadowRoot(container);
+  if (!shadowRoot) {
     return candidates;
   }
   var all = [];
-  var inShadow = container.shadowRoot.querySelectorAll(tagName);
+  var inShadow = shadowRoot.querySelectorAll(tagName);
   for (var i = 0; i < candidates.length; ++i) {
     all.push(candidates[i]);
   }

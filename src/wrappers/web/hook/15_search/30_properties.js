@@ -28,15 +28,6 @@ function __corvex__searchImageLinks(links, map, accept) {
   return undefined;
 }
 
-function __corvex__linkAround(element) {
-  for (var e = element; e; e = e.parentElement) {
-    if (e.tagName === "A") {
-      return e;
-    }
-  }
-  return element;
-}
-
 // Calls accept with each hit in the order of the search until it answers true, and returns that hit.
 function __corvex__searchByProps(container, map, nm, accept) {
   if (!__corvex__mapEntry(map, "tagName")) {
@@ -66,7 +57,7 @@ function __corvex__searchByProps(container, map, nm, accept) {
   var count = candidates.length;
   for (var i = 0; i < count; ++i) {
     if (__corvex__matchedByAll(matchers, candidates[i])) {
-      var hit = isImageLink ? __corvex__linkAround(candidates[i]) : candidates[i];
+      var hit = isImageLink ? __corvex__enclosingLink(candidates[i]) || candidates[i] : candidates[i];
       if (accept(hit)) {
         __corvex__removeUnmatchedProperties(nm);
         return hit;

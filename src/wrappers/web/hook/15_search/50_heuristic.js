@@ -12,11 +12,11 @@ function __corvex__firstWithText(elements, text) {
 
 // A label that fits ends the scan even if the element that it is for does not exist.
 function __corvex__labelledOrButton(doc, text) {
-  var all = doc.getElementsByTagName("*");
+  var all = __corvex__askDocument(doc, "getElementsByTagName", "*");
   for (var i = 0; i < all.length; ++i) {
     var element = all[i];
     if (element.tagName === "LABEL" && __corvex__clean(element.innerText) === text) {
-      return doc.getElementById(element.htmlFor);
+      return __corvex__askDocument(doc, "getElementById", element.htmlFor);
     }
     if (element.type === "button" &&
       (__corvex__clean(element.innerText) === text || element.value === text)) {
@@ -28,11 +28,11 @@ function __corvex__labelledOrButton(doc, text) {
 
 function __corvex__findObjectByHeuristic(nm) {
   var doc = __corvex__ctxwin.document;
-  return __corvex__firstWithText(doc.links, nm) ||
-    doc.getElementById(nm) ||
-    doc.getElementsByName(nm)[0] ||
+  return __corvex__firstWithText(__corvex__node.links(doc), nm) ||
+    __corvex__askDocument(doc, "getElementById", nm) ||
+    __corvex__askDocument(doc, "getElementsByName", nm)[0] ||
     __corvex__labelledOrButton(doc, nm) ||
-    __corvex__firstWithText(doc.getElementsByTagName("DIV"), nm);
+    __corvex__firstWithText(__corvex__askDocument(doc, "getElementsByTagName", "DIV"), nm);
 }
 
 function __corvex__findObjectByHeuristic2(nm, w) {

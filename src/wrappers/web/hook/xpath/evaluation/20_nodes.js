@@ -41,7 +41,7 @@ __corvex__xpath.rootOf = function (node) {
 
 __corvex__xpath.isBelow = function (node, ancestor) {
   var compare = window.Node && window.Node.prototype.compareDocumentPosition;
-  return !!compare && (compare.call(ancestor, node) & 16) !== 0;
+  return !!compare && node.nodeType !== 2 && (compare.call(ancestor, node) & 16) !== 0;
 };
 
 __corvex__xpath.textOfNode = function (node) {

@@ -61,7 +61,7 @@ __corvex__xpath.functions = (function () {
     var ids = texts.join(" ").split(/[ \t\r\n]+/);
     var found = [];
     for (i = 0; i < ids.length; ++i) {
-      var element = ids[i] ? doc.getElementById(ids[i]) : null;
+      var element = ids[i] ? __corvex__askDocument(doc, "getElementById", ids[i]) : null;
       if (element) {
         found.push(element);
       }
