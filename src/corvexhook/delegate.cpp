@@ -47,6 +47,12 @@ SharedPtr<Object> ObjectHierarchyDelegate::objectByQualifiedName(SharedPtr<Objec
 
 SharedPtr<Object> ObjectHierarchyDelegate::parent(SharedPtr<Object>) const { return nullptr; }
 
+const ObjectHierarchyDelegate* hierarchyDelegate(const SharedPtr<Object>& object) {
+  return object ? dynamic_cast<const ObjectHierarchyDelegate*>(
+                      DelegateFactory::self()->delegate(object->objectClass(), Delegate::ObjectHierarchyDelegateType))
+                : nullptr;
+}
+
 CastDelegate::~CastDelegate() = default;
 
 ComparisonDelegate::~ComparisonDelegate() = default;

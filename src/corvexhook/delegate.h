@@ -66,6 +66,9 @@ public:
   virtual int wrapperType() const = 0;
 };
 
+/// The delegate that serves the object; null for no object, and for one whose class has none.
+CORVEXHOOK_EXPORT const ObjectHierarchyDelegate* hierarchyDelegate(const SharedPtr<Object>& object);
+
 class CORVEXHOOK_EXPORT CastDelegate : public Delegate {
 public:
   explicit CastDelegate(const QString& className) : Delegate(className, CastDelegateType) {}

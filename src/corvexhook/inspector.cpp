@@ -152,11 +152,6 @@ SharedPtr<Object> Inspector::lookup(const QString& name) {
   return lookupInRoots(QString(realName).replace(entity, QLatin1String("&")));
 }
 
-static const ObjectHierarchyDelegate* hierarchyDelegate(const SharedPtr<Object>& object) {
-  return dynamic_cast<const ObjectHierarchyDelegate*>(
-      DelegateFactory::self()->delegate(object->objectClass(), Delegate::ObjectHierarchyDelegateType));
-}
-
 static SharedPtr<Object> childByName(const SharedPtr<Object>& object, const QString& name) {
   const ObjectHierarchyDelegate* delegate = hierarchyDelegate(object);
   return delegate ? delegate->childByName(object, name) : SharedPtr<Object>();
@@ -192,34 +187,37 @@ SharedPtr<Object> Inspector::lookupInRoots(const QString& realName) const {
   return nullptr;
 }
 
+bool Inspector::isReady(const SharedPtr<Object>& object) const {
+  const FunctionCallResult<bool> ready =
+      m_services.isReady ? m_services.isReady(object) : FunctionCallResult<bool>::success(true);
+  return ready.value && !ready.failed();
+}
+
 SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) {
   const std::function<qint64()> now = m_services.now ? m_services.now : machineClock();
   const qint64 start = now();
-  bool wasFound = false;
+  SharedPtr<Object> found;
+  QString failure;
   do {
-    const SharedPtr<Object> found = lookup(name);
-    if (hasScriptError()) {
-      return nullptr;
+    found = lookup(name);
+    const QString lastFailure = std::exchange(failure, takeScriptError());
+    // A page that is being replaced fails once. What fails twice in a row is going to stay.
+    if (!failure.isEmpty() && !lastFailure.isEmpty()) {
+      break;
     }
-    if (found) {
-      const FunctionCallResult<bool> ready =
-          m_services.isReady ? m_services.isReady(found) : FunctionCallResult<bool>::success(true);
-      if (ready.value && !ready.failed()) {
-        return found;
-      }
-      wasFound = true;
-    } else {
-      wasFound = false;
+    if (found && isReady(found)) {
+      return found;
     }
     if (m_services.sleep) {
       m_services.sleep(attemptIntervalMs);
     }
-  } while (now() - start < timeoutMs);
-  if (wasFound) {
+  } while (!hasScriptError() && now() - start < timeoutMs);
+  if (!failure.isEmpty()) {
+    reportScriptError(failure);
+  } else if (found) {
     reportScriptError(
         QStringLiteral("The object '%1' was found, but was not ready within %2 ms: it is hidden or disabled.")
-            .arg(name)
-            .arg(timeoutMs));
+            .arg(name, QString::number(timeoutMs)));
   }
   return nullptr;
 }

@@ -45,8 +45,8 @@ public:
 
   /// Waits until the object is found and ready, at most the default time.
   virtual SharedPtr<Object> waitForObject(const QString& name);
-  /// One attempt with a timeout of 0, else attempts until the object is found and ready or the milliseconds are over.
-  /// An object that isn't there is reported to the script.
+  /// One attempt with a timeout of 0, else attempts until the object is found and ready, the milliseconds are over, or
+  /// two attempts in a row have failed. An object that isn't there is reported to the script.
   virtual SharedPtr<Object> findObject(const QString& name, int timeoutMs);
   /// See `PrimitiveType`; null for an unknown number.
   virtual const Class* primitiveType(int id) const;
@@ -91,6 +91,7 @@ protected:
 private:
   bool reportTrouble();
   SharedPtr<Object> lookupInRoots(const QString& realName) const;
+  bool isReady(const SharedPtr<Object>& object) const;
   SharedPtr<Object> waitUntilReady(const QString& name, int timeoutMs);
 
   std::unique_ptr<Namespace> m_namespace;

@@ -46,7 +46,7 @@ QString ObjectMap::load(const QString& path) {
     QString real;
     const QString error = lineError(line, &symbolic, &real);
     if (!error.isEmpty()) {
-      return QStringLiteral("%1:%2: %3.").arg(path).arg(number).arg(error);
+      return QStringLiteral("%1:%2: %3.").arg(path, QString::number(number), error);
     }
     names.insert(symbolic, real);
   }

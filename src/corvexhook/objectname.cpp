@@ -62,7 +62,9 @@ public:
 private:
   bool atEnd() const { return m_pos >= m_text.size(); }
   QChar current() const { return m_text.at(m_pos); }
-  QString error(const QString& what) const { return QStringLiteral("%1 at position %2").arg(what).arg(m_pos + 1); }
+  QString error(const QString& what) const {
+    return QStringLiteral("%1 at position %2").arg(what, QString::number(m_pos + 1));
+  }
 
   void skipBlanks() {
     while (!atEnd() && isBlank(current())) {
@@ -159,6 +161,9 @@ private:
 ObjectName::ObjectName(const QString& text) : m_text(text), m_multiProperty(text.startsWith(QLatin1Char('{'))) {
   if (m_multiProperty) {
     m_parseError = ObjectNameParser(text, this).parse();
+    if (!m_parseError.isEmpty()) {
+      m_entries.clear();
+    }
   }
 }
 

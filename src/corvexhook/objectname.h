@@ -41,7 +41,7 @@ public:
   /// The text of the name. A text that could not be parsed comes back as it was given.
   QString qualifiedName() const;
   bool isMultiProperty() const { return m_multiProperty; }
-  /// What is wrong with the text and where; empty for a good name.
+  /// What is wrong with the text and where; empty for a good name. A name with an error has no properties.
   const QString& parseError() const { return m_parseError; }
 
   QMap<QString, PropertyValue> properties() const;

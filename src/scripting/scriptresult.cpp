@@ -10,7 +10,9 @@ QString counted(int count, const QString& noun) {
 
 }  // namespace
 
-QString ScriptLocation::text() const { return line > 0 ? QStringLiteral("%1:%2").arg(file).arg(line) : file; }
+QString ScriptLocation::text() const {
+  return line > 0 ? QStringLiteral("%1:%2").arg(file, QString::number(line)) : file;
+}
 
 void RunSummary::add(const ScriptResult& result) {
   ++scripts;

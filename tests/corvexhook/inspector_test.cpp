@@ -120,6 +120,31 @@ TEST_F(InspectorTest, FindObjectNamesWhatNothingMatched) {
   EXPECT_EQ(m_inspector->takeScriptError(), text("Object '{a='1' b='2'}' not found."));
 }
 
+TEST_F(InspectorTest, WaitingOutlivesOneFailedLookup) {
+  qint64 now = 0;
+  HostServices services;
+  services.now = [&now] { return now; };
+  services.sleep = [this, &now](int milliseconds) {
+    now += milliseconds;
+    m_names.error.clear();
+  };
+  services.isReady = [](const SharedPtr<Object>&) { return FunctionCallResult<bool>::success(false); };
+  m_inspector->setHostServices(services);
+  m_names.known << text("{a='%2'}");
+  m_names.error = text("The page was replaced.");
+  EXPECT_FALSE(m_inspector->findObject(text("{a='%2'}"), 100));
+  EXPECT_EQ(m_inspector->takeScriptError(),
+            text("The object '{a='%2'}' was found, but was not ready within 100 ms: it is hidden or disabled."));
+
+  m_names.asked.clear();
+  m_names.error = text("The page said no.");
+  services.sleep = [&now](int milliseconds) { now += milliseconds; };
+  m_inspector->setHostServices(services);
+  EXPECT_FALSE(m_inspector->findObject(text("{a='1'}"), 100));
+  EXPECT_EQ(m_names.asked.size(), 2);
+  EXPECT_EQ(m_inspector->takeScriptError(), text("The page said no."));
+}
+
 TEST_F(InspectorTest, WaitingEndsByTheClockOrByTrouble) {
   qint64 now = 0;
   QString trouble;

@@ -58,6 +58,7 @@ TEST(ObjectName, SaysWhatIsWrongAndWhere) {
     const char* error;
   } cases[] = {
       {"{a='b'", "the closing brace is missing at position 7"},
+      {"{a%2='b' c%1}", "one of the operators =, ~= or ?= is missing behind the property 'c%1' at position 13"},
       {"{a='b'} x", "there is text behind the closing brace at position 9"},
       {"{='b'}", "a property name is missing at position 2"},
       {"{a}", "one of the operators =, ~= or ?= is missing behind the property 'a' at position 3"},
@@ -75,5 +76,6 @@ TEST(ObjectName, SaysWhatIsWrongAndWhere) {
     const ObjectName name(text(one.name));
     EXPECT_EQ(name.parseError(), text(one.error)) << one.name;
     EXPECT_EQ(name.qualifiedName(), text(one.name));
+    EXPECT_TRUE(name.properties().isEmpty());
   }
 }

@@ -79,7 +79,8 @@ FunctionCallResult<HTML_Object*> documentByContextName(HTMLComponent* component,
   const int close = name.indexOf(QLatin1Char(']'));
   const QString context = open >= 0 && close > open ? name.mid(open + 1, close - open - 1) : QString();
   const FunctionCallResult<HTML_Object*> document = htmlObjectFromJavaScriptResult(
-      component, QLatin1String("__corvex__documentOfContext('") + context + QLatin1String("');"), QString(), 0);
+      component, QStringLiteral("__corvex__documentOfContext('%1');").arg(escapeQuoteWithBackslash(context)), QString(),
+      0);
   if (!document.failed() && document.value) {
     Inspector::self()->removeUnmatchedProperties(unescape(name));
   }

@@ -18,6 +18,10 @@ bool HTML_Object_ComparisonDelegate::sameObjects(SharedPtr<Object> a, SharedPtr<
   if (!first || !second) {
     return first == second;
   }
+  // Pages number their references alike.
+  if (first->component != second->component) {
+    return false;
+  }
   const FunctionCallResult<bool> same = first->sameAs(second);
   if (same.failed()) {
     std::fprintf(stderr, "%s\n", qUtf8Printable(same.error));

@@ -28,24 +28,21 @@ QString asValue(const QString& name) {
   return QLatin1Char('\'') + escaped + QLatin1Char('\'');
 }
 
-// An object map whose containers go round in a circle would have no end.
-const int maxDepth = 100;
-
-std::list<ObjectName> split(ObjectName name, int depth) {
-  if (!name.hasProperty(containerProperty()) || depth == maxDepth) {
-    return {name};
-  }
-  const QString container = name.property(containerProperty()).value();
-  const QString realName = ObjectMap::self()->realName(container);
-  std::list<ObjectName> names = split(ObjectName(realName.isEmpty() ? container : realName), depth + 1);
-  name.removeProperty(containerProperty());
-  names.push_back(name);
-  return names;
-}
-
 }  // namespace
 
-std::list<ObjectName> splitByContainer(ObjectName name) { return split(name, 0); }
+std::list<ObjectName> splitByContainer(ObjectName name) {
+  std::list<ObjectName> names;
+  while (name.hasProperty(containerProperty()) && names.size() + 1 < maxContainerChain) {
+    const QString container = name.property(containerProperty()).value();
+    const QString realName = ObjectMap::self()->realName(container);
+    name.removeProperty(containerProperty());
+    names.push_front(name);
+    name = ObjectName(realName.isEmpty() ? container : realName);
+  }
+  name.removeProperty(containerProperty());
+  names.push_front(name);
+  return names;
+}
 
 ObjectName joinByContainer(const std::list<ObjectName>& names) {
   QString text;

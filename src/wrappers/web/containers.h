@@ -6,6 +6,9 @@
 
 namespace Corvex::WebWrapper {
 
+/// The longest chain that `splitByContainer` gives. Only an object map whose containers go round in a circle has more.
+constexpr int maxContainerChain = 100;
+
 /// The chain of names from the outermost container down to the name itself, each without its container. A container
 /// that stands in the object map is taken from there.
 std::list<ObjectName> splitByContainer(ObjectName name);

@@ -38,4 +38,11 @@ SharedPtr<Object> findObjectWithJsFunction(const QString& code, const QString& n
   return wrapObject(result.value);
 }
 
+SharedPtr<Object> foundInContainer(const SharedPtr<Object>& object, const ObjectName& name) {
+  if (object) {
+    Inspector::self()->removeUnmatchedProperties(name.qualifiedName());
+  }
+  return object;
+}
+
 }  // namespace Corvex::WebWrapper

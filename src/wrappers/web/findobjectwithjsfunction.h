@@ -1,6 +1,7 @@
 #pragma once
 
 #include "corvexhook/object.h"
+#include "corvexhook/objectname.h"
 
 #include <QString>
 
@@ -12,5 +13,8 @@ class HTMLComponent;
 /// there is no such object, and when the lookup failed, which is reported to the script. The environment variable
 /// CORVEX_WEB_OBJECT_LOOKUP_TIMEOUT has the time limit in milliseconds, 5000 without it.
 SharedPtr<Object> findObjectWithJsFunction(const QString& code, const QString& name, HTMLComponent* component);
+
+/// Passes on what the container's delegate found; an object that is there has no unmatched container.
+SharedPtr<Object> foundInContainer(const SharedPtr<Object>& object, const ObjectName& name);
 
 }  // namespace Corvex::WebWrapper

@@ -9,7 +9,11 @@ QString CheckableButton::click(int modifierState, int x, int y, int button) {
   if (error.isEmpty()) {
     error = HTML_ButtonBase::click(modifierState, x, y, button);
   }
-  return error.isEmpty() ? sendChangeEvent("Error triggering change event after click: %1") : error;
+  // The click may have taken the page away.
+  if (!error.isEmpty() || !hasValidReference()) {
+    return error;
+  }
+  return sendChangeEvent("Error triggering change event after click: %1");
 }
 
 FunctionCallResult<bool> CheckableButton::checked() const { return boolProperty("checked"); }

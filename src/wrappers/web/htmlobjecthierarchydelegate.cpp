@@ -25,12 +25,6 @@ bool isReachable(const HTML_Object* object) { return object && object->component
 
 void printError(const char* format, const QString& text) { std::fprintf(stderr, format, qUtf8Printable(text)); }
 
-const ObjectHierarchyDelegate* hierarchyDelegate(const SharedPtr<Object>& object) {
-  return object ? dynamic_cast<const ObjectHierarchyDelegate*>(
-                      DelegateFactory::self()->delegate(object->objectClass(), Delegate::ObjectHierarchyDelegateType))
-                : nullptr;
-}
-
 }  // namespace
 
 HTMLObjectHierarchyDelegate::HTMLObjectHierarchyDelegate() : ObjectHierarchyDelegate(QStringLiteral("HTML_Object")) {}
@@ -79,8 +73,9 @@ SharedPtr<Object> HTMLObjectHierarchyDelegate::objectByQualifiedName(SharedPtr<O
     TRACE_POINT("WebObjectSearch", QLatin1String("Found object name with context and container: ") + qualifiedName);
     return nullptr;
   }
-  if (splitByContainer(name).size() > 1) {
-    return objectInContainer(parent, name);
+  const std::list<ObjectName> parts = splitByContainer(name);
+  if (parts.size() > 1) {
+    return objectInContainer(parent, parts, name);
   }
   const HTML_Object* native = retrieveObject(parent);
   const bool lacksTagName = name.isMultiProperty() && !name.hasProperty(QStringLiteral("tagName"));
@@ -92,9 +87,8 @@ SharedPtr<Object> HTMLObjectHierarchyDelegate::objectByQualifiedName(SharedPtr<O
   return findObjectWithJsFunction(code, qualifiedName, native->component);
 }
 
-SharedPtr<Object> HTMLObjectHierarchyDelegate::objectInContainer(SharedPtr<Object> parent,
+SharedPtr<Object> HTMLObjectHierarchyDelegate::objectInContainer(SharedPtr<Object> parent, std::list<ObjectName> parts,
                                                                  const ObjectName& name) const {
-  std::list<ObjectName> parts = splitByContainer(name);
   const ObjectName first = parts.front();
   parts.pop_front();
   const ObjectHierarchyDelegate* parentDelegate = hierarchyDelegate(parent);
@@ -111,7 +105,7 @@ SharedPtr<Object> HTMLObjectHierarchyDelegate::objectInContainer(SharedPtr<Objec
             .arg(container->objectClass()->name(), name.qualifiedName()));
     return nullptr;
   }
-  return delegate->objectByQualifiedName(container, joinByContainer(parts));
+  return foundInContainer(delegate->objectByQualifiedName(container, joinByContainer(parts)), name);
 }
 
 QString HTMLObjectHierarchyDelegate::qualifiedName(SharedPtr<Object> object) const {

@@ -5,6 +5,7 @@
 
 #include <QMap>
 
+#include <list>
 #include <vector>
 
 namespace Corvex::WebWrapper {
@@ -36,7 +37,8 @@ public:
   virtual void invalidateAllReferencedObjects() const;
 
 private:
-  SharedPtr<Object> objectInContainer(SharedPtr<Object> parent, const ObjectName& name) const;
+  SharedPtr<Object> objectInContainer(SharedPtr<Object> parent, std::list<ObjectName> parts,
+                                      const ObjectName& name) const;
   QString getChildInfo(SharedPtr<Object> object) const;
   void clearChildCache() const;
 
@@ -69,7 +71,7 @@ public:
 
 private:
   SharedPtr<Object> keptDocument(HTMLComponent* component) const;
-  SharedPtr<Object> objectInContainer(const std::vector<ObjectName>& parts, const ObjectName& name) const;
+  SharedPtr<Object> objectInContainer(std::list<ObjectName> parts, const ObjectName& name) const;
 
   static SharedPtr<Object> document;
 };

@@ -99,7 +99,7 @@ SharedPtr<Object> WebToplevelDelegate::childByName(SharedPtr<Object> root, const
 SharedPtr<Object> WebToplevelDelegate::objectByQualifiedName(SharedPtr<Object> root, const ObjectName& name) const {
   const std::list<ObjectName> parts = splitByContainer(name);
   if (parts.size() > 1) {
-    return objectInContainer({parts.begin(), parts.end()}, name);
+    return objectInContainer(parts, name);
   }
   HTMLComponent* const connection = component(root);
   if (!isReachable(connection)) {
@@ -111,27 +111,31 @@ SharedPtr<Object> WebToplevelDelegate::objectByQualifiedName(SharedPtr<Object> r
   return findObjectWithJsFunction(code, qualifiedName, connection);
 }
 
-SharedPtr<Object> WebToplevelDelegate::objectInContainer(const std::vector<ObjectName>& parts,
-                                                         const ObjectName& name) const {
+SharedPtr<Object> WebToplevelDelegate::objectInContainer(std::list<ObjectName> parts, const ObjectName& name) const {
   const QString qualifiedName = name.qualifiedName();
+  if (parts.size() == maxContainerChain) {
+    Inspector::self()->reportScriptError(
+        QStringLiteral("Invalid object name '%1': its containers go round in a circle. Correct the object map.")
+            .arg(qualifiedName));
+    return nullptr;
+  }
   const SharedPtr<Object> container = objectByQualifiedName(nullptr, ObjectName(parts.front().qualifiedName()));
+  parts.pop_front();
   if (!container) {
     TRACE_POINT("WebObjectDelegate", QLatin1String("Could not find container for name: ") + qualifiedName);
     Inspector::self()->addUnmatchedProperty(qualifiedName, QStringLiteral("container"));
     return nullptr;
   }
-  const Delegate* const found =
-      DelegateFactory::self()->delegate(container->objectClass(), Delegate::ObjectHierarchyDelegateType);
-  const auto* const delegate = dynamic_cast<const ObjectHierarchyDelegate*>(found);
+  const ObjectHierarchyDelegate* const delegate = hierarchyDelegate(container);
   if (!delegate || delegate == this) {
     TRACE_POINT("WebObjectDelegate", QLatin1String("No container delegate or container delegate is webwrapper: ") +
-                                         (found ? found->className() : QStringLiteral("null")));
+                                         (delegate ? delegate->className() : QStringLiteral("null")));
     return nullptr;
   }
-  const ObjectName rest = joinByContainer({parts.begin() + 1, parts.end()});
+  const ObjectName rest = joinByContainer(parts);
   TRACE_POINT("WebObjectDelegate", QLatin1String("Looking up child object: ") + rest.qualifiedName() +
                                        QLatin1String(" In delegate: ") + delegate->className());
-  return delegate->objectByQualifiedName(container, rest);
+  return foundInContainer(delegate->objectByQualifiedName(container, rest), name);
 }
 
 void WebToplevelDelegate::clearDocumentReference() const {

@@ -21,7 +21,8 @@ SharedPtr<Object> wrapAndTransferOwnership(void* object, const QString& classNam
 
 HTML_Object* retrieveObject(SharedPtr<Object> wrapped) {
   void* data = nullptr;
-  return wrapped && wrapped->get(&data) ? static_cast<HTML_Object*>(data) : nullptr;
+  const bool isPageObject = wrapped && wrapped->isA(objectModelHtmlObjectClass());
+  return isPageObject && wrapped->get(&data) ? static_cast<HTML_Object*>(data) : nullptr;
 }
 
 const Class* objectModelHtmlObjectClass() {

@@ -12,7 +12,8 @@ CORVEX_WEBWRAPPER_EXPORT SharedPtr<Object> wrapObject(HTML_Object* object);
 /// The same for a pointer of any script class.
 SharedPtr<Object> wrapAndTransferOwnership(void* object, const QString& className);
 
-/// The page object behind a script value of a page class, which keeps it; null for no value and for null values.
+/// The page object behind a script value of a page class, which keeps it; null for no value, for null values and for
+/// values of other classes.
 CORVEX_WEBWRAPPER_EXPORT HTML_Object* retrieveObject(SharedPtr<Object> wrapped);
 
 /// The script class "HTML_Object".

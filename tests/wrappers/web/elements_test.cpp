@@ -6,6 +6,8 @@
 #include "wrappers/web/html_text.h"
 #include "wrappers/web/webtest.h"
 
+#include <QTimer>
+
 using namespace Corvex;
 using namespace Corvex::WebWrapper;
 using namespace TestSupport;
@@ -92,6 +94,13 @@ TEST_F(Elements, CheckableButtonsTellThePageOfChanges) {
   page.fail(focus, "gone");
   EXPECT_EQ(make<HTML_CheckBox>()->click(0, 0, 0, 1), QString("Error invoking function 'focus': gone"));
   EXPECT_EQ(page.takeCodes().size(), 1);
+}
+
+TEST_F(Elements, AClickThatTakesThePageAwayIsOver) {
+  const auto box = make<HTML_CheckBox>();
+  QTimer::singleShot(0, [&box] { box->invalidate(); });
+  EXPECT_EQ(box->click(0, 0, 0, 1), QString());
+  EXPECT_FALSE(page.takeCodes().join("").contains("sendChangeEvent"));
 }
 
 TEST_F(Elements, LinksLoseTheDetailOfAFailure) {

@@ -219,5 +219,9 @@ TEST_F(References, ScriptsCompareAndPrintPageObjects) {
   EXPECT_EQ(alsoA->toString(), QString("a"));
   EXPECT_TRUE(a->objectClass()->sameObjects(a, alsoA));
   EXPECT_FALSE(a->objectClass()->sameObjects(a, wrapObject(nullptr)));
+  EXPECT_FALSE(a->objectClass()->sameObjects(a, wrapScreenRectangle(ScreenRectangle())));
+  FakeComponent otherPage;
+  const SharedPtr<Object> elsewhere = wrapObject(new HTML_Object("", retrieveObject(a)->reference, &otherPage));
+  EXPECT_FALSE(a->objectClass()->sameObjects(a, elsewhere));
   EXPECT_FALSE(a->objectClass()->canCastTo(Inspector::self()->primitiveType(PrimitiveType::Int), true));
 }

@@ -22,7 +22,12 @@ function __corvex__typeFromHooks(o) {
 
 // A form with a field named "alert" is no window, and a document with such a form neither.
 function __corvex__isWindow(o) {
-  return !!o.alert && (o.window === o || typeof __corvex__node.nodeType(o) != "number");
+  try {
+    return !!o.alert && (o.window === o || typeof __corvex__node.nodeType(o) != "number");
+  } catch (e) {
+    // A window of another origin refuses the question.
+    return true;
+  }
 }
 
 function __corvex__typeOf(o) {

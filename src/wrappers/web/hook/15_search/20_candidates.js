@@ -10,8 +10,14 @@ function __corvex__formControls(form) {
   return Object.getOwnPropertyDescriptor(HTMLFormElement.prototype, "elements").get.call(form);
 }
 
+// A shadow root has only the selection by selectors.
+function __corvex__elementsByTag(container, tagName) {
+  return container.getElementsByTagName ? container.getElementsByTagName(tagName) :
+    container.querySelectorAll(tagName);
+}
+
 function __corvex__findFormInContainer(container, formName) {
-  var forms = container.getElementsByTagName("FORM");
+  var forms = __corvex__elementsByTag(container, "FORM");
   for (var i = 0; i < forms.length; ++i) {
     if (__corvex__getObjectAttribute(forms[i], "name") === formName) {
       return forms[i];
@@ -53,7 +59,7 @@ function __corvex__controlsOfForm(container, formName, tagName) {
 function __corvex__candidates(container, map) {
   var tagName = map.tagName.value;
   var controls = __corvex__controlsOfForm(container, __corvex__exactText(__corvex__mapEntry(map, "form")), tagName);
-  return controls.length ? controls : container.getElementsByTagName(tagName);
+  return controls.length ? controls : __corvex__elementsByTag(container, tagName);
 }
 
 // The candidates with those of the container's own shadow root behind them, where the object model shows it too.

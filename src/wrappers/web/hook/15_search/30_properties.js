@@ -40,14 +40,14 @@ function __corvex__searchByProps(container, map, nm, accept) {
   var isImageLink = __corvex__isImageLink(map);
   var candidates;
   if (isImageLink) {
-    var link = __corvex__searchImageLinks(container.getElementsByTagName("A"), map, accept);
+    var link = __corvex__searchImageLinks(__corvex__elementsByTag(container, "A"), map, accept);
     if (link) {
       return link;
     }
     map.name = map.img_name;
     map.id = map.img_id;
     map.tagName.value = "IMG";
-    candidates = container.getElementsByTagName("IMG");
+    candidates = __corvex__elementsByTag(container, "IMG");
   } else {
     candidates = __corvex__candidates(container, map);
   }
