@@ -19,29 +19,23 @@ function __corvex__nameAddContainerToName(name, o) {
   return "{container=" + unescape(__corvex__propertyNameOf(root.host, false, true)) + " " + name.substring(1);
 }
 
-// Adds the ordinal that makes the search find o by this name. The search goes on in the document where it hit first,
-// so the ordinal is o's place among the hits in that document; only for an o that lies elsewhere one ordinal after the
-// other has to be tried.
+// Adds the ordinal that makes the search find o by this name. A search stays in the document of the current context as
+// long as that has enough hits: so the ordinal is o's place there, or the next one to try is the first that is too high
+// for it and makes the search, and the context with it, move on.
 function __corvex__uniquifyName(n, o, ignore) {
   if (ignore === true || (n.charAt(0) !== "{" && n.charAt(n.length - 1) !== "}")) {
     return n;
   }
   var head = n.substring(0, n.length - 1) + " occurrence='";
   var found = __corvex__findObjectByProps4(n);
-  if (!found || found === o) {
-    return n;
-  }
-  var counter = __corvex__occurrenceInDocument(__corvex__ctxwin.document, n, o);
-  if (counter > 1) {
-    return head + counter + "'}";
-  }
-  counter = 1;
-  while (found !== o) {
-    ++counter;
-    found = __corvex__findObjectByProps4(head + counter + "'}");
-    if (!found) {
-      return n;
+  var counter = 1;
+  while (found && found !== o) {
+    var hits = __corvex__hitsInDocument(__corvex__ctxwin.document, n, o, counter);
+    if (hits.place !== 0) {
+      return head + hits.place + "'}";
     }
+    counter = Math.max(counter, hits.count) + 1;
+    found = __corvex__findObjectByProps4(head + counter + "'}");
   }
-  return head + counter + "'}";
+  return found && counter > 1 ? head + counter + "'}" : n;
 }

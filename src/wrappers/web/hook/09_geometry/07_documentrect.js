@@ -110,8 +110,9 @@ function __corvex__documentExtent(ownSize, dimension) {
   var body = document.body;
   var root = document.documentElement;
   // An element of that name hides what the document says itself.
-  return typeof ownSize == "number" && ownSize || Math.max(body["scroll" + dimension], body["offset" + dimension], root["client" + dimension],
-    root["scroll" + dimension], root["offset" + dimension]);
+  return typeof ownSize == "number" && ownSize ||
+    Math.max(body["scroll" + dimension], body["offset" + dimension], root["client" + dimension],
+      root["scroll" + dimension], root["offset" + dimension]);
 }
 
 window.top.__corvex.getDocumentSize = function () {

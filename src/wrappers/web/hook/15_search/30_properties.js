@@ -1,4 +1,4 @@
-// Gives: __corvex__findObjectByProps, the search below one document or element, and an element's place among the hits.
+// Gives: __corvex__findObjectByProps, the search below one document or element, and how the hits count.
 // Needs: 10_name.js, 20_candidates.js.
 
 function __corvex__isImageLink(map) {
@@ -81,19 +81,21 @@ function __corvex__findObjectByProps(container, nm) {
   });
 }
 
-// The 1-based place of element among the hits of nm in one document; 0 if it is none of them, or if nm counts itself.
-function __corvex__occurrenceInDocument(doc, nm, element) {
+// place: the 1-based place of element among the hits of nm in one document, if it is from or behind it, else 0. count:
+// the number of hits there. Both are 0 if nm counts itself, or if the search fails there.
+function __corvex__hitsInDocument(doc, nm, element, from) {
   try {
     var map = __corvex__propertyMap(nm);
     if (!map || map.occurrence || map.occurance) {
-      return 0;
+      return { place: 0, count: 0 };
     }
     var count = 0;
-    return __corvex__searchByProps(doc, map, nm, function (hit) {
+    var found = __corvex__searchByProps(doc, map, nm, function (hit) {
       ++count;
-      return hit === element;
-    }) ? count : 0;
+      return hit === element && count >= from;
+    });
+    return { place: found ? count : 0, count: count };
   } catch (e) {
-    return 0;
+    return { place: 0, count: 0 };
   }
 }
