@@ -224,7 +224,15 @@ SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) 
 
 QString Inspector::notFoundError(const QString& name) const {
   const QString mapped = ObjectMap::self()->realName(name);
-  const QStringList unmatched = m_unmatched.value(mapped.isEmpty() ? name : mapped);
+  const QString realName = mapped.isEmpty() ? name : mapped;
+  const QStringList unmatched = m_unmatched.value(realName);
+  if (unmatched.contains(QStringLiteral("container"))) {
+    return QStringLiteral("Object '%1' not found. Its container was not found.").arg(name);
+  }
+  const QString explanation = m_services.explain ? m_services.explain(realName) : QString();
+  if (!explanation.isEmpty()) {
+    return QStringLiteral("Object '%1' not found. %2").arg(name, explanation);
+  }
   const QString reason = unmatched.isEmpty()
                              ? QString()
                              : QStringLiteral(" No element matched: %1.").arg(unmatched.join(QLatin1String(", ")));

@@ -24,6 +24,8 @@ struct HostServices {
   std::function<qint64()> now;
   /// Why nothing can be looked up now, as a sentence; an empty text when all is well.
   std::function<QString()> trouble;
+  /// Why a real name was not found, as a sentence; an empty text when nothing is known.
+  std::function<QString(const QString& name)> explain;
 };
 
 /// The framework's one meeting point: classes, wrapping of values, object lookup and script errors. One thread.

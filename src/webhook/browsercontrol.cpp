@@ -1,6 +1,7 @@
 #include "webhook/browsercontrol.h"
 
 #include "corvexhook/inspector.h"
+#include "webhook/searchexplanation.h"
 #include "wrappers/web/escaping.h"
 #include "wrappers/web/readiness.h"
 #include "wrappers/web/sleeping.h"
@@ -27,6 +28,9 @@ BrowserControl::BrowserControl(const SessionOptions& options) : m_options(option
   };
   services.sleep = [this](int milliseconds) { sleep(milliseconds); };
   services.trouble = [this] { return trouble(); };
+  services.explain = [this](const QString& name) {
+    return trouble().isEmpty() ? explainFailedSearch(*m_windows->current(), name) : QString();
+  };
   Inspector::self()->setHostServices(services);
 }
 
@@ -77,9 +81,10 @@ QString BrowserControl::closeWindow() {
 void BrowserControl::closeBrowser() {
   m_dispatcher.reset();
   m_dialogs.reset();
+  // The pages may speak until they are gone.
+  m_session.reset();
   m_windows.reset();
   m_endpoint.reset();
-  m_session.reset();
   m_lossReason.clear();
 }
 

@@ -17,12 +17,18 @@ namespace Corvex::Webhook {
 namespace {
 
 const QCommandLineOption browserOption(QStringLiteral("browser"),
-                                       QStringLiteral("The browser: chromium, or the path of its program."),
+                                       QStringLiteral("The browser: chromium, firefox, or the path of its program."),
                                        QStringLiteral("name"), QStringLiteral("chromium"));
 const QCommandLineOption headedOption(QStringLiteral("headed"), QStringLiteral("Show the browser's windows."));
 const QCommandLineOption attachOption(QStringLiteral("attach"),
                                       QStringLiteral("Use a running browser, by the address of its debugging socket."),
                                       QStringLiteral("ws://..."));
+const QCommandLineOption remoteOption(QStringLiteral("remote"),
+                                      QStringLiteral("Ask this WebDriver server for a browser."),
+                                      QStringLiteral("http://host:port"));
+const QCommandLineOption capabilitiesOption(
+    QStringLiteral("capabilities"), QStringLiteral("What to ask the server for: JSON, or @ and a file of JSON."),
+    QStringLiteral("json"));
 const QCommandLineOption timeoutOption(
     QStringLiteral("timeout"),
     QStringLiteral("How long waitForObject waits, and a page may take to answer: 20 at first."),
@@ -50,8 +56,6 @@ QString unreadable(const QStringList& scripts) {
   return QString();
 }
 
-QString browserProgram(const QString& name) { return name == QLatin1String("chromium") ? QString() : name; }
-
 /// An error, or an empty text.
 QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
   bool isNumber = false;
@@ -60,13 +64,18 @@ QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
     return QStringLiteral("--timeout takes a number of seconds above 0, not '%1'.").arg(parser.value(timeoutOption));
   }
   options->timeoutMs = static_cast<int>(seconds * 1000);
-  options->session.browser = browserProgram(parser.value(browserOption));
+  options->session.browser = parser.value(browserOption);
   options->session.attachTo = parser.value(attachOption);
+  options->session.remoteUrl = parser.value(remoteOption);
+  options->session.capabilities = parser.value(capabilitiesOption);
   options->session.headed = parser.isSet(headedOption);
   options->session.defaultTimeoutMs = options->timeoutMs;
   options->scripts = parser.positionalArguments();
   options->junitFile = parser.value(junitOption);
   options->verbose = parser.isSet(verboseOption);
+  if (parser.isSet(remoteOption) && (parser.isSet(attachOption) || parser.isSet(headedOption))) {
+    return QStringLiteral("--remote cannot stand beside --attach or --headed: the server decides on its browser.");
+  }
   return options->scripts.isEmpty() ? QStringLiteral("A script is missing.") : unreadable(options->scripts);
 }
 
@@ -105,7 +114,8 @@ int runScriptsCommand(const QStringList& arguments) {
       "Runs test scripts in a browser, one behind the other, each in a browser of its own.\n\n"
       "Exit code: 0 all passed, 1 a script failed, 2 wrong usage, 3 the browser could not be started or\n"
       "was lost."));
-  parser.addOptions({browserOption, headedOption, attachOption, timeoutOption, junitOption, verboseOption});
+  parser.addOptions({browserOption, headedOption, attachOption, remoteOption, capabilitiesOption, timeoutOption,
+                     junitOption, verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."), QStringLiteral("The scripts, in JavaScript."));
   if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {
     return *exitCode;

@@ -11,7 +11,7 @@ class Class;
 
 namespace WebWrapper {
 class HTMLObjectHierarchyDelegate;
-class WebObjectComparisonDelegate;
+
 }  // namespace WebWrapper
 
 namespace Webhook {
@@ -42,7 +42,6 @@ private:
   const Class* m_browserClass;
   std::unique_ptr<BrowserToplevelDelegate> m_toplevel;
   std::unique_ptr<WebWrapper::HTMLObjectHierarchyDelegate> m_hierarchy;
-  std::unique_ptr<WebWrapper::WebObjectComparisonDelegate> m_comparison;
   std::map<Connection*, SharedPtr<Object>> m_roots;
 };
 

@@ -31,8 +31,8 @@ window.__corvex.keepNativeDialogs = function () {
   }
 };
 
-// An empty page that nobody opened has no origin by which the driver could know it, and nothing to say.
-if (location.protocol === "about:" && window.origin === "null") {
+// An empty page has no address of its own by which the driver could know it.
+if (location.protocol === "about:") {
   window.__corvex.useSessionStorageForEvents = true;
 }
 

@@ -8,7 +8,7 @@
 namespace Corvex::WebWrapper {
 
 /// For an object name between double quotes: backslash, double quote, carriage return and line feed are escaped.
-QString escapeObjectNameForUseAsStringLiteral(const QString& name);
+CORVEX_WEBWRAPPER_EXPORT QString escapeObjectNameForUseAsStringLiteral(const QString& name);
 
 /// For a text between single quotes that holds no line break: backslash and single quote are escaped.
 CORVEX_WEBWRAPPER_EXPORT QString escapeQuoteWithBackslash(const QString& text);
