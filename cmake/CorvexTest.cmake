@@ -7,7 +7,8 @@ include(GoogleTest)
 # from `SOURCES`, with GoogleTest's own main unless `MAIN` names a file. Its name is the group of its cases in ctest.
 #
 # Without BROWSER each case is a ctest entry of its own, and so gets a process of its own. With BROWSER the program is one
-# entry that never runs beside another one, so that it starts its browser once and has the machine to itself.
+# entry for each browser, `name` for Chromium and `name.firefox`, told apart by CORVEX_TEST_BROWSER. It never runs beside
+# another one, so that it starts its browser once and has the machine to itself.
 function(corvex_test name)
   cmake_parse_arguments(ARG "BROWSER" "MAIN" "SOURCES;LINK;ENVIRONMENT" ${ARGN})
   add_executable(${name} ${ARG_SOURCES} ${ARG_MAIN})
@@ -18,8 +19,15 @@ function(corvex_test name)
     target_link_libraries(${name} PRIVATE GTest::gtest_main)
   endif()
   if(ARG_BROWSER)
-    add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES RUN_SERIAL ON LABELS browser TIMEOUT 300 ENVIRONMENT "${ARG_ENVIRONMENT}")
+    foreach(browser IN ITEMS chromium firefox)
+      set(entry ${name})
+      if(NOT browser STREQUAL chromium)
+        set(entry ${name}.${browser})
+      endif()
+      add_test(NAME ${entry} COMMAND ${name})
+      set_tests_properties(${entry} PROPERTIES RUN_SERIAL ON LABELS "browser;${browser}" TIMEOUT 300
+                           ENVIRONMENT "CORVEX_TEST_BROWSER=${browser};${ARG_ENVIRONMENT}")
+    endforeach()
   else()
     gtest_discover_tests(${name} TEST_PREFIX "${name}." DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
                          PROPERTIES TIMEOUT 60 ENVIRONMENT "${ARG_ENVIRONMENT}")

@@ -36,6 +36,12 @@ int timeoutOf(const ObjectList& arguments, int index) {
   return argument ? argument->toInt() : Inspector::self()->defaultTimeout();
 }
 
+/// A window with an open dialog has no contexts, so the dialog belongs to the explanation.
+QString withTrouble(const BrowserControl& control, const QString& error) {
+  const QString trouble = error.isEmpty() ? QString() : control.trouble();
+  return trouble.isEmpty() ? error : error + QLatin1Char(' ') + trouble;
+}
+
 ScriptValue waitForContext(BrowserControl& control, const QString& name, int timeoutMs) {
   QElapsedTimer timer;
   timer.start();
@@ -48,10 +54,11 @@ ScriptValue waitForContext(BrowserControl& control, const QString& name, int tim
       return truth(true);
     }
     if (timer.elapsed() >= timeoutMs) {
-      return nothing(QStringLiteral("The context '%1' did not exist within %2 ms. There are: '%3'.")
-                         .arg(name)
-                         .arg(timeoutMs)
-                         .arg(contextNames(*control.windows()).join(QLatin1String("', '"))));
+      return nothing(
+          withTrouble(control, QStringLiteral("The context '%1' did not exist within %2 ms. There are: '%3'.")
+                                   .arg(name)
+                                   .arg(timeoutMs)
+                                   .arg(contextNames(*control.windows()).join(QLatin1String("', '")))));
     }
     control.sleep(attemptIntervalMs);
   }
@@ -86,7 +93,9 @@ const Row rows[] = {
     {"hasContext", "hasContext(name)", 1, 1, true,
      [](BrowserControl& c, const ObjectList& a) { return truth(hasContext(*c.windows(), a[0]->toString())); }},
     {"setContext", "setContext(name)", 1, 1, true,
-     [](BrowserControl& c, const ObjectList& a) { return nothing(selectContext(*c.windows(), a[0]->toString())); }},
+     [](BrowserControl& c, const ObjectList& a) {
+       return nothing(withTrouble(c, selectContext(*c.windows(), a[0]->toString())));
+     }},
     {"waitForContextExists", "waitForContextExists(name[, ms])", 1, 2, true,
      [](BrowserControl& c, const ObjectList& a) { return waitForContext(c, a[0]->toString(), timeoutOf(a, 1)); }},
     {"setFrameContext", "setFrameContext(path)", 1, 1, true,
@@ -113,16 +122,25 @@ const Row rows[] = {
      [](BrowserControl& c, const ObjectList&) { return text(c.dialogs()->lastPromptDefault()); }},
 };
 
+ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& arguments) {
+  const QString before = row.needsWindow ? control.windowTrouble() : QString();
+  if (!before.isEmpty()) {
+    return nothing(before);
+  }
+  const ScriptValue result = row.call(control, arguments);
+  // A browser or window that went meanwhile says more than what then failed.
+  const QString after = row.needsWindow && result.failed() ? control.windowTrouble() : QString();
+  return after.isEmpty() ? result : nothing(after);
+}
+
 }  // namespace
 
 Scripting::ScriptHost browserFunctions(BrowserControl& control) {
   Scripting::ScriptHost host;
   for (const Row& row : rows) {
     host.functions.push_back({QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments,
-                              row.maxArguments, [&control, &row](const ObjectList& arguments) {
-                                const QString error = row.needsWindow ? control.windowTrouble() : QString();
-                                return error.isEmpty() ? row.call(control, arguments) : nothing(error);
-                              }});
+                              row.maxArguments,
+                              [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }});
   }
   return host;
 }

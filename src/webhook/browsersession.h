@@ -10,9 +10,11 @@
 namespace Corvex::Webhook {
 
 struct SessionOptions {
-  QString browser;      ///< Path of the browser's program; "" finds one.
-  QString attachTo;     ///< ws://... of a browser that runs already; then none is started.
-  bool headed = false;  ///< Show its windows.
+  QString browser;       ///< "chromium", "firefox" or the path of a program; "" takes the Chromium that is installed.
+  QString attachTo;      ///< ws://... of a browser that runs already; then none is started.
+  QString remoteUrl;     ///< http://host:port of a WebDriver server that starts one; then none is started here.
+  QString capabilities;  ///< What the server is asked for: JSON, or @ and the path of a file of JSON.
+  bool headed = false;   ///< Show its windows.
   int startTimeoutMs = 30000;
   int defaultTimeoutMs = 20000;  ///< Of calls that are given no time.
   QStringList extraArguments;    ///< For the browser's command line.

@@ -23,6 +23,12 @@ const BrowserKindRow browserKinds[] = {
     {BrowserIdentity::Chromium, 4},
 };
 
+/// The code with JSON of its own: what the page replaced would spoil the answers. A block keeps the completion value.
+QString withOwnJson(const QString& code) {
+  return QStringLiteral("{ let JSON = window.__corvex && window.__corvex.JSON || window.JSON;\n") + code +
+         QStringLiteral("\n}");
+}
+
 QString closedPage() { return QStringLiteral("The browser window is closed. Call startBrowser(url) to open another."); }
 
 }  // namespace
@@ -108,7 +114,7 @@ WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigne
     // Whether it worked shows in what the code itself gives.
     greetDocument();
   }
-  return ask(code, timeoutMs);
+  return ask(withOwnJson(code), timeoutMs);
 }
 
 WebWrapper::JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {
@@ -168,6 +174,10 @@ QString Connection::selectFileToUpload(WebWrapper::HTML_CustomText* field, const
 
 QString Connection::upload(const QString& reference, const QString& path) {
   const QFileInfo file(path);
+  // A browser on another machine looks for the file there.
+  if (m_browser.messagePort == 0) {
+    return m_page ? m_page->setFiles(reference, {path}) : closedPage();
+  }
   if (!file.isFile()) {
     return QStringLiteral("Cannot choose the file '%1': there is no such file. Give a path that exists.").arg(path);
   }

@@ -4,16 +4,11 @@
 #include <QJsonDocument>
 
 #include "webhook/jstext.h"
+#include "webhook/startscript.h"
 
 namespace Corvex::Webhook::DevTools {
 
 namespace {
-
-// Frames run start scripts too. A property that cannot be redefined makes a script that opens with a function of this
-// name fail there as a whole, before it declares or runs anything.
-const char* const frameGuard =
-    "if (window !== window.top) Object.defineProperty(window, '__corvex__topPageOnly', { value: 0 });";
-const char* const guardedDeclaration = "function __corvex__topPageOnly(){} ";
 
 // A template literal converts as String() does, and no page can replace it.
 const char* const textOfThis = "function() { 'use strict'; return `${this}`; }";
@@ -118,12 +113,12 @@ Target readTarget(const QJsonObject& attached) {
 
 QVector<Command> watchPage() {
   return {command("Page.enable"), command("Page.setLifecycleEventsEnabled", {{QStringLiteral("enabled"), true}}),
-          command("Inspector.enable"), startScript(QString::fromLatin1(frameGuard))};
+          command("Inspector.enable"), startScript(StartScript::frameGuard())};
 }
 
 Command resumePage() { return command("Runtime.runIfWaitingForDebugger"); }
 
-Command addStartScript(const QString& script) { return startScript(QString::fromLatin1(guardedDeclaration) + script); }
+Command addStartScript(const QString& script) { return startScript(StartScript::forTopPage(script)); }
 
 Command navigate(const QString& url) { return command("Page.navigate", {{QStringLiteral("url"), url}}); }
 
@@ -153,6 +148,8 @@ Command textOfObject(const QString& handle, const QString& group) {
                                             {QStringLiteral("objectId"), handle},
                                             {QStringLiteral("objectGroup"), group}});
 }
+
+Command terminate() { return command("Runtime.terminateExecution"); }
 
 Command releaseGroup(const QString& group) {
   return command("Runtime.releaseObjectGroup", {{QStringLiteral("objectGroup"), group}});

@@ -63,6 +63,8 @@ Command evaluate(const QString& code, const QString& group, int timeoutMs);
 /// String(value) of the object behind a handle.
 Command textOfObject(const QString& handle, const QString& group);
 Command releaseGroup(const QString& group);
+/// Ends the code that runs in the page; if none does, the next that runs.
+Command terminate();
 
 struct Outcome {
   bool thrown = false;

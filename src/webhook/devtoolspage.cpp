@@ -4,30 +4,11 @@
 #include <algorithm>
 
 #include "webhook/browsersession.h"
+#include "webhook/counted.h"
 #include "webhook/devtoolsevaluation.h"
 #include "webhook/pageerrors.h"
 
 namespace Corvex::Webhook {
-
-namespace {
-
-/// Counts a call as long as it runs, if its page lives that long.
-class Counted {
-public:
-  Counted(QObject* owner, int& count) : m_owner(owner), m_count(count) { ++m_count; }
-  ~Counted() {
-    if (m_owner)
-      --m_count;
-  }
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
-
-private:
-  QPointer<QObject> m_owner;
-  int& m_count;
-};
-
-}  // namespace
 
 DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
                            const QStringList& startScripts)

@@ -22,6 +22,11 @@ const TextFunction textFunctions[] = {
     {"prompt", "__corvex__lastPromptText"},
 };
 
+/// The question whether to leave a page is answered as a confirm is.
+QString answeredAs(const QString& kind) {
+  return kind == QLatin1String("beforeunload") ? QStringLiteral("confirm") : kind;
+}
+
 }  // namespace
 
 Dialogs::Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint, const Sleep& sleep)
@@ -97,7 +102,7 @@ bool Dialogs::tryAnswer(const QString& kind, bool accept, const QString& text, Q
 Connection* Dialogs::showing(const QString& kind) const {
   for (Connection* connection : m_windows.connections()) {
     const std::optional<Dialog> dialog = connection->openDialog();
-    if (dialog && dialog->kind == kind) {
+    if (dialog && answeredAs(dialog->kind) == kind) {
       return connection;
     }
   }
@@ -149,7 +154,7 @@ QString Dialogs::obstacle() const {
   const QString kind = dialog ? dialog->kind : m_wait.kind;
   const QString text = dialog ? dialog->text : m_texts.value(kind);
   return QStringLiteral("The page shows a dialog (%1: '%2'). Answer it with close%3.")
-      .arg(kind, text, kind.left(1).toUpper() + kind.mid(1));
+      .arg(kind, text, answeredAs(kind).left(1).toUpper() + answeredAs(kind).mid(1));
 }
 
 }  // namespace Corvex::Webhook

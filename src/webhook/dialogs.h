@@ -33,6 +33,7 @@ public:
 
   /// Each waits for a dialog of its kind and answers it. An error tells what is open instead.
   QString closeAlert(int timeoutMs);
+  /// The question whether to leave a page counts as a confirm.
   QString closeConfirm(bool accept, int timeoutMs);
   /// A null text cancels the prompt.
   QString closePrompt(const QString& text, int timeoutMs);

@@ -20,6 +20,8 @@ namespace Corvex::Webhook {
 
 namespace {
 
+constexpr int loggedTargetLength = 100;
+
 constexpr int flushTime = 500;
 constexpr std::size_t connectionMemory = 128 * 1024;
 
@@ -269,17 +271,18 @@ void EndpointServer::complete(Exchange& exchange) {
   setStage(exchange, Stage::Idle);
 }
 
-QString EndpointServer::noteRefusal(const Verdict& verdict) {
+QString EndpointServer::noteRefusal(const Verdict& verdict, const QByteArray& target) {
   const RefusalRow& row = rowOf(verdict.refusal);
   const QString sentence = QString::fromLatin1(row.sentence).arg(verdict.detail);
   m_refused.count(verdict.refusal);
-  qCWarning(webhookLog, "The endpoint refused a request: %s", qUtf8Printable(sentence));
+  qCWarning(webhookLog, "The endpoint refused '%s': %s", target.left(loggedTargetLength).constData(),
+            qUtf8Printable(sentence));
   return sentence;
 }
 
 void EndpointServer::noteMalformed(const QString& what) {
   if (!m_stopping)
-    noteRefusal({Refusal::Malformed, what});
+    noteRefusal({Refusal::Malformed, what}, "?");
 }
 
 MHD_Result EndpointServer::handle(void* self, MHD_Connection* connection, const char*, const char* method, const char*,
@@ -342,7 +345,7 @@ MHD_Result EndpointServer::take(Exchange& exchange, PageMessage message) {
 }
 
 MHD_Result EndpointServer::refuse(Exchange& exchange, const Verdict& verdict) {
-  const QString sentence = noteRefusal(verdict);
+  const QString sentence = noteRefusal(verdict, exchange.target);
   setStage(exchange, Stage::Replying);
   return sendReply(exchange.connection, rowOf(verdict.refusal).status, "Refused: " + sentence.toUtf8(), verdict.origin);
 }

@@ -67,7 +67,7 @@ private:
   void endWaits();
   void noteClientGone(Exchange& exchange);
   void dropLateConnections();
-  QString noteRefusal(const Verdict& verdict);
+  QString noteRefusal(const Verdict& verdict, const QByteArray& target);
   void noteMalformed(const QString& what);
   void setStage(Exchange& exchange, Stage stage);
 

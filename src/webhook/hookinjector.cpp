@@ -103,8 +103,8 @@ QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
   return QStringLiteral(
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
-         members(config, browser) + WebWrapper::getJSCode(config) + dialogTexts + inPageFile("fallback.js") +
-         QStringLiteral("\n}");
+         members(config, browser) + inPageFile("ownjson.js") + WebWrapper::getJSCode(config) + dialogTexts +
+         inPageFile("fallback.js") + QStringLiteral("\n}");
 }
 
 }  // namespace Webhook

@@ -16,7 +16,7 @@ const std::size_t recordedLimit = 100000;
 
 const char* const queueOfPage =
     "window.__corvex && window.__corvex.useSessionStorageForEvents === true ? "
-    "JSON.stringify(__corvex__getSessionStorageEvents()) : ''";
+    "__corvex__queueText(__corvex__getSessionStorageEvents()) : ''";
 
 }  // namespace
 

@@ -14,6 +14,7 @@ struct RefusalRow {
 QString replaced(const PageCall&) { return PageErrors::pageReplaced(); }
 QString closed(const PageCall&) { return PageErrors::pageClosed(); }
 QString crashed(const PageCall&) { return PageErrors::pageCrashed(); }
+QString noDialog(const PageCall&) { return PageErrors::noDialogOpen(); }
 QString timeOver(const PageCall& call) { return PageErrors::noAnswerWithin(call.milliseconds()); }
 
 const RefusalRow refusals[] = {
@@ -26,6 +27,11 @@ const RefusalRow refusals[] = {
     {"Session with given id not found", closed},
     {"No target with given id found", closed},
     {"Target crashed", crashed},
+    {"no such realm", replaced},
+    {"no such handle", replaced},
+    {"AbortError", replaced},
+    {"no such frame", closed},
+    {"no such alert", noDialog},
 };
 
 }  // namespace

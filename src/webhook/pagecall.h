@@ -7,7 +7,7 @@
 
 namespace Corvex::Webhook {
 
-/// One call of a page of the DevTools protocol: its requests share one deadline. Outlives page and channel, so that a
+/// One call of a page: its requests share one deadline. Outlives page and channel, so that a
 /// call can end in order when both went while it waited.
 class PageCall {
 public:

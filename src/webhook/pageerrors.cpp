@@ -25,11 +25,23 @@ const LoadHint loadHints[] = {
     {"net::ERR_TOO_MANY_REDIRECTS", "The server redirects in a circle; look at the server."},
     {"net::ERR_HTTP_RESPONSE_CODE_FAILURE", "The server answered with an error and no page."},
     {"Cannot navigate to invalid URL", "Give the whole address, such as http://localhost:8080/page.html."},
+    {"NS_ERROR_CONNECTION_REFUSED", "Nothing listens at that address; start the server or correct the port."},
+    {"NS_ERROR_UNKNOWN_HOST", "The host name is not known; correct it or check the network."},
+    {"NS_ERROR_NET_TIMEOUT", "The host did not answer; check the address and the network."},
+    {"NS_ERROR_NET_RESET", "The server broke the connection; look at the server."},
+    {"NS_ERROR_NET_EMPTY_RESPONSE", "The server closed the connection without an answer; look at the server."},
+    {"NS_ERROR_FILE_NOT_FOUND", "There is no such file; correct the path."},
+    {"NS_ERROR_REDIRECT_LOOP", "The server redirects in a circle; look at the server."},
+    {"NS_ERROR_OFFLINE", "This machine has no network; connect it."},
+    {"NS_BINDING_ABORTED", "The address gave no page: a download, or an answer without content."},
+    {"deniedPortAccess", "The browser refuses this port; use another one."},
+    {"SEC_ERROR_UNKNOWN_ISSUER", "The browser does not trust the server's certificate."},
+    {"SSL_ERROR_RX_RECORD_TOO_LONG", "The server does not speak HTTPS at this port; try http://."},
 };
 
 QString hintFor(const QString& errorCode) {
   for (const LoadHint& row : loadHints) {
-    if (errorCode == QLatin1String(row.code))
+    if (errorCode.startsWith(QLatin1String(row.code)))
       return QLatin1Char(' ') + QString::fromLatin1(row.hint);
   }
   return {};
@@ -80,6 +92,13 @@ QString noSuchFile(const QString& path) {
 
 QString noFileInput(const QString& referenceExpression) {
   return QStringLiteral("'%1' is no file input of the page. Name an <input type=\"file\">.").arg(referenceExpression);
+}
+
+QString filesRefused(const QStringList& paths, const QString& browsersWords) {
+  return QStringLiteral(
+             "The browser could not take the file '%1': %2. A browser on another machine needs the path of a file "
+             "there.")
+      .arg(paths.join(QStringLiteral("', '")), browsersWords);
 }
 
 QString noScreenshot() { return QStringLiteral("The browser sent no readable image of the page. Try again."); }

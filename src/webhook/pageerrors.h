@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "webhook/browserpage.h"
 
@@ -16,12 +17,14 @@ QString dialogOpen(const Dialog& dialog);
 QString noDialogOpen();
 QString refused(const QString& browsersWords);
 
-/// `errorCode` as browsers built on Chromium give it, such as "net::ERR_CONNECTION_REFUSED".
+/// `errorCode` in the browser's words, such as "net::ERR_CONNECTION_REFUSED" or "NS_ERROR_CONNECTION_REFUSED".
 QString notLoaded(const QString& url, const QString& errorCode);
 QString notLoadedWithin(const QString& url, int milliseconds);
 
 QString noSuchFile(const QString& path);
 QString noFileInput(const QString& referenceExpression);
+/// `paths` are those of another machine.
+QString filesRefused(const QStringList& paths, const QString& browsersWords);
 QString noScreenshot();
 
 }  // namespace Corvex::Webhook::PageErrors

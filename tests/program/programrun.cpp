@@ -1,13 +1,16 @@
 #include "program/programrun.h"
 
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
+#include <QTimer>
 
 namespace TestSupport {
 
 namespace {
 
-const int runTimeoutMs = 60000;
+const int runTimeoutMs = 90000;
+const int checkIntervalMs = 20;
 
 }  // namespace
 
@@ -28,20 +31,46 @@ QString ProgramRun::write(const QString& name, const QString& text) {
 }
 
 void ProgramRun::start(const QStringList& arguments) {
+  const QString browser = m_environment.value(QStringLiteral("CORVEX_TEST_BROWSER"));
+  QStringList whole = arguments;
+  if (arguments.value(0) == QLatin1String("run") && !browser.isEmpty() &&
+      !arguments.contains(QStringLiteral("--browser"))) {
+    whole = QStringList{QStringLiteral("run"), QStringLiteral("--browser"), browser} + arguments.mid(1);
+  }
   m_process.setProcessEnvironment(m_environment);
-  m_process.start(QStringLiteral(CORVEX_PROGRAM), arguments);
+  m_process.start(QStringLiteral(CORVEX_PROGRAM), whole);
+}
+
+void ProgramRun::serveUntil(const std::function<bool()>& isDone) {
+  QEventLoop loop;
+  QTimer limit;
+  QTimer check;
+  QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+  QObject::connect(&check, &QTimer::timeout, &loop, [&] {
+    m_output += QString::fromUtf8(m_process.readAllStandardOutput());
+    if (isDone() || hasEnded()) {
+      loop.quit();
+    }
+  });
+  limit.start(runTimeoutMs);
+  check.start(checkIntervalMs);
+  loop.exec();
+  m_output += QString::fromUtf8(m_process.readAllStandardOutput());
 }
 
 bool ProgramRun::waitForOutput(const QString& text) {
-  while (!m_output.contains(text) && m_process.waitForReadyRead(runTimeoutMs)) {
-    m_output += QString::fromUtf8(m_process.readAllStandardOutput());
-  }
-  return m_output.contains(text);
+  return waitUntil([&] { return m_output.contains(text); });
+}
+
+bool ProgramRun::waitUntil(const std::function<bool()>& condition) {
+  serveUntil(condition);
+  return condition();
 }
 
 ProgramResult ProgramRun::finish() {
   ProgramResult result;
-  if (m_process.waitForFinished(runTimeoutMs) || m_process.state() == QProcess::NotRunning) {
+  serveUntil([] { return false; });
+  if (hasEnded()) {
     result.exitCode = m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -2;
   } else {
     m_process.kill();
@@ -68,7 +97,8 @@ QList<qint64> ProgramRun::browserProcesses() const {
     QFile commandLine(QStringLiteral("/proc/%1/cmdline").arg(entry));
     bool isNumber = false;
     const qint64 id = entry.toLongLong(&isNumber);
-    if (isNumber && commandLine.open(QIODevice::ReadOnly) && commandLine.readAll().contains(m_temporary.path().toUtf8())) {
+    if (isNumber && commandLine.open(QIODevice::ReadOnly) &&
+        commandLine.readAll().contains(m_temporary.path().toUtf8())) {
       processes << id;
     }
   }

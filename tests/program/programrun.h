@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
+
 namespace TestSupport {
 
 /// What a run of the program gave.
@@ -14,8 +16,8 @@ struct ProgramResult {
   QString errors;
 };
 
-/// Runs the program as a user does, in a folder of its own, where scripts can be written. What it leaves in the temporary
-/// folder can be seen.
+/// Runs the program as a user does, in a folder of its own, where scripts can be written. What it leaves in the
+/// temporary folder can be seen. While it is waited for, events are served: servers of this process answer it.
 class ProgramRun {
 public:
   ProgramRun();
@@ -28,6 +30,8 @@ public:
   void start(const QStringList& arguments);
   /// Reads the output until it holds `text`; false when the program ended without it.
   bool waitForOutput(const QString& text);
+  /// Serves events until the condition holds; false when the program ended before.
+  bool waitUntil(const std::function<bool()>& condition);
   ProgramResult finish();
   ProgramResult run(const QStringList& arguments);
 
@@ -38,6 +42,9 @@ public:
   QList<qint64> browserProcesses() const;
 
 private:
+  void serveUntil(const std::function<bool()>& isDone);
+  bool hasEnded() const { return m_process.state() == QProcess::NotRunning; }
+
   QTemporaryDir m_folder;
   QTemporaryDir m_temporary;
   QProcessEnvironment m_environment;

@@ -9,6 +9,7 @@
 #include <cstdlib>
 
 #include "support/printing.h"
+#include "webhook/endpointpolicy.h"
 
 namespace TestSupport {
 
@@ -44,10 +45,16 @@ HookedBrowser& HookedBrowser::instance() {
 HookedBrowser::HookedBrowser() : m_model(new Corvex::Webhook::WebModel) {
   using namespace Corvex::Webhook;
   qputenv("CORVEX_PREFIX", CORVEX_TEST_PREFIX);
-  BrowserSession::Start start = BrowserSession::start(SessionOptions());
+  SessionOptions options;
+  options.browser = QString::fromLocal8Bit(qgetenv("CORVEX_TEST_BROWSER"));
+  BrowserSession::Start start = BrowserSession::start(options);
   require(start.error);
   m_session = std::move(start.session);
-  m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, *m_model);
+  QString error;
+  m_endpoint.start(&error);
+  require(error);
+  m_endpoint.setAllowedOrigins({originOf(m_server.url(QStringLiteral("/")))});
+  m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, *m_model, m_endpoint.port());
   require(m_windows->open());
 }
 

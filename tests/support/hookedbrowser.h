@@ -7,6 +7,7 @@
 #include "support/testserver.h"
 #include "webhook/browsersession.h"
 #include "webhook/browserwindows.h"
+#include "webhook/endpoint.h"
 #include "webhook/webmodel.h"
 #include "wrappers/web/wrapperconfig.h"
 
@@ -31,6 +32,7 @@ private:
   HookedBrowser();
 
   TestServer m_server;
+  Corvex::Webhook::MessageEndpoint m_endpoint;
   Corvex::WebWrapper::MemoryBasedConfig m_config;
   std::unique_ptr<Corvex::Webhook::WebModel> m_model;
   std::unique_ptr<Corvex::Webhook::BrowserSession> m_session;

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTcpSocket>
 #include <QUrl>
 
@@ -17,6 +18,12 @@ QByteArray typeOf(const QString& path) {
                                                {QStringLiteral("svg"), "image/svg+xml"},
                                                {QStringLiteral("png"), "image/png"}};
   return types.value(QFileInfo(path).suffix(), "text/plain; charset=utf-8");
+}
+
+int bodyLength(const QByteArray& head) {
+  static const QRegularExpression line(QStringLiteral("\\ncontent-length: *(\\d+)"),
+                                       QRegularExpression::CaseInsensitiveOption);
+  return line.match(QString::fromLatin1(head)).captured(1).toInt();
 }
 
 QByteArray responseText(const ServerPage& page) {
@@ -46,13 +53,13 @@ void TestServer::serve(QTcpSocket* socket) {
   QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
     const QByteArray seen = socket->peek(64 * 1024);
     const int headEnd = seen.indexOf("\r\n\r\n");
-    if (headEnd >= 0)
-      answer(socket, socket->read(headEnd + 4));
+    if (headEnd >= 0 && seen.size() >= headEnd + 4 + bodyLength(seen.left(headEnd)))
+      answer(socket, socket->readAll());
   });
 }
 
-void TestServer::answer(QTcpSocket* socket, const QByteArray& head) {
-  const QString target = QString::fromLatin1(head.split(' ').value(1));
+void TestServer::answer(QTcpSocket* socket, const QByteArray& request) {
+  const QString target = QString::fromLatin1(request.split(' ').value(1));
   m_requests.append(target);
   const ServerPage page = pageFor(QUrl::fromPercentEncoding(target.section(QLatin1Char('?'), 0, 0).toLatin1()));
   if (page.silent)

@@ -44,7 +44,7 @@ public:
 private:
   void serve(QTcpSocket* socket);
   ServerPage pageFor(const QString& path) const;
-  void answer(QTcpSocket* socket, const QByteArray& head);
+  void answer(QTcpSocket* socket, const QByteArray& request);
 
   QTcpServer m_server;
   QMap<QString, ServerPage> m_pages;

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "support/printing.h"
+#include "support/testbrowser.h"
 #include "support/testserver.h"
 #include "webhook/awaiting.h"
 #include "webhook/browsersession.h"
@@ -15,16 +16,28 @@ public:
   static void SetUpTestSuite() {
     if (session)
       return;
+    testing::AddGlobalTestEnvironment(new Closing);
     server = std::make_unique<TestSupport::TestServer>();
-    Corvex::Webhook::BrowserSession::Start start = Corvex::Webhook::BrowserSession::start({});
+    Corvex::Webhook::BrowserSession::Start start = Corvex::Webhook::BrowserSession::start(TestSupport::testBrowser());
     ASSERT_TRUE(start.session) << start.error.toStdString();
     session = std::move(start.session);
   }
 
 protected:
+  /// Ends the browser as long as the program's event loop can run.
+  class Closing : public testing::Environment {
+  public:
+    void TearDown() override { session.reset(); }
+  };
+
   void SetUp() override {
     page = session->firstPage();
     ASSERT_EQ(load("<title>Empty</title>"), QString());
+  }
+
+  /// Another browser, which the test may lose.
+  static Corvex::Webhook::BrowserSession::Start startAnother() {
+    return Corvex::Webhook::BrowserSession::start(TestSupport::testBrowser());
   }
 
   /// Loads a page with this content from the server, with these headers.

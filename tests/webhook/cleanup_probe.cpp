@@ -4,14 +4,15 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "webhook/browsersession.h"
+#include "support/testbrowser.h"
 #include "webhook/cleanup.h"
 
 int main(int argc, char** argv) {
   Corvex::Webhook::Cleanup::install();
   QCoreApplication application(argc, argv);
   const QString way = application.arguments().value(1);
-  auto* const start = new Corvex::Webhook::BrowserSession::Start(Corvex::Webhook::BrowserSession::start({}));
+  using Corvex::Webhook::BrowserSession;
+  auto* const start = new BrowserSession::Start(BrowserSession::start(TestSupport::testBrowser()));
   if (!start->session)
     return 3;
   std::printf("%lld %s\n", start->session->browserProcess(), start->session->browserDirectory().toUtf8().constData());

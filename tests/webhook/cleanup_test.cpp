@@ -2,8 +2,12 @@
 #include <signal.h>
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+
+#include "support/printing.h"
 
 namespace {
 
@@ -12,6 +16,17 @@ struct Row {
   int signal;
   int exitCode;
 };
+
+/// The processes that were started with this text somewhere in their environment.
+QStringList processesThatKnow(const QString& text) {
+  QStringList found;
+  for (const QString& process : QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs)) {
+    QFile environment(QStringLiteral("/proc/%1/environ").arg(process));
+    if (environment.open(QIODevice::ReadOnly) && environment.readAll().contains(text.toUtf8()))
+      found << process;
+  }
+  return found;
+}
 
 class CleanupTest : public testing::TestWithParam<Row> {};
 
@@ -27,6 +42,7 @@ TEST_P(CleanupTest, NoProcessAndNoDirectoryOutlivesTheProgram) {
   const pid_t browser = line.section(QLatin1Char(' '), 0, 0).toInt();
   const QString directory = line.section(QLatin1Char(' '), 1);
   ASSERT_GT(browser, 1);
+  EXPECT_FALSE(processesThatKnow(directory).isEmpty());
   if (GetParam().signal)
     kill(pid_t(probe.processId()), GetParam().signal);
   ASSERT_TRUE(probe.waitForFinished(30000));
@@ -34,6 +50,7 @@ TEST_P(CleanupTest, NoProcessAndNoDirectoryOutlivesTheProgram) {
   EXPECT_EQ(probe.exitStatus(), QProcess::NormalExit);
   EXPECT_EQ(probe.exitCode(), GetParam().exitCode);
   EXPECT_NE(kill(-browser, 0), 0);
+  EXPECT_EQ(processesThatKnow(directory), QStringList());
   EXPECT_FALSE(QFileInfo::exists(directory)) << directory.toStdString();
 }
 

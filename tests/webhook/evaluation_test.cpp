@@ -38,7 +38,6 @@ TEST_F(EvaluationTest, GivesTheCompletionValueAsText) {
       {"({})", "[object Object]"},
       {"[1, [2, 3], null]", "1,2,3,"},
       {"(function f(a) { return a; })", "function f(a) { return a; }"},
-      {"document.all", "[object HTMLAllCollection]"},
       {"document", "[object HTMLDocument]"},
       {"({ toString: function() { return 'mine'; }, valueOf: function() { return 3; } })", "mine"},
       {"String = null; new Number(7)", "7"},
@@ -63,21 +62,24 @@ TEST_F(EvaluationTest, AnExceptionFailsWithItsText) {
   struct Row {
     const char* code;
     const char* text;
+    const char* inFirefox = text;
   };
   const Row rows[] = {
       {"nope.x", "ReferenceError: nope is not defined"},
-      {"null.x", "TypeError: Cannot read properties of null (reading 'x')"},
+      {"null.x", "TypeError: Cannot read properties of null (reading 'x')",
+       "TypeError: can't access property \"x\" of null"},
       {"throw new TypeError('two\\nlines')", "TypeError: two\nlines"},
       {"throw 5", "5"},
       {"throw 'text'", "text"},
       {"throw { toString: function() { return 'mine'; } }", "mine"},
       {"throw undefined", "undefined"},
-      {"var a = ;", "SyntaxError: Unexpected token ';'"},
-      {"Object.create(null)", "TypeError: Cannot convert object to primitive value"},
+      {"var a = ;", "SyntaxError: Unexpected token ';'", "SyntaxError: expected expression, got ';'"},
+      {"Object.create(null)", "TypeError: Cannot convert object to primitive value",
+       "TypeError: can't convert this to string"},
   };
   for (const Row& row : rows) {
     const Evaluation evaluation = page->evaluate(q(row.code));
-    EXPECT_EQ(evaluation.text, q(row.text)) << row.code;
+    EXPECT_EQ(evaluation.text, TestSupport::inBrowser(row.text, row.inFirefox)) << row.code;
     EXPECT_TRUE(evaluation.failed) << row.code;
     EXPECT_FALSE(evaluation.aborted) << row.code;
   }
@@ -89,12 +91,25 @@ TEST_F(EvaluationTest, WorksWhereThePageForbidsScripts) {
 }
 
 TEST_F(EvaluationTest, CodeWithoutEndIsAbortedAndEnded) {
+  if (TestSupport::isFirefox())
+    GTEST_SKIP() << "Firefox offers no way to end a script that runs.";
   const Evaluation endless = page->evaluate(q("for (;;) {}"), 100);
   EXPECT_TRUE(endless.aborted);
   EXPECT_EQ(endless.text,
             q("The page did not answer within 100 ms. A script may keep it busy; allow more time or load it "
               "again."));
   EXPECT_EQ(text("'alive'"), q("alive"));
+}
+
+TEST_F(EvaluationTest, APageThatCannotBeStoppedCanBeClosedAndHoldsNoOther) {
+  BrowserPage* const other = session->newPage().page;
+  ASSERT_TRUE(other);
+  ASSERT_EQ(other->navigate(server->url(q("/page.html"), q("localhost"))), QString());
+  other->evaluate(q("setTimeout(function() { for (;;) {} }, 0); 1"));
+  EXPECT_TRUE(other->evaluate(q("1"), 200).aborted);
+  EXPECT_EQ(text("'alive'"), q("alive"));
+  EXPECT_EQ(other->close(), QString());
+  EXPECT_FALSE(other->isOpen());
 }
 
 TEST_F(EvaluationTest, ALateAnswerReachesNoLaterCall) {
@@ -107,6 +122,8 @@ TEST_F(EvaluationTest, ALateAnswerReachesNoLaterCall) {
 }
 
 TEST_F(EvaluationTest, APageStuckInItsOwnLoopAbortsAndCanBeLeft) {
+  if (TestSupport::isFirefox())
+    GTEST_SKIP() << "Firefox does not load another document while a script of the old one runs.";
   text("setTimeout(function() { for (;;) {} }, 0); 1");
   const Evaluation stuck = page->evaluate(q("new Date"), 200);
   EXPECT_TRUE(stuck.aborted);
@@ -164,6 +181,8 @@ TEST_F(EvaluationTest, AClosedPageEndsTheCallAndAllLaterOnes) {
 }
 
 TEST_F(EvaluationTest, ACrashedPageEndsTheCallAndCanBeLoadedAgain) {
+  if (TestSupport::isFirefox())
+    GTEST_SKIP() << "Firefox does not tell that a page crashed.";
   BrowserPage* const other = session->newPage().page;
   ASSERT_TRUE(other);
   ASSERT_EQ(other->navigate(server->url(q("/page.html"), q("localhost"))), QString());
@@ -208,7 +227,9 @@ TEST_F(EvaluationTest, DialogsOneAfterTheOtherAreAnsweredOneByOne) {
 }
 
 TEST_F(EvaluationTest, AKilledBrowserEndsTheCallAndLeavesNothing) {
-  BrowserSession::Start start = BrowserSession::start({});
+  if (TestSupport::isRemote())
+    GTEST_SKIP() << "The browser is not this machine's to kill.";
+  BrowserSession::Start start = startAnother();
   ASSERT_TRUE(start.session) << start.error.toStdString();
   const QString directory = start.session->browserDirectory();
   const pid_t process = pid_t(start.session->browserProcess());
@@ -233,7 +254,9 @@ TEST_F(EvaluationTest, AKilledBrowserEndsTheCallAndLeavesNothing) {
 }
 
 TEST_F(EvaluationTest, ALostSessionMayBeDeletedAtOnce) {
-  BrowserSession::Start start = BrowserSession::start({});
+  if (TestSupport::isRemote())
+    GTEST_SKIP() << "The browser is not this machine's to kill.";
+  BrowserSession::Start start = startAnother();
   ASSERT_TRUE(start.session) << start.error.toStdString();
   server->add(q("/silent"), {{}, {}, {}, 200, true});
   BrowserPage* const itsPage = start.session->firstPage();
@@ -244,11 +267,11 @@ TEST_F(EvaluationTest, ALostSessionMayBeDeletedAtOnce) {
 }
 
 TEST_F(EvaluationTest, ASessionDeletedDuringACallEndsIt) {
-  BrowserSession::Start start = BrowserSession::start({});
+  BrowserSession::Start start = startAnother();
   ASSERT_TRUE(start.session) << start.error.toStdString();
   const QString directory = start.session->browserDirectory();
   BrowserPage* const itsPage = start.session->firstPage();
   QTimer::singleShot(0, [&] { start.session.reset(); });
   EXPECT_TRUE(itsPage->evaluate(q("for (;;) {}")).aborted);
-  EXPECT_FALSE(QFileInfo::exists(directory));
+  EXPECT_TRUE(directory.isEmpty() || !QFileInfo::exists(directory));
 }

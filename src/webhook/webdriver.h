@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QJsonObject>
+#include <QString>
+#include <QUrl>
+#include <memory>
+
+class QNetworkAccessManager;
+
+namespace Corvex::Webhook {
+
+/// A session of a browser that a WebDriver server keeps, on this machine or on another one.
+class WebDriverSession {
+public:
+  struct Start {
+    std::unique_ptr<WebDriverSession> session;
+    QString error;  ///< Why there is none, and what to do.
+  };
+
+  /// Asks the server at `url` (http://host:port, with the path that its commands begin with) for a browser that
+  /// `wantedCapabilities()` describes and that can be driven over a WebSocket.
+  static Start create(const QString& url, const QJsonObject& capabilities, const QDeadlineTimer& deadline);
+
+  ~WebDriverSession();
+
+  QUrl webSocketUrl() const { return m_webSocketUrl; }
+  /// What the browser is, in the server's words.
+  const QJsonObject& capabilities() const { return m_capabilities; }
+
+  /// Has the server end the browser, and waits for its answer, until `deadline` at the most. A second call does
+  /// nothing.
+  void end(const QDeadlineTimer& deadline);
+
+private:
+  explicit WebDriverSession(const QString& url);
+
+  QUrl m_url;
+  QUrl m_webSocketUrl;
+  QJsonObject m_capabilities;
+  std::unique_ptr<QNetworkAccessManager> m_network;
+  bool m_ended = false;
+};
+
+/// What a new session is asked for.
+struct WantedCapabilities {
+  QJsonObject capabilities;
+  QString error;  ///< Why `text` cannot be used.
+};
+
+/// `text` is the user's wish, "" for none: JSON, or @ and the path of a file of JSON; either the capabilities
+/// themselves or an object with "alwaysMatch" or "firstMatch". `browser` is the browser's name if none is wished, ""
+/// for any. What this program needs is added.
+WantedCapabilities wantedCapabilities(const QString& text, const QString& browser);
+
+}  // namespace Corvex::Webhook
