@@ -3,14 +3,14 @@
 #include "corvexhook/delegate.h"
 #include "corvexhook/inspector.h"
 #include "webhook/browsersession.h"
-#include "webhook/cleanup.h"
 #include "webhook/browserwindows.h"
+#include "webhook/cleanup.h"
 #include "webhook/webmodel.h"
 #include "wrappers/web/calljavascriptfunction.h"
 #include "wrappers/web/getjscode.h"
 #include "wrappers/web/webobject.h"
-#include "wrappers/web/wrapperconfig.h"
 #include "wrappers/web/wraphtmlobject.h"
+#include "wrappers/web/wrapperconfig.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -92,8 +92,8 @@ bool measurePage(Webhook::Connection& connection, const char* title, const QStri
     return fail(QStringLiteral("the page's elements were not found: ") + inspector->takeScriptError());
   }
   const WebWrapper::HTML_Object* input = WebWrapper::retrieveObject(object);
-  const QString children = QStringLiteral("window.top.__corvex.childObjectAndInfo( %1 )")
-                               .arg(WebWrapper::retrieveObject(body)->reference);
+  const QString children =
+      QStringLiteral("window.top.__corvex.childObjectAndInfo( %1 )").arg(WebWrapper::retrieveObject(body)->reference);
   std::vector<Measure> measures = {
       {"bare round trip (evaluate 1)", [&] { connection.evaluateJS(QStringLiteral("1"), 0); }, {}},
       {"findObject, three properties", [&] { inspector->lookup(name); }, {}},
@@ -118,10 +118,9 @@ bool measureLookups() {
     return fail(error);
   }
   Webhook::Connection& connection = *windows.current();
-  const bool done =
-      measurePage(connection, "1,000 elements of ten tags, medians",
-                  {"input", "div", "span", "a", "p", "li", "td", "button", "label", "section"}) &&
-      measurePage(connection, "1,000 elements of one tag, medians", {"input"});
+  const bool done = measurePage(connection, "1,000 elements of ten tags, medians",
+                                {"input", "div", "span", "a", "p", "li", "td", "button", "label", "section"}) &&
+                    measurePage(connection, "1,000 elements of one tag, medians", {"input"});
   std::printf("\n%-52s %9d\n", "hook script, characters", WebWrapper::getJSCode(config).size());
   return done;
 }

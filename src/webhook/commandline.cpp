@@ -26,7 +26,8 @@ QString usage() {
   for (const Command& command : commands) {
     text += QStringLiteral("  %1 %2\n").arg(QLatin1String(command.name), -12).arg(QLatin1String(command.summary));
   }
-  return text + QStringLiteral("\ncorvexweb COMMAND --help tells of its options, corvexweb --version of the program.\n");
+  return text +
+         QStringLiteral("\ncorvexweb COMMAND --help tells of its options, corvexweb --version of the program.\n");
 }
 
 }  // namespace
@@ -46,8 +47,8 @@ int runCommandLine(const QStringList& arguments) {
       return command.run(arguments.mid(1));
     }
   }
-  const QString complaint = name.isEmpty() ? QStringLiteral("A command is missing.")
-                                           : QStringLiteral("There is no command '%1'.").arg(name);
+  const QString complaint =
+      name.isEmpty() ? QStringLiteral("A command is missing.") : QStringLiteral("There is no command '%1'.").arg(name);
   printError(QStringLiteral("corvexweb: %1\n\n%2").arg(complaint, usage()));
   return ExitCode::WrongUsage;
 }

@@ -1,4 +1,5 @@
-// Each case of the *_cases.json files: a body is put into a hooked page, an expression is evaluated, its value compared.
+// Each case of the *_cases.json files: a body is put into a hooked page, an expression is evaluated, its value
+// compared.
 
 #include <gtest/gtest.h>
 
@@ -40,7 +41,9 @@ std::string caseName(const testing::TestParamInfo<HookCase>& info) {
   return QStringLiteral("%1_%2_%3").arg(info.param.file).arg(info.index).arg(name).toStdString();
 }
 
-std::string text(const QJsonValue& value) { return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).toStdString(); }
+std::string text(const QJsonValue& value) {
+  return QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact).toStdString();
+}
 
 // What the configuration put into the page is taken away: a case sets what it is about.
 const char* const plainPage = R"JS(
@@ -70,7 +73,8 @@ protected:
     QFile kit(TestSupport::testFile(QStringLiteral("hook/hookkit.js")));
     ASSERT_TRUE(kit.open(QIODevice::ReadOnly));
     const QString text = QString::fromUtf8(kit.readAll());
-    ASSERT_EQ(HookedBrowser::instance().evaluate(QStringLiteral("(function () { %1; return true; })()").arg(text)), true);
+    ASSERT_EQ(HookedBrowser::instance().evaluate(QStringLiteral("(function () { %1; return true; })()").arg(text)),
+              true);
   }
 };
 

@@ -32,8 +32,8 @@ TEST_P(FailingScript, EndsWithASentence) {
   program.write(QStringLiteral("page.html"), QStringLiteral("<a href='#'>link</a><input name='i'>"));
   program.write(QStringLiteral("stuck.html"), QStringLiteral("<script>for(;;){}</script>"));
   program.write(QStringLiteral("test.js"), QString::fromUtf8(GetParam().script));
-  const ProgramResult result =
-      program.run({QStringLiteral("run"), QStringLiteral("--timeout"), QStringLiteral("1.5"), QStringLiteral("test.js")});
+  const ProgramResult result = program.run(
+      {QStringLiteral("run"), QStringLiteral("--timeout"), QStringLiteral("1.5"), QStringLiteral("test.js")});
   EXPECT_EQ(result.exitCode, GetParam().exitCode);
   EXPECT_TRUE(result.output.contains(QString::fromUtf8(GetParam().sentence))) << qPrintable(result.output);
   EXPECT_TRUE(result.output.contains(QLatin1String("test.js:"))) << qPrintable(result.output);
@@ -43,17 +43,20 @@ TEST_P(FailingScript, EndsWithASentence) {
 const Failure failures[] = {
     {"NoBrowser", "findObject('x');", "No browser is running. Call startBrowser(url) first.", 1},
     {"MalformedName", "startBrowser('page.html');\nfindObject(\"{tagName='A' text}\");",
-     "Invalid object name '{tagName='A' text}': one of the operators =, ~= or ?= is missing behind the property 'text'", 1},
+     "Invalid object name '{tagName='A' text}': one of the operators =, ~= or ?= is missing behind the property 'text'",
+     1},
     {"SymbolicName", "startBrowser('page.html');\nfindObject(':Login');",
      "The symbolic name ':Login' is not in the object map.", 1},
     {"MissingMethod", "startBrowser('page.html');\ntypeText(\"{tagName='A' simplifiedInnerText='link'}\", 'x');",
      "HTML_Anchor", 1},
-    {"MissingUpload", "startBrowser('page.html');\nvar i = findObject(\"{tagName='INPUT' name='i'}\");\n"
-                      "i.setProperty('type', 'file'); setText(i, '/no/such.file');",
+    {"MissingUpload",
+     "startBrowser('page.html');\nvar i = findObject(\"{tagName='INPUT' name='i'}\");\n"
+     "i.setProperty('type', 'file'); setText(i, '/no/such.file');",
      "'/no/such.file': there is no such file", 1},
     {"NoServer", "startBrowser('http://127.0.0.1:1/');", "http://127.0.0.1:1/", 1},
     {"PageNeverAnswers", "startBrowser('stuck.html');", "stuck.html", 1},
-    {"ClosedWindow", "startBrowser('page.html');\ncloseWindow();\nfindObject('x');", "The browser window is closed.", 1},
+    {"ClosedWindow", "startBrowser('page.html');\ncloseWindow();\nfindObject('x');", "The browser window is closed.",
+     1},
     {"SyntaxError", "startBrowser('page.html'\n", "test.js:", 1},
 };
 
@@ -63,8 +66,8 @@ INSTANTIATE_TEST_SUITE_P(Program, FailingScript, testing::ValuesIn(failures),
 TEST(BrowserFailure, ABrowserThatIsNotThereIsNamed) {
   ProgramRun program;
   program.write(QStringLiteral("test.js"), QStringLiteral("startBrowser('about:blank');"));
-  const ProgramResult result = program.run(
-      {QStringLiteral("run"), QStringLiteral("--browser"), QStringLiteral("/no/such/browser"), QStringLiteral("test.js")});
+  const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("--browser"),
+                                            QStringLiteral("/no/such/browser"), QStringLiteral("test.js")});
   EXPECT_EQ(result.exitCode, 3);
   EXPECT_TRUE(result.output.contains(QLatin1String("/no/such/browser"))) << qPrintable(result.output);
   expectNothingLeft(program);
@@ -81,8 +84,9 @@ TEST(BrowserFailure, NothingListensWhereToAttach) {
 
 TEST(BrowserFailure, AKilledBrowserEndsTheScriptAndLeavesNothing) {
   ProgramRun program;
-  program.write(QStringLiteral("test.js"),
-                QStringLiteral("startBrowser('about:blank');\ntest.log('started');\nsnooze(50);\ntest.log('reached');"));
+  program.write(
+      QStringLiteral("test.js"),
+      QStringLiteral("startBrowser('about:blank');\ntest.log('started');\nsnooze(50);\ntest.log('reached');"));
   program.start({QStringLiteral("run"), QStringLiteral("test.js")});
   ASSERT_TRUE(program.waitForOutput(QStringLiteral("started")));
   const QList<qint64> processes = program.browserProcesses();
@@ -102,7 +106,8 @@ class Signals : public testing::TestWithParam<int> {};
 
 TEST_P(Signals, EndTheProgramInAnEndlessScriptAndLeaveNothing) {
   ProgramRun program;
-  program.write(QStringLiteral("test.js"), QStringLiteral("startBrowser('about:blank');\ntest.log('started');\nfor(;;){}"));
+  program.write(QStringLiteral("test.js"),
+                QStringLiteral("startBrowser('about:blank');\ntest.log('started');\nfor(;;){}"));
   program.start({QStringLiteral("run"), QStringLiteral("test.js")});
   ASSERT_TRUE(program.waitForOutput(QStringLiteral("started")));
   kill(static_cast<pid_t>(program.processId()), GetParam());

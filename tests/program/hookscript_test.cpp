@@ -1,4 +1,5 @@
-// The printed hook script in a page that never saw it: prelude first, then the script; a second prelude changes nothing.
+// The printed hook script in a page that never saw it: prelude first, then the script; a second prelude changes
+// nothing.
 
 #include <gtest/gtest.h>
 

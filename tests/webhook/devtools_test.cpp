@@ -59,11 +59,11 @@ TEST(DevTools, TakesTheTextOfAPrimitiveFromItsAnswer) {
            "exception":{"type":"number","value":6}}})",
        "6", true, ""},
       {R"({"result":{"type":"undefined"},"exceptionDetails":{"text":"Uncaught"}})", "Uncaught", true, ""},
-};
-for (const Row& row : rows) {
-  const DevTools::Outcome outcome = DevTools::readOutcome(QJsonDocument::fromJson(row.answer).object());
-  EXPECT_STREQ(outcome.text.toUtf8().constData(), row.text) << row.answer;
-  EXPECT_EQ(outcome.thrown, row.thrown) << row.answer;
-  EXPECT_EQ(outcome.handle, QString::fromLatin1(row.handle)) << row.answer;
-}
+  };
+  for (const Row& row : rows) {
+    const DevTools::Outcome outcome = DevTools::readOutcome(QJsonDocument::fromJson(row.answer).object());
+    EXPECT_STREQ(outcome.text.toUtf8().constData(), row.text) << row.answer;
+    EXPECT_EQ(outcome.thrown, row.thrown) << row.answer;
+    EXPECT_EQ(outcome.handle, QString::fromLatin1(row.handle)) << row.answer;
+  }
 }
