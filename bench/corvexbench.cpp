@@ -5,14 +5,17 @@
 #include "webhook/browsersession.h"
 #include "webhook/browserwindows.h"
 #include "webhook/cleanup.h"
+#include "webhook/endpoint.h"
 #include "webhook/webmodel.h"
 #include "wrappers/web/calljavascriptfunction.h"
 #include "wrappers/web/getjscode.h"
+#include "wrappers/web/sleeping.h"
 #include "wrappers/web/webobject.h"
 #include "wrappers/web/wraphtmlobject.h"
 #include "wrappers/web/wrapperconfig.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
@@ -125,6 +128,53 @@ bool measureLookups() {
   return done;
 }
 
+/// How fast the endpoint takes what one page sends, each message behind the reply to the one before; none may be lost.
+bool measureMessages() {
+  const int count = 2000;
+  Webhook::BrowserSession::Start start = Webhook::BrowserSession::start(Webhook::SessionOptions());
+  if (!start.session) {
+    return fail(start.error);
+  }
+  QString error;
+  Webhook::MessageEndpoint endpoint;
+  endpoint.start(&error);
+  endpoint.setAllowedOrigins({QStringLiteral("null")});
+  WebWrapper::MemoryBasedConfig config;
+  Webhook::WebModel model;
+  Webhook::BrowserWindows windows(*start.session, config, model, endpoint.port());
+  error = error.isEmpty() ? windows.open() : error;
+  QTemporaryFile page(QDir::tempPath() + QStringLiteral("/corvexbench-XXXXXX.html"));
+  page.open();
+  error = error.isEmpty() ? windows.current()->navigate(QStringLiteral("file://") + page.fileName()) : error;
+  if (!error.isEmpty()) {
+    return fail(error);
+  }
+  int received = 0;
+  QObject::connect(&endpoint, &Webhook::MessageEndpoint::messageReceived,
+                   [&received](const Webhook::PageMessage& message) {
+                     received += message.kind() == Webhook::MessageKind::LogEvent ? 1 : 0;
+                   });
+  QElapsedTimer timer;
+  timer.start();
+  windows.current()->evaluateJS(
+      QStringLiteral(
+          "(function send(left) { if (left) { __corvex__sendLogEventData(null, 'event=bench&left=' + left, true)"
+          ".addEventListener('loadend', function () { send(left - 1); }); } }(%1))")
+          .arg(count),
+      0);
+  while (received < count && timer.elapsed() < 60000) {
+    WebWrapper::gentleSleep(1);
+  }
+  std::printf("\n%-52s %9d\n", "messages sent by one page", count);
+  std::printf("%-52s %9d\n", "messages taken", received);
+  std::printf("%-52s %9.0f\n", "messages per second", received * 1000.0 / static_cast<double>(timer.elapsed()));
+  const QMap<QString, quint64> refused = endpoint.refused();
+  for (auto row = refused.begin(); row != refused.end(); ++row) {
+    std::printf("refused: %-43s %9llu\n", qPrintable(row.key()), static_cast<unsigned long long>(row.value()));
+  }
+  return received == count;
+}
+
 double bareStartMs() {
   QElapsedTimer timer;
   timer.start();
@@ -183,5 +233,5 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("CORVEX_PREFIX")) {
     qputenv("CORVEX_PREFIX", QFileInfo(QCoreApplication::applicationDirPath()).path().toLocal8Bit());
   }
-  return measureLookups() && measureStart() ? 0 : 1;
+  return measureLookups() && measureMessages() && measureStart() ? 0 : 1;
 }

@@ -1,6 +1,7 @@
 #include "webhook/connection.h"
 
 #include "webhook/extensioncheck.h"
+#include "webhook/pageerrors.h"
 #include "wrappers/web/escaping.h"
 #include "wrappers/web/html_text.h"
 #include "wrappers/web/widgetclasses.h"
@@ -23,10 +24,21 @@ const BrowserKindRow browserKinds[] = {
     {BrowserIdentity::Chromium, 4},
 };
 
-/// The code with JSON of its own: what the page replaced would spoil the answers. A block keeps the completion value.
-QString withOwnJson(const QString& code) {
-  return QStringLiteral("{ let JSON = window.__corvex && window.__corvex.JSON || window.JSON;\n") + code +
-         QStringLiteral("\n}");
+/// What code needs to be safe in a page that is not ours; all other code goes as it is, to the global scope.
+///
+/// What a page made of its JSON would spoil the answers that are written with it. And a reference into the store of one
+/// document may name anything in the next one, which can be there before the browser tells of it.
+QString guarded(const QString& code, int document) {
+  QString text = code;
+  if (code.contains(QLatin1String("JSON."))) {
+    text = QStringLiteral("{ let JSON = window.__corvex && window.__corvex.JSON || window.JSON;\n%1\n}").arg(text);
+  }
+  if (code.contains(QLatin1String("__corvex__globalObjectRefStore["))) {
+    text = QStringLiteral("if ((window.__corvex || {}).documentNumber !== %1) throw new Error('%2');\n")
+               .arg(QString::number(document), PageErrors::pageReplaced()) +
+           text;
+  }
+  return text;
 }
 
 QString closedPage() { return QStringLiteral("The browser window is closed. Call startBrowser(url) to open another."); }
@@ -57,10 +69,12 @@ QString Connection::install() {
 
 QString Connection::greetDocument() {
   m_greeted = true;
-  const QString greeting = QStringLiteral(
-                               "typeof __corvex__isHooked === 'function' && __corvex__isHooked() ? "
-                               "(window.__corvex__browsertabid = '%1', true) : false")
-                               .arg(m_tabId);
+  const QString greeting =
+      QStringLiteral(
+          "typeof __corvex__isHooked === 'function' && __corvex__isHooked() ? "
+          "(window.__corvex__browsertabid = '%1', window.__corvex.documentNumber = %2, true) : false")
+          .arg(m_tabId)
+          .arg(++m_document);
   WebWrapper::JavaScriptAnswer answer = ask(greeting, 0);
   if (answer.succeeded() && answer.text != QLatin1String("true")) {
     answer = ask(hookText(*m_config, m_browser), 0);
@@ -114,7 +128,7 @@ WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigne
     // Whether it worked shows in what the code itself gives.
     greetDocument();
   }
-  return ask(withOwnJson(code), timeoutMs);
+  return ask(guarded(code, m_document), timeoutMs);
 }
 
 WebWrapper::JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {

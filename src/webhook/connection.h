@@ -75,6 +75,7 @@ private:
   QString m_contextName;
   QHash<QString, Dialog> m_lastDialogs;
   bool m_greeted = false;
+  int m_document = 0;  ///< Counts the documents that were greeted; each knows its number.
   int m_questions = 0;
 };
 

@@ -48,7 +48,7 @@ QString explainFailedSearch(WebWrapper::HTMLComponent& page, const QString& name
   if (count == 0) {
     return found + QLatin1Char('.');
   }
-  return missing.isEmpty() ? found + QStringLiteral(", but none has all the properties together.")
+  return missing.isEmpty() ? found + QStringLiteral(", but none had all the properties together.")
                            : found + QStringLiteral(", but none has this %1.").arg(missing);
 }
 

@@ -1,0 +1,79 @@
+#include "e2e/pagesite.h"
+
+#include <gtest/gtest.h>
+
+#include "support/files.h"
+#include "support/printing.h"
+
+namespace TestSupport {
+
+namespace {
+
+struct PolicyRow {
+  const char* prefix;
+  const char* folder;
+  const char* policy;
+};
+
+const PolicyRow policies[] = {
+    {"/self/", "/e2e/pages/", "default-src 'self'"},
+    {"/shop/", "/../examples/shop/", "default-src 'self'"},
+    {"/sandbox/", "/e2e/pages/", "sandbox allow-scripts allow-same-origin"},
+    {"/noeval/", "/e2e/pages/", "script-src 'self'"},
+};
+
+const char* typeOf(const QString& file) {
+  return file.endsWith(QLatin1String(".js"))    ? "text/javascript; charset=utf-8"
+         : file.endsWith(QLatin1String(".css")) ? "text/css"
+         : file.endsWith(QLatin1String(".svg")) ? "image/svg+xml"
+                                                : "text/html; charset=utf-8";
+}
+
+void addFolder(TestServer& server, const PolicyRow& row) {
+  const QDir folder(QStringLiteral(CORVEX_TEST_SOURCE) + QLatin1String(row.folder));
+  for (const QString& file : folder.entryList(QDir::Files)) {
+    ServerPage page;
+    page.body = readFile(folder.filePath(file));
+    page.type = typeOf(file);
+    page.headers = {{"Content-Security-Policy", row.policy}};
+    server.add(QLatin1String(row.prefix) + file, page);
+  }
+}
+
+}  // namespace
+
+QString browserUnderTest() { return qEnvironmentVariable("CORVEX_TEST_BROWSER", QStringLiteral("chromium")); }
+
+PageSite::PageSite() {
+  m_server.serveFolder(QStringLiteral(CORVEX_TEST_SOURCE "/e2e/pages"));
+  for (const PolicyRow& row : policies) {
+    addFolder(m_server, row);
+  }
+  ServerPage moved;
+  moved.status = 302;
+  moved.headers = {{"Location", "/plain.html"}};
+  m_server.add(QStringLiteral("/moved"), moved);
+  ServerPage never;
+  never.silent = true;
+  m_server.add(QStringLiteral("/never"), never);
+  const QString variables =
+      QStringLiteral("var SITE = '%1';\nvar BROWSER = '%2';\n").arg(m_server.url(QString()), browserUnderTest());
+  const QByteArray kit = readFile(QStringLiteral(CORVEX_TEST_SOURCE "/e2e/kit.js"));
+  m_program.write(QStringLiteral("kit.js"), variables + QString::fromUtf8(kit));
+}
+
+void PageSite::write(const QString& name, const QString& script) {
+  // On the first line, so that the script's lines keep their numbers.
+  m_program.write(name, QStringLiteral("source('kit.js'); ") + script);
+}
+
+QStringList PageSite::arguments(const QStringList& scripts, const QStringList& options) const {
+  return QStringList{QStringLiteral("run"), QStringLiteral("--browser"), browserUnderTest()} + options + scripts;
+}
+
+void PageSite::expectNothingLeft() const {
+  EXPECT_EQ(m_program.leftovers(), QStringList());
+  EXPECT_EQ(m_program.browserProcesses(), QList<qint64>());
+}
+
+}  // namespace TestSupport

@@ -1,0 +1,10 @@
+// A window whose dialog is open can be closed.
+startBrowser(SITE + "/windows.html");
+clickButton(element("BUTTON", "open"));
+waitForContextExists("popup.html");
+setContext("popup.html");
+waitForObject(element("BUTTON", "alert"));
+clickButton(element("BUTTON", "alert"));
+failureOf(function () { snooze(0.5); });
+closeWindow();
+test.compare(windows().join(" "), "windows.html");
