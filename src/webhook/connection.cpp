@@ -84,11 +84,13 @@ QString Connection::greetDocument() {
     }
     answer = ask(greeting, 0);
   }
-  m_greeted = answer.text == QLatin1String("true");
+  const bool there = answer.text == QLatin1String("true");
+  // The document that answered may have been replaced while its answer was waited for.
+  m_greeted = m_greeted && there;
   if (m_greeted && !m_contextName.isEmpty()) {
     setContext(m_contextName);
   }
-  return m_greeted ? QString() : answer.text;
+  return there ? QString() : answer.text;
 }
 
 QString Connection::navigate(const QString& url, int timeoutMs) {

@@ -71,7 +71,8 @@ bool hasContext(const BrowserWindows& windows, const QString& name) { return con
 
 QString selectContext(BrowserWindows& windows, const QString& name) {
   for (const Context& context : allContexts(windows)) {
-    if (context.name == name) {
+    // A window may have closed while later ones were asked.
+    if (context.name == name && context.connection->isOpen()) {
       windows.setCurrent(context.connection);
       return context.connection->setContext(context.localName)
                  ? QString()

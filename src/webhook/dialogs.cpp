@@ -38,10 +38,13 @@ void Dialogs::noteMessage(const PageMessage& message) {
     m_wait = {isConfirm ? QStringLiteral("confirm") : QStringLiteral("prompt"), message.waitId()};
     return;
   }
-  const QString name = message.value(QStringLiteral("name"));
-  if (name == QLatin1String("DialogText")) {
-    m_texts[message.value(QStringLiteral("kind"))] = message.value(QStringLiteral("text"));
-  } else if (name == QLatin1String("AlertOpened") && !m_windows.opensNativeDialogs()) {
+  if (message.value(QStringLiteral("name")) != QLatin1String("DialogText")) {
+    return;
+  }
+  // A swallowed alert is there once its text is.
+  const QString kind = message.value(QStringLiteral("kind"));
+  m_texts[kind] = message.value(QStringLiteral("text"));
+  if (kind == QLatin1String("alert")) {
     ++m_swallowedAlerts;
   }
 }

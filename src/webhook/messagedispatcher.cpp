@@ -43,7 +43,7 @@ void MessageDispatcher::dispatch(const PageMessage& message) {
       qCDebug(webhookLog) << "page:" << message.value(QStringLiteral("text"));
       break;
     case MessageKind::HighlightWidget:
-      m_recorded.push_back(message);
+      keep(message);
       break;
     case MessageKind::Unknown:
       qCDebug(webhookLog) << "a page sent an unknown message:" << message.text().left(200);
@@ -59,10 +59,14 @@ void MessageDispatcher::takeLogEvent(const PageMessage& message) {
   } else if (event == QLatin1String("removeUnmatchedProperties")) {
     Inspector::self()->removeUnmatchedProperties(name);
   } else {
-    m_recorded.push_back(message);
-    if (m_recorded.size() > recordedLimit) {
-      m_recorded.pop_front();
-    }
+    keep(message);
+  }
+}
+
+void MessageDispatcher::keep(const PageMessage& message) {
+  m_recorded.push_back(message);
+  if (m_recorded.size() > recordedLimit) {
+    m_recorded.pop_front();
   }
 }
 

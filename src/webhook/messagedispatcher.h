@@ -30,6 +30,7 @@ public:
 private:
   void dispatch(const PageMessage& message);
   void takeLogEvent(const PageMessage& message);
+  void keep(const PageMessage& message);
   void drainQueues();
   void drain(Connection& connection);
   void letIn(const QString& url);

@@ -85,8 +85,12 @@ void WebModel::removeConnection(Connection* connection) {
 }
 
 void WebModel::setCurrent(Connection* connection) {
+  const auto found = m_roots.find(connection);
+  if (found == m_roots.end()) {
+    return;
+  }
   m_toplevel->setCurrent(connection);
-  Inspector::self()->askFirst(m_roots[connection]);
+  Inspector::self()->askFirst(found->second);
 }
 
 Connection* WebModel::current() const { return m_toplevel->current(); }

@@ -11,7 +11,7 @@
       },
       set: function (value) {
         text = value;
-        __corvex__sendQuietly("eventHandler" + new Date().getTime() + "&name=DialogText&kind=" + kind +
+        __corvex__sendQuietly("eventHandler" + __corvex__natives.milliseconds() + "&name=DialogText&kind=" + kind +
           "&text=" + escape(value), true);
       }
     });

@@ -27,6 +27,8 @@ window.__corvex.keepNativeDialogs = function () {
     }
   }
   if (!__corvex__opensNativeDialogs()) {
+    // For the frames and windows that are hooked later.
+    window.__corvex.nativeDialogsKept = true;
     restore(window);
   }
 };

@@ -2,7 +2,7 @@
 // Needs: getAllFrames, the name test of frames.
 
 function __corvex__findFrameByIdOrName(ctxdoc, frame) {
-  var elem = ctxdoc.getElementById(frame);
+  var elem = __corvex__askDocument(ctxdoc, "getElementById", frame);
   if (elem && (elem.tagName == "IFRAME" || elem.tagName == "FRAME")) {
     return elem;
   }
@@ -49,7 +49,8 @@ var __corvex__targetWindows = {
 // A named window that is no frame is not resolved: a reference to it would not outlive the page.
 function __corvex__findTargetWindow(elem) {
   var start = __corvex__node.ownerDocument(elem).defaultView;
-  var target = elem.target;
+  // A field of that name hides the target of a form.
+  var target = typeof elem.target == "object" ? Element.prototype.getAttribute.call(elem, "target") : elem.target;
   if (!target) {
     return start;
   }

@@ -191,7 +191,12 @@ function __corvex__documentOfContext(context) {
       return undefined;
     }
   }
-  return w.document;
+  try {
+    return w.document;
+  } catch (e) {
+    // The window went to another origin.
+    return undefined;
+  }
 }
 
 function __corvex__isPageLoaded() {

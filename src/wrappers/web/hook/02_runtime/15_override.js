@@ -10,7 +10,7 @@ function __corvex__needToOverrideNativeFunction(nativeFunRef, overrideName) {
 // A page's own function that wraps a replacement gets replaced, too. It leads back to the replacement, which then has
 // to go on with what was stored before.
 function __corvex__storeNativeFunction(w, nativeFnName, origStoreName) {
-  if (w[origStoreName]) {
+  if (w[origStoreName] && w[origStoreName] !== w[nativeFnName]) {
     var older = w.__corvex__olderFunctions || {};
     w.__corvex__olderFunctions = older;
     older[origStoreName] = (older[origStoreName] || []).concat([w[origStoreName]]);
@@ -30,7 +30,8 @@ function __corvex__overrideNativeFunction(w, nativeFnName, overrideFnRef, origSt
 function __corvex__overrideNativeDialogFunction(w, nativeFnName, overrideFnRef, origStoreName) {
   if (__corvex__needToOverrideNativeFunction(w[nativeFnName], overrideFnRef)) {
     __corvex__storeNativeFunction(w, nativeFnName, origStoreName);
-    if (!__corvex__isEmbeddedIntoHookableToolkit() || window.top.__corvex__suppress__webdialogs) {
+    if ((!__corvex__isEmbeddedIntoHookableToolkit() || window.top.__corvex__suppress__webdialogs) &&
+        !window.top.__corvex.nativeDialogsKept) {
       w[nativeFnName] = overrideFnRef;
     }
   }
