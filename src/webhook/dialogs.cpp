@@ -5,6 +5,8 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
+
 namespace Corvex::Webhook {
 
 namespace {
@@ -35,7 +37,7 @@ Dialogs::Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint, const Sleep
 void Dialogs::noteMessage(const PageMessage& message) {
   if (message.wantsReply()) {
     const bool isConfirm = message.kind() == MessageKind::WaitForConfirm;
-    m_wait = {isConfirm ? QStringLiteral("confirm") : QStringLiteral("prompt"), message.waitId()};
+    m_waits.append({isConfirm ? QStringLiteral("confirm") : QStringLiteral("prompt"), message.waitId()});
     return;
   }
   if (message.value(QStringLiteral("name")) != QLatin1String("DialogText")) {
@@ -50,9 +52,8 @@ void Dialogs::noteMessage(const PageMessage& message) {
 }
 
 void Dialogs::noteWaitEnded(quint64 waitId) {
-  if (m_wait.id == waitId) {
-    m_wait = Wait();
-  }
+  const auto ended = [waitId](const Wait& wait) { return wait.id == waitId; };
+  m_waits.erase(std::remove_if(m_waits.begin(), m_waits.end(), ended), m_waits.end());
 }
 
 QString Dialogs::closeAlert(int timeoutMs) { return answer(QStringLiteral("alert"), true, QString(), timeoutMs); }
@@ -89,13 +90,20 @@ bool Dialogs::tryAnswer(const QString& kind, bool accept, const QString& text, Q
     --m_swallowedAlerts;
     return true;
   }
-  if (m_wait.id == 0 || m_wait.kind != kind) {
+  return answerWait(kind, accept, text, error);
+}
+
+bool Dialogs::answerWait(const QString& kind, bool accept, const QString& text, QString* error) {
+  const auto wait =
+      std::find_if(m_waits.begin(), m_waits.end(), [&kind](const Wait& each) { return each.kind == kind; });
+  if (wait == m_waits.end()) {
     return false;
   }
   const QString reply = kind == QLatin1String("confirm") ? (accept ? QStringLiteral("true") : QStringLiteral("false"))
                         : accept                         ? QStringLiteral("__corvex__promptResult: ") + text
                                                          : QStringLiteral("__corvex__promptCancelled");
-  const quint64 id = std::exchange(m_wait, Wait()).id;
+  const quint64 id = wait->id;
+  m_waits.erase(wait);
   if (!m_endpoint.answerWait(id, reply)) {
     *error = QStringLiteral("The page did not wait any more for the answer to its %1.").arg(kind);
   }
@@ -151,10 +159,10 @@ FunctionCallResult<QString> Dialogs::fromPage(const QString& function) const {
 QString Dialogs::obstacle() const {
   const Connection* current = m_windows.current();
   const std::optional<Dialog> dialog = current ? current->openDialog() : std::nullopt;
-  if (!dialog && m_wait.id == 0) {
+  if (!dialog && m_waits.isEmpty()) {
     return QString();
   }
-  const QString kind = dialog ? dialog->kind : m_wait.kind;
+  const QString kind = dialog ? dialog->kind : m_waits.first().kind;
   const QString text = dialog ? dialog->text : m_texts.value(kind);
   return QStringLiteral("The page shows a dialog (%1: '%2'). Answer it with close%3.")
       .arg(kind, text, answeredAs(kind).left(1).toUpper() + answeredAs(kind).mid(1));

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QObject>
 #include <QString>
+#include <QVector>
 
 #include <functional>
 
@@ -56,12 +57,14 @@ private:
   bool tryAnswer(const QString& kind, bool accept, const QString& text, QString* error);
   QString answer(const QString& kind, bool accept, const QString& text, int timeoutMs);
   Connection* showing(const QString& kind) const;
+  bool answerWait(const QString& kind, bool accept, const QString& text, QString* error);
   FunctionCallResult<QString> fromPage(const QString& function) const;
 
   BrowserWindows& m_windows;
   MessageEndpoint& m_endpoint;
   Sleep m_sleep;
-  Wait m_wait;
+  /// The longest waiting first.
+  QVector<Wait> m_waits;
   int m_swallowedAlerts = 0;
   /// By kind; "default" is the first content of a prompt's field.
   QHash<QString, QString> m_texts;
