@@ -13,8 +13,9 @@ QString expandEnvironmentVariables(const QString& text) {
   int position = 0;
   while (position < text.size()) {
     const int dollar = text.indexOf(QLatin1Char('$'), position);
-    if (dollar < 0)
+    if (dollar < 0) {
       break;
+    }
     result += text.midRef(position, dollar - position);
     const QChar next = dollar + 1 < text.size() ? text.at(dollar + 1) : QChar();
     const int closing = next == QLatin1Char('(') ? text.indexOf(QLatin1Char(')'), dollar + 2) : -1;
@@ -33,8 +34,9 @@ QString expandEnvironmentVariables(const QString& text) {
 
 QString corvexSettingsDir() {
   QString directory = environmentVariable("CORVEX_USER_SETTINGS_DIR");
-  if (directory.isEmpty())
+  if (directory.isEmpty()) {
     directory = QDir::homePath() + QStringLiteral("/.corvex");
+  }
   QDir().mkpath(directory);
   return directory;
 }

@@ -22,10 +22,12 @@ constexpr QLatin1Char levelSeparator('/');
 
 QString withoutQuotes(const QString& text) {
   QString result = text;
-  if (result.endsWith(QLatin1Char('"')))
+  if (result.endsWith(QLatin1Char('"'))) {
     result.chop(1);
-  if (result.startsWith(QLatin1Char('"')))
+  }
+  if (result.startsWith(QLatin1Char('"'))) {
     result.remove(0, 1);
+  }
   return result;
 }
 
@@ -41,34 +43,40 @@ QString Settings::defaultGroup() { return QStringLiteral("General"); }
 
 QString Settings::normalizeKey(const QString& key) {
   QString result = key;
-  if (result.startsWith(levelSeparator))
+  if (result.startsWith(levelSeparator)) {
     result.remove(0, 1);
-  if (result.endsWith(levelSeparator))
+  }
+  if (result.endsWith(levelSeparator)) {
     result.chop(1);
+  }
   return result.replace(QLatin1Char('='), QLatin1Char('_')).replace(QLatin1String("//"), QLatin1String("/"));
 }
 
 void Settings::parse() {
   QFile file(m_fileName);
-  if (!file.exists())
+  if (!file.exists()) {
     return;
+  }
   if (!file.open(QIODevice::ReadOnly)) {
     qWarning("Corvex::Settings::parse: could not open file `%s' for reading", qUtf8Printable(m_fileName));
     return;
   }
   QString group;
   const auto lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
-  for (const QString& line : lines)
+  for (const QString& line : lines) {
     parseLine(line.trimmed(), group);
+  }
 }
 
 void Settings::parseLine(const QString& line, QString& group) {
-  if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+  if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) {
     return;
+  }
   if (line.startsWith(QLatin1Char('['))) {
     group = line.mid(1);
-    if (group.endsWith(QLatin1Char(']')))
+    if (group.endsWith(QLatin1Char(']'))) {
       group.chop(1);
+    }
     m_groups[group];
     return;
   }
@@ -90,11 +98,13 @@ void Settings::parseLine(const QString& line, QString& group) {
 
 bool Settings::readRawEntry(const QString& group, const QString& key, QString* value) const {
   const auto entries = m_groups.constFind(group);
-  if (entries == m_groups.cend())
+  if (entries == m_groups.cend()) {
     return false;
+  }
   const auto entry = entries->constFind(normalizeKey(key));
-  if (entry == entries->cend())
+  if (entry == entries->cend()) {
     return false;
+  }
   *value = *entry;
   return true;
 }
@@ -102,8 +112,9 @@ bool Settings::readRawEntry(const QString& group, const QString& key, QString* v
 QString Settings::readEntry(const QString& group, const QString& key, const QString& defaultValue) const {
   QString raw;
   QString value;
-  if (!readRawEntry(group, key, &raw) || !unquoteString(raw, &value))
+  if (!readRawEntry(group, key, &raw) || !unquoteString(raw, &value)) {
     return defaultValue;
+  }
   return m_expandEnvironment ? expandEnvironmentVariables(value) : value;
 }
 
@@ -115,8 +126,9 @@ QStringList Settings::readListEntry(const QString& group, const QString& key, co
 
 int Settings::readNumEntry(const QString& group, const QString& key, int defaultValue) const {
   QString raw;
-  if (!readRawEntry(group, key, &raw))
+  if (!readRawEntry(group, key, &raw)) {
     return defaultValue;
+  }
   bool isNumber = false;
   const int number = raw.trimmed().toInt(&isNumber, 10);
   return isNumber ? number : defaultValue;
@@ -124,8 +136,9 @@ int Settings::readNumEntry(const QString& group, const QString& key, int default
 
 double Settings::readDoubleEntry(const QString& group, const QString& key, double defaultValue) const {
   QString raw;
-  if (!readRawEntry(group, key, &raw))
+  if (!readRawEntry(group, key, &raw)) {
     return defaultValue;
+  }
   bool isNumber = false;
   const double number = raw.trimmed().toDouble(&isNumber);
   return isNumber ? number : defaultValue;
@@ -133,17 +146,21 @@ double Settings::readDoubleEntry(const QString& group, const QString& key, doubl
 
 bool Settings::readBoolEntry(const QString& group, const QString& key, bool defaultValue) const {
   QString raw;
-  if (!readRawEntry(group, key, &raw))
+  if (!readRawEntry(group, key, &raw)) {
     return defaultValue;
+  }
   const QString word = withoutQuotes(raw.trimmed());
   bool isNumber = false;
   const int number = word.toInt(&isNumber, 10);
-  if (isNumber)
+  if (isNumber) {
     return number != 0;
-  if (word.toUpper() == QLatin1String("TRUE"))
+  }
+  if (word.toUpper() == QLatin1String("TRUE")) {
     return true;
-  if (word.toUpper() == QLatin1String("FALSE"))
+  }
+  if (word.toUpper() == QLatin1String("FALSE")) {
     return false;
+  }
   return defaultValue;
 }
 
@@ -157,15 +174,18 @@ QStringList Settings::namesBelow(const QString& group, const QString& key, bool 
   QStringList names;
   const auto keys = m_groups.value(group).keys();
   for (const QString& candidate : keys) {
-    if (!candidate.startsWith(prefix))
+    if (!candidate.startsWith(prefix)) {
       continue;
+    }
     const QString rest = candidate.mid(prefix.size());
     const int separator = rest.indexOf(levelSeparator);
-    if ((separator >= 0) != withDeeperLevels)
+    if ((separator >= 0) != withDeeperLevels) {
       continue;
+    }
     const QString name = rest.left(separator);
-    if (!names.contains(name))
+    if (!names.contains(name)) {
       names.append(name);
+    }
   }
   return names;
 }
@@ -219,8 +239,9 @@ void Settings::removeEntry(const QString& group, const QString& key) {
 }
 
 void Settings::flush() {
-  if (!m_dirty)
+  if (!m_dirty) {
     return;
+  }
   const QString directory = QFileInfo(m_fileName).path();
   if (!QDir().mkpath(directory)) {
     qWarning("Corvex::Settings::flush: could not create directory `%s'.", qUtf8Printable(directory));

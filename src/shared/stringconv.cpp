@@ -15,16 +15,18 @@ constexpr Escape escapes[] = {{'\\', '\\'}, {'"', '"'}, {'t', '\t'}, {'n', '\n'}
 
 const Escape* escapeFor(QChar character) {
   for (const Escape& escape : escapes) {
-    if (character == QLatin1Char(escape.meant))
+    if (character == QLatin1Char(escape.meant)) {
       return &escape;
+    }
   }
   return nullptr;
 }
 
 const Escape* escapeWrittenAs(QChar character) {
   for (const Escape& escape : escapes) {
-    if (character == QLatin1Char(escape.written))
+    if (character == QLatin1Char(escape.written)) {
       return &escape;
+    }
   }
   return nullptr;
 }
@@ -47,14 +49,16 @@ bool warnNotDelimited(const QString& text) {
 bool readQuoted(const QString& text, int& position, QString& result) {
   while (position < text.size()) {
     const QChar character = text.at(position++);
-    if (character == QLatin1Char('"'))
+    if (character == QLatin1Char('"')) {
       return true;
+    }
     if (character != QLatin1Char('\\')) {
       result += character;
       continue;
     }
-    if (position == text.size())
+    if (position == text.size()) {
       break;
+    }
     const QChar escaped = text.at(position++);
     const Escape* const escape = escapeWrittenAs(escaped);
     if (!escape) {
@@ -84,8 +88,9 @@ QString quoteString(const QString& text) {
 
 QString quoteStringList(const QStringList& texts) {
   QStringList quoted;
-  for (const QString& text : texts)
+  for (const QString& text : texts) {
     quoted.append(quoteString(text));
+  }
   return quoted.join(QLatin1Char(' '));
 }
 
@@ -94,13 +99,16 @@ bool unquoteStringList(const QString& text, QStringList* list) {
   int position = 0;
   while (position < text.size()) {
     const QChar character = text.at(position++);
-    if (character.isSpace())
+    if (character.isSpace()) {
       continue;
-    if (character != QLatin1Char('"'))
+    }
+    if (character != QLatin1Char('"')) {
       return warnNotDelimited(text);
+    }
     QString member;
-    if (!readQuoted(text, position, member))
+    if (!readQuoted(text, position, member)) {
       return false;
+    }
     found.append(member);
   }
   *list = found;
@@ -109,8 +117,9 @@ bool unquoteStringList(const QString& text, QStringList* list) {
 
 bool unquoteString(const QString& text, QString* result) {
   QStringList list;
-  if (!unquoteStringList(text, &list))
+  if (!unquoteStringList(text, &list)) {
     return false;
+  }
   if (list.size() != 1) {
     qWarning("Corvex::Settings: entry is not a string in %s", qUtf8Printable(text));
     return false;

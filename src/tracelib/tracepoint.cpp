@@ -24,8 +24,9 @@ QLoggingCategory& channelCategory(const char* name) {
   static auto& mutex = *new std::mutex;
   const std::lock_guard<std::mutex> lock(mutex);
   auto& channel = channels[name];
-  if (!channel)
+  if (!channel) {
     channel = std::make_unique<Channel>(name);
+  }
   return channel->category;
 }
 
@@ -37,8 +38,9 @@ TracePoint::TracePoint(const char* channel, const char* file, int line, const ch
 void visitTracePoint(const TracePoint& point, const QString& text, const VariableSnapshot& variables) {
   QDebug output = QMessageLogger(point.m_file, point.m_line, point.m_function, point.m_category.categoryName()).debug();
   output.noquote().nospace() << text;
-  if (variables.size() > 0)
+  if (variables.size() > 0) {
     output << ": " << variables.toString();
+  }
 }
 
 void enableChannel(const char* channel, bool enable) { channelCategory(channel).setEnabled(QtDebugMsg, enable); }

@@ -39,8 +39,9 @@ private:
 
 /// Counts a visit when the channel is on, and tells whether it is.
 inline bool advanceVisit(TracePoint& point) {
-  if (!point.isActive())
+  if (!point.isActive()) {
     return false;
+  }
   ++point.m_visits;
   return true;
 }

@@ -60,17 +60,20 @@ QByteArray write(qint64 id, const QString&, const Command& command) {
 QString errorText(const QJsonObject& refusal) {
   const QString code = textAt(refusal, "error");
   QString message = textAt(refusal, "message");
-  if (message.startsWith(QLatin1String("Error: ")))
+  if (message.startsWith(QLatin1String("Error: "))) {
     message = message.mid(7);
-  if (message.isEmpty())
+  }
+  if (message.isEmpty()) {
     return code;
+  }
   return code == QLatin1String("unknown error") ? message : code + QStringLiteral(": ") + message;
 }
 
 bool isOfBrowser(const QString& event) {
   for (const char* name : eventsOfBrowser) {
-    if (event == QLatin1String(name))
+    if (event == QLatin1String(name)) {
       return true;
+    }
   }
   return false;
 }
@@ -79,8 +82,9 @@ WireMessage readEvent(const QJsonObject& object) {
   WireMessage message;
   message.method = textAt(object, "method");
   message.content = objectAt(object, "params");
-  if (!isOfBrowser(message.method))
+  if (!isOfBrowser(message.method)) {
     message.session = textAt(message.content, "context");
+  }
   message.kind = message.method.isEmpty() ? WireMessage::Malformed : WireMessage::Event;
   return message;
 }
@@ -88,12 +92,14 @@ WireMessage readEvent(const QJsonObject& object) {
 WireMessage read(const QByteArray& text) {
   const QJsonObject object = QJsonDocument::fromJson(text).object();
   const QString type = textAt(object, "type");
-  if (type == QLatin1String("event"))
+  if (type == QLatin1String("event")) {
     return readEvent(object);
+  }
   const QJsonValue id = object.value(QLatin1String("id"));
   WireMessage message;
-  if (!id.isDouble())
+  if (!id.isDouble()) {
     return message;
+  }
   message.id = qint64(id.toDouble());
   if (type == QLatin1String("success")) {
     message.kind = WireMessage::Answer;
@@ -106,8 +112,9 @@ WireMessage read(const QByteArray& text) {
 }
 
 QString numberText(const QJsonValue& value) {
-  if (value.isDouble())
+  if (value.isDouble()) {
     return jsNumberText(value.toDouble());
+  }
   const QString special = value.toString();  // "NaN", "-0", "Infinity" or "-Infinity"
   return special == QLatin1String("-0") ? QStringLiteral("0") : special;
 }
@@ -115,12 +122,15 @@ QString numberText(const QJsonValue& value) {
 QString primitiveText(const QJsonObject& remote) {
   const QString type = textAt(remote, "type");
   const QJsonValue value = remote.value(QLatin1String("value"));
-  if (type == QLatin1String("number"))
+  if (type == QLatin1String("number")) {
     return numberText(value);
-  if (type == QLatin1String("boolean"))
+  }
+  if (type == QLatin1String("boolean")) {
     return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
-  if (type == QLatin1String("string") || type == QLatin1String("bigint"))
+  }
+  if (type == QLatin1String("string") || type == QLatin1String("bigint")) {
     return value.toString();
+  }
   return type;  // "null" and "undefined"
 }
 
@@ -164,8 +174,9 @@ Command newSession() {
 
 Command watchPages() {
   QJsonArray names;
-  for (const char* name : events)
+  for (const char* name : events) {
     names.append(QLatin1String(name));
+  }
   return command("session.subscribe", {{QStringLiteral("events"), names}});
 }
 
@@ -185,8 +196,9 @@ Context readContext(const QJsonObject& info) {
 
 QVector<Context> readPages(const QJsonObject& answer) {
   QVector<Context> pages;
-  for (const QJsonValue& info : answer.value(QLatin1String("contexts")).toArray())
+  for (const QJsonValue& info : answer.value(QLatin1String("contexts")).toArray()) {
     pages.append(readContext(info.toObject()));
+  }
   return pages;
 }
 
@@ -195,8 +207,9 @@ Command addStartScript(const QString& page, const QString& script) {
   // is under no policy yet.
   const QString declaration = QStringLiteral("function() { (0, eval)(%1); }").arg(jsStringText(script));
   QJsonObject parameters{{QStringLiteral("functionDeclaration"), declaration}};
-  if (!page.isEmpty())
+  if (!page.isEmpty()) {
     parameters.insert(QStringLiteral("contexts"), QJsonArray{page});
+  }
   return command("script.addPreloadScript", parameters);
 }
 
@@ -256,10 +269,11 @@ Outcome readOutcome(const QJsonObject& answer) {
   outcome.handle = textAt(remote, "handle");
   outcome.sharedId = textAt(remote, "sharedId");
   outcome.window = textAt(objectAt(remote, "value"), "context");
-  if (isPrimitive(remote))
+  if (isPrimitive(remote)) {
     outcome.text = primitiveText(remote);
-  else if (outcome.thrown)
+  } else if (outcome.thrown) {
     outcome.text = textAt(details, "text");
+  }
   return outcome;
 }
 
@@ -280,8 +294,9 @@ Command setFiles(const QString& pageOrFrame, const QString& sharedId, const QStr
 
 Command answerDialog(const QString& page, bool accept, const QString& text) {
   QJsonObject parameters{{QStringLiteral("accept"), accept}};
-  if (!text.isNull())
+  if (!text.isNull()) {
     parameters.insert(QStringLiteral("userText"), text);
+  }
   return ofPage("browsingContext.handleUserPrompt", page, parameters);
 }
 
@@ -294,8 +309,9 @@ Command watchCrashes() {
 }
 
 std::optional<QString> readCrash(const QString& method, const QJsonObject& event) {
-  if (method != QLatin1String(crashEvent))
+  if (method != QLatin1String(crashEvent)) {
     return {};
+  }
   return textAt(event, "session");
 }
 

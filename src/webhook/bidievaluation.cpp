@@ -11,8 +11,9 @@ class Held {
 public:
   Held(PageCall& call, const Reply& reply) : m_call(call), m_outcome(Bidi::readOutcome(reply.result)) {}
   ~Held() {
-    if (!m_outcome.handle.isEmpty())
+    if (!m_outcome.handle.isEmpty()) {
       m_call.post(Bidi::release(m_outcome.realm, m_outcome.handle));
+    }
   }
   Held(const Held&) = delete;
   Held& operator=(const Held&) = delete;
@@ -28,8 +29,9 @@ Evaluation abortedBy(const PageCall& call, const Reply& reply) { return {call.er
 
 bool isAboutTheElement(const QString& refusal) {
   for (const char* code : {"unable to set file input", "no such element", "no such node", "invalid argument"}) {
-    if (refusal.startsWith(QLatin1String(code)))
+    if (refusal.startsWith(QLatin1String(code))) {
       return true;
+    }
   }
   return false;
 }
@@ -49,11 +51,13 @@ struct NamedElement {
 NamedElement nameElement(PageCall& call, const QString& page, const Held& element) {
   const Reply owner = call.ask(Bidi::handOverElement(element->realm, element->handle));
   const QString context = owner.isAnswered() ? Bidi::readOutcome(owner.result).window : QString();
-  if (context.isEmpty() || context == page)
+  if (context.isEmpty() || context == page) {
     return {page, element->sharedId};
+  }
   const Reply reply = call.ask(Bidi::handedOverElement(context));
-  if (!reply.isAnswered())
+  if (!reply.isAnswered()) {
     return {};
+  }
   const Held handedOver(call, reply);
   return {context, handedOver->sharedId};
 }
@@ -62,14 +66,17 @@ NamedElement nameElement(PageCall& call, const QString& page, const Held& elemen
 
 Evaluation evaluateInPage(PageCall& call, const Bidi::Place& place, const QString& code) {
   const Reply reply = askToEvaluate(call, place, code);
-  if (!reply.isAnswered())
+  if (!reply.isAnswered()) {
     return abortedBy(call, reply);
+  }
   const Held value(call, reply);
-  if (value->thrown || value->handle.isEmpty())
+  if (value->thrown || value->handle.isEmpty()) {
     return {value->text, value->thrown, false};
+  }
   const Reply textReply = call.ask(Bidi::textOfObject(value->realm, value->handle));
-  if (!textReply.isAnswered())
+  if (!textReply.isAnswered()) {
     return abortedBy(call, textReply);
+  }
   const Bidi::Outcome text = Bidi::readOutcome(textReply.result);
   return {text.text, text.thrown, false};
 }
@@ -77,19 +84,24 @@ Evaluation evaluateInPage(PageCall& call, const Bidi::Place& place, const QStrin
 QString putFilesInto(PageCall& call, const Bidi::Place& place, const QString& referenceExpression,
                      const QStringList& paths) {
   const Reply reference = askToEvaluate(call, place, referenceExpression);
-  if (!reference.isAnswered())
+  if (!reference.isAnswered()) {
     return call.errorOf(reference);
+  }
   const Held element(call, reference);
-  if (element->thrown)
+  if (element->thrown) {
     return element->text.section(QLatin1Char('\n'), 0, 0);
+  }
   const NamedElement named = element->handle.isEmpty() ? NamedElement() : nameElement(call, place.context, element);
-  if (named.sharedId.isEmpty())
+  if (named.sharedId.isEmpty()) {
     return PageErrors::noFileInput(referenceExpression);
+  }
   const Reply reply = call.ask(Bidi::setFiles(named.context, named.sharedId, paths));
-  if (reply.isAnswered())
+  if (reply.isAnswered()) {
     return {};
-  if (reply.status != Reply::Refused)
+  }
+  if (reply.status != Reply::Refused) {
     return call.errorOf(reply);
+  }
   return isAboutTheElement(reply.error) ? PageErrors::noFileInput(referenceExpression)
                                         : PageErrors::filesRefused(paths, reply.error);
 }

@@ -1,12 +1,7 @@
 #pragma once
 
-#include <memory>
-#include <vector>
-
 #include "webhook/bidi.h"
-#include "webhook/browserpage.h"
-#include "webhook/pagecall.h"
-#include "webhook/pageloading.h"
+#include "webhook/protocolpage.h"
 
 namespace Corvex::Webhook {
 
@@ -16,7 +11,7 @@ class BidiSession;
 ///
 /// The protocol cannot end a script that runs. Where the browser lets DevTools requests through, code whose time is
 /// over is ended all the same; elsewhere it goes on in the page, and only its answer is lost.
-class BidiPage : public BrowserPage {
+class BidiPage : public ProtocolPage {
   Q_OBJECT
 
 public:
@@ -25,7 +20,6 @@ public:
   ~BidiPage() override;
 
   Evaluation evaluate(const QString& code, int timeoutMs) override;
-  QString navigate(const QString& url, int timeoutMs) override;
   QString addStartScript(const QString& text) override;
   Screenshot screenshot(bool wholePage) override;
 
@@ -34,36 +28,28 @@ public:
 
   /// The paths of a visited browser are those of its own machine; they are not looked at before.
   QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
-  std::optional<Dialog> openDialog() const override { return m_dialog; }
-  QString answerDialog(bool accept, const QString& text) override;
-  QString close() override;
-  QString url() const override { return m_url; }
-  bool isAvailable() const override { return whyUnavailable().isEmpty(); }
-  bool isOpen() const override { return m_whyClosed.isEmpty(); }
 
   const QString& contextId() const { return m_context; }
 
   /// Has the dialogs of a frame reported here, too.
   void watchFrame(const QString& frame);
 
-  /// The page is gone: ends what is open in it and tells so. `sentence` is what later calls answer.
-  void noteClosed(const QString& sentence);
-
   /// Whether the browser knows it by this DevTools session.
   bool hasDevToolsSession(const QString& session) const;
-  void noteCrashed();
   void noteRealmGone(const QString& realm);
 
 private:
-  PageCall makeCall(int timeoutMs) const;
   Bidi::Place place() const;
   /// Waits until code can be given its place. Gives the obstacle that came up, or "".
   QString awaitPlace(PageCall& call);
-  QString whyUnavailable() const;
-  Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading);
+  Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
+  void stopLoading() override;
+  Command dialogAnswer(bool accept, const QString& text) const override;
+  Command closing() const override { return Bidi::closePage(m_context); }
+  void prepareClosing(PageCall& call) override;
+  void endOpenCalls(const QString& error) override;
   QString devToolsSession(PageCall& call) const;
   void endRunningCode();
-  void stopLoading();
 
   void takeEvent(const QString& method, const QJsonObject& parameters);
   void onNavigationCommitted(const QJsonObject& parameters);
@@ -73,26 +59,14 @@ private:
   void onDialogOpened(const QJsonObject& parameters);
   void onDialogClosed(const QJsonObject& parameters);
 
-  void takeDocument(const Bidi::Document& document);
-  void endOpenCalls(const QString& error);
-
-  Channel& m_channel;
-  BidiSession& m_session;
+  BidiSession& m_bidiSession;
   const QString m_context;
-  QString m_url;
   QString m_realm;  ///< Of the document that is there, if it is known.
   std::shared_ptr<Pending> m_realmThere = std::make_shared<Pending>();
-  QString m_whyClosed;
-  bool m_crashed = false;
   QString m_document;  ///< The navigation that brought it.
-  int m_leaving = 0;   ///< Calls under way that leave the document.
-  std::optional<Dialog> m_dialog;
-  int m_dialogCount = 0;
   bool m_framesGuarded = false;
   std::optional<double> m_plainPixelRatio;
   std::shared_ptr<Request> m_devTools;  ///< Asks for the page's DevTools session; other browsers refuse it.
-  std::vector<std::shared_ptr<PageLoading>> m_loadings;
-  std::shared_ptr<Pending> m_closing = std::make_shared<Pending>();
 };
 
 }  // namespace Corvex::Webhook

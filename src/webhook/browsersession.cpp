@@ -29,8 +29,9 @@ BrowserSession::~BrowserSession() = default;
 
 BrowserSession::Start BrowserSession::start(const SessionOptions& options) {
   for (const BackEnd& backEnd : backEnds) {
-    if (backEnd.fits(options))
+    if (backEnd.fits(options)) {
       return backEnd.start(options);
+    }
   }
   return {};
 }

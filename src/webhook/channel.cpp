@@ -46,11 +46,13 @@ std::shared_ptr<Request> Channel::start(const QString& session, const Command& c
 Reply Channel::call(const QString& session, const Command& command, const QDeadlineTimer& deadline) {
   const QPointer<Channel> self(this);
   const std::shared_ptr<Request> request = start(session, command);
-  if (waitFor(*request, deadline) == WaitResult::Complete)
+  if (waitFor(*request, deadline) == WaitResult::Complete) {
     return request->reply;
+  }
   end(*request, {Reply::TimeOver, {}, {}});
-  if (self)
+  if (self) {
     m_open.erase(request->id);
+  }
   return request->reply;
 }
 
@@ -103,19 +105,22 @@ void Channel::takeReply(const WireMessage& message) {
 
 void Channel::takeEvent(const WireMessage& message) {
   const auto found = m_subscriptions.constFind(message.session);
-  if (found == m_subscriptions.constEnd() || !found->receiver)
+  if (found == m_subscriptions.constEnd() || !found->receiver) {
     return;
+  }
   const EventHandler handler = found->handler;
   handler(message.method, message.content);
 }
 
 void Channel::endAll(const QString& reason) {
-  if (m_closed)
+  if (m_closed) {
     return;
+  }
   m_closed = true;
   m_closeReason = reason;
-  for (const auto& [id, request] : std::exchange(m_open, {}))
+  for (const auto& [id, request] : std::exchange(m_open, {})) {
     end(*request, {Reply::Lost, {}, reason});
+  }
 }
 
 }  // namespace Corvex::Webhook

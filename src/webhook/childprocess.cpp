@@ -40,8 +40,9 @@ Prepared prepare(const ChildCommand& command) {
   }
   const QStringList variables = environment.toStringList();
   prepared.texts.push_back(prepared.program);
-  for (const QString& text : command.arguments + variables)
+  for (const QString& text : command.arguments + variables) {
     prepared.texts.push_back(text.toLocal8Bit().toStdString());
+  }
   const int argumentCount = command.arguments.size() + 1;
   for (int i = 0; i < int(prepared.texts.size()); ++i) {
     (i < argumentCount ? prepared.arguments : prepared.environment).push_back(prepared.texts[size_t(i)].data());
@@ -63,8 +64,9 @@ void redirectStandardStreams(const Prepared& prepared) {
 void placeDescriptors(Prepared& prepared) {
   constexpr int outOfTheWay = 64;
   prepared.errorPipe = fcntl(prepared.errorPipe, F_DUPFD_CLOEXEC, outOfTheWay);
-  for (auto& [own, child] : prepared.descriptors)
+  for (auto& [own, child] : prepared.descriptors) {
     own = fcntl(own, F_DUPFD_CLOEXEC, outOfTheWay);
+  }
   int last = 2;
   for (const auto& [own, child] : prepared.descriptors) {
     dup2(own, child);
@@ -79,8 +81,9 @@ void placeDescriptors(Prepared& prepared) {
 [[noreturn]] void becomeChild(Prepared& prepared, pid_t parent) {
   setsid();
   prctl(PR_SET_PDEATHSIG, SIGKILL);
-  if (getppid() != parent)
+  if (getppid() != parent) {
     _exit(127);
+  }
   sigset_t none;
   sigemptyset(&none);
   sigprocmask(SIG_SETMASK, &none, nullptr);
@@ -88,8 +91,9 @@ void placeDescriptors(Prepared& prepared) {
   placeDescriptors(prepared);
   execve(prepared.program.c_str(), prepared.arguments.data(), prepared.environment.data());
   const int error = errno;
-  if (write(prepared.errorPipe, &error, sizeof error) < 0)
+  if (write(prepared.errorPipe, &error, sizeof error) < 0) {
     _exit(126);
+  }
   _exit(127);
 }
 
@@ -114,8 +118,9 @@ ChildProcess::Start ChildProcess::start(const ChildCommand& command) {
                               .arg(command.program, QString::fromLocal8Bit(std::strerror(error)))};
   };
   int pipeEnds[2];
-  if (pipe2(pipeEnds, O_CLOEXEC) != 0)
+  if (pipe2(pipeEnds, O_CLOEXEC) != 0) {
     return failure(errno);
+  }
   const FileDescriptor errorReader(pipeEnds[0]);
   FileDescriptor errorWriter(pipeEnds[1]);
   Prepared prepared = prepare(command);
@@ -125,23 +130,27 @@ ChildProcess::Start ChildProcess::start(const ChildCommand& command) {
   const pid_t parent = getpid();
   const pid_t pid = Cleanup::noteProcessGroup(markOf(command).toLocal8Bit().toStdString(), [&]() -> pid_t {
     const pid_t forked = fork();
-    if (forked == 0)
+    if (forked == 0) {
       becomeChild(prepared, parent);
+    }
     return forked;
   });
-  if (pid < 0)
+  if (pid < 0) {
     return failure(errno);
+  }
   errorWriter.close();
   std::unique_ptr<ChildProcess> process(new ChildProcess(pid));
   int error = 0;
-  if (read(errorReader.get(), &error, sizeof error) == ssize_t(sizeof error))
+  if (read(errorReader.get(), &error, sizeof error) == ssize_t(sizeof error)) {
     return failure(error);
+  }
   return {std::move(process), {}};
 }
 
 ChildProcess::ChildProcess(pid_t pid) : m_pid(pid), m_endDescriptor(openEndDescriptor(pid)) {
-  if (!m_endDescriptor.isValid())
+  if (!m_endDescriptor.isValid()) {
     return;
+  }
   m_endNotifier = std::make_unique<QSocketNotifier>(m_endDescriptor.get(), QSocketNotifier::Read);
   connect(m_endNotifier.get(), &QSocketNotifier::activated, this, [this] {
     m_endNotifier->setEnabled(false);
@@ -151,15 +160,17 @@ ChildProcess::ChildProcess(pid_t pid) : m_pid(pid), m_endDescriptor(openEndDescr
 
 ChildProcess::~ChildProcess() {
   end();
-  if (!m_endNotifier)
+  if (!m_endNotifier) {
     return;
+  }
   m_endNotifier->setEnabled(false);
   m_endNotifier.release()->deleteLater();  // this may run inside its own signal
 }
 
 void ChildProcess::end() {
-  if (m_endNotifier)
+  if (m_endNotifier) {
     m_endNotifier->setEnabled(false);
+  }
   Cleanup::endProcessGroup(m_pid);
 }
 

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <memory>
 
+#include "webhook/browserprogram.h"
 #include "webhook/browsersession.h"
 #include "webhook/childprocess.h"
 #include "webhook/pipetransport.h"
@@ -12,13 +13,8 @@
 /// Finding and starting a browser built on Chromium.
 namespace Corvex::Webhook::Chromium {
 
-struct Program {
-  QString path;
-  QString error;  ///< Why there is none, and what to install or set.
-};
-
 /// `wanted` is a path or a program's name; "" takes what CORVEX_CHROMIUM names, or the first one that is installed.
-Program find(const QString& wanted);
+BrowserProgram::Program find(const QString& wanted);
 
 /// The command line for a profile in `directory`.
 QStringList arguments(const QString& directory, const SessionOptions& options);
@@ -31,8 +27,5 @@ struct Instance {
   QString error;
 };
 Instance launch(const SessionOptions& options);
-
-/// The end of what the browser wrote to its output, in one line.
-QString lastWords(const QString& directory);
 
 }  // namespace Corvex::Webhook::Chromium

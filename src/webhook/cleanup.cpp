@@ -33,16 +33,19 @@ void removeTree(const std::string& path) {
   std::error_code error;
   for (int attempt = 0; attempt < 3; ++attempt) {
     std::filesystem::remove_all(path, error);
-    if (!error)
+    if (!error) {
       return;
+    }
   }
 }
 
 void runLocked(Notes& all) {
-  for (const auto& [group, mark] : all.groups)
+  for (const auto& [group, mark] : all.groups) {
     killProcessGroup(group, mark);
-  for (const std::string& directory : all.directories)
+  }
+  for (const std::string& directory : all.directories) {
     removeTree(directory);
+  }
   all.groups.clear();
   all.directories.clear();
 }
@@ -61,12 +64,14 @@ void serveSignals(sigset_t signals) {
 
 void install() {
   static bool installed = false;
-  if (std::exchange(installed, true))
+  if (std::exchange(installed, true)) {
     return;
+  }
   sigset_t signals;
   sigemptyset(&signals);
-  for (int signal : {SIGHUP, SIGINT, SIGTERM})
+  for (int signal : {SIGHUP, SIGINT, SIGTERM}) {
     sigaddset(&signals, signal);
+  }
   pthread_sigmask(SIG_BLOCK, &signals, nullptr);
   std::thread(serveSignals, signals).detach();
   std::atexit(run);
@@ -76,8 +81,9 @@ pid_t noteProcessGroup(const std::string& mark, const std::function<pid_t()>& st
   Notes& all = notes();
   std::lock_guard lock(all.mutex);
   const pid_t group = start();
-  if (group > 0)
+  if (group > 0) {
     all.groups[group] = mark;
+  }
   return group;
 }
 
@@ -85,8 +91,9 @@ void endProcessGroup(pid_t group) {
   Notes& all = notes();
   std::lock_guard lock(all.mutex);
   const auto found = all.groups.find(group);
-  if (found == all.groups.end())
+  if (found == all.groups.end()) {
     return;
+  }
   killProcessGroup(group, found->second);
   all.groups.erase(found);
 }
@@ -95,8 +102,9 @@ std::string makeDirectory(const std::string& pathTemplate) {
   Notes& all = notes();
   std::lock_guard lock(all.mutex);
   std::string path = pathTemplate;
-  if (!mkdtemp(path.data()))
+  if (!mkdtemp(path.data())) {
     return {};
+  }
   all.directories.insert(path);
   return path;
 }
@@ -104,8 +112,9 @@ std::string makeDirectory(const std::string& pathTemplate) {
 void removeDirectory(const std::string& path) {
   Notes& all = notes();
   std::lock_guard lock(all.mutex);
-  if (all.directories.erase(path))
+  if (all.directories.erase(path)) {
     removeTree(path);
+  }
 }
 
 void run() {

@@ -9,8 +9,9 @@ class Counted {
 public:
   Counted(QObject* owner, int& count) : m_owner(owner), m_count(count) { ++m_count; }
   ~Counted() {
-    if (m_owner)
+    if (m_owner) {
       --m_count;
+    }
   }
   Counted(const Counted&) = delete;
   Counted& operator=(const Counted&) = delete;

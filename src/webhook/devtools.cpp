@@ -17,8 +17,9 @@ QByteArray write(qint64 id, const QString& session, const Command& command) {
   QJsonObject message{{QStringLiteral("id"), id},
                       {QStringLiteral("method"), command.method},
                       {QStringLiteral("params"), command.parameters}};
-  if (!session.isEmpty())
+  if (!session.isEmpty()) {
     message.insert(QStringLiteral("sessionId"), session);
+  }
   return QJsonDocument(message).toJson(QJsonDocument::Compact);
 }
 
@@ -55,24 +56,30 @@ Command startScript(const QString& source) {
 
 /// A primitive that JSON cannot hold: "-0", "NaN", "Infinity", "-Infinity", or a bigint with its "n".
 QString unserializableText(const QString& text) {
-  if (text == QLatin1String("-0"))
+  if (text == QLatin1String("-0")) {
     return QStringLiteral("0");
+  }
   return text.endsWith(QLatin1Char('n')) ? text.chopped(1) : text;
 }
 
 QString primitiveText(const QJsonObject& remote) {
   const QString unserializable = textAt(remote, "unserializableValue");
-  if (!unserializable.isEmpty())
+  if (!unserializable.isEmpty()) {
     return unserializableText(unserializable);
+  }
   const QJsonValue value = remote.value(QLatin1String("value"));
-  if (value.isString())
+  if (value.isString()) {
     return value.toString();
-  if (value.isDouble())
+  }
+  if (value.isDouble()) {
     return jsNumberText(value.toDouble());
-  if (value.isBool())
+  }
+  if (value.isBool()) {
     return value.toBool() ? QStringLiteral("true") : QStringLiteral("false");
-  if (value.isNull())
+  }
+  if (value.isNull()) {
     return QStringLiteral("null");
+  }
   return QStringLiteral("undefined");
 }
 
@@ -130,8 +137,9 @@ Navigation readNavigation(const QJsonObject& answer) {
 
 std::optional<NewDocument> readNewDocument(const QJsonObject& event) {
   const QJsonObject frame = objectAt(event, "frame");
-  if (frame.contains(QLatin1String("parentId")))
+  if (frame.contains(QLatin1String("parentId"))) {
     return {};
+  }
   return NewDocument{textAt(frame, "loaderId"), textAt(frame, "url") + textAt(frame, "urlFragment")};
 }
 
@@ -165,8 +173,9 @@ Outcome readOutcome(const QJsonObject& answer) {
   const QString handle = textAt(remote, "objectId");
   outcome.handle = isSymbol ? QString() : handle;
   outcome.text = handle.isEmpty() ? primitiveText(remote) : textAt(remote, "description");
-  if (outcome.thrown && thrown.isEmpty())
+  if (outcome.thrown && thrown.isEmpty()) {
     outcome.text = textAt(details.toObject(), "text");
+  }
   return outcome;
 }
 
@@ -199,8 +208,9 @@ Command setFiles(const QString& handle, const QStringList& paths) {
 
 Command answerDialog(bool accept, const QString& text) {
   QJsonObject parameters{{QStringLiteral("accept"), accept}};
-  if (!text.isNull())
+  if (!text.isNull()) {
     parameters.insert(QStringLiteral("promptText"), text);
+  }
   return command("Page.handleJavaScriptDialog", parameters);
 }
 

@@ -14,8 +14,9 @@ class HandleGroup {
 public:
   explicit HandleGroup(PageCall& call) : m_call(call), m_name(nextName()) {}
   ~HandleGroup() {
-    if (m_used)
+    if (m_used) {
       m_call.post(DevTools::releaseGroup(m_name));
+    }
   }
   HandleGroup(const HandleGroup&) = delete;
   HandleGroup& operator=(const HandleGroup&) = delete;
@@ -43,11 +44,13 @@ Command evaluation(const PageCall& call, const QString& code, const HandleGroup&
 
 Evaluation textOfObject(PageCall& call, const DevTools::Outcome& object, HandleGroup& group) {
   const Reply reply = call.ask(DevTools::textOfObject(object.handle, group.name()));
-  if (!reply.isAnswered())
+  if (!reply.isAnswered()) {
     return abortedBy(call, reply);
+  }
   const DevTools::Outcome text = DevTools::readOutcome(reply.result);
-  if (!text.thrown)
+  if (!text.thrown) {
     return {text.text, object.thrown, false};
+  }
   // The conversion threw. For an exception its description says more than that.
   const QString description = object.thrown ? object.text : text.text;
   return {description.section(QStringLiteral("\n    at "), 0, 0), true, false};
@@ -58,29 +61,35 @@ Evaluation textOfObject(PageCall& call, const DevTools::Outcome& object, HandleG
 Evaluation evaluateCode(PageCall& call, const QString& code) {
   HandleGroup group(call);
   const Reply reply = call.ask(evaluation(call, code, group));
-  if (!reply.isAnswered())
+  if (!reply.isAnswered()) {
     return abortedBy(call, reply);
+  }
   const DevTools::Outcome outcome = DevTools::readOutcome(reply.result);
   group.noteUse(outcome);
-  if (outcome.handle.isEmpty())
+  if (outcome.handle.isEmpty()) {
     return {outcome.text, outcome.thrown, false};
+  }
   return textOfObject(call, outcome, group);
 }
 
 QString setFilesOfInput(PageCall& call, const QString& referenceExpression, const QStringList& paths) {
   HandleGroup group(call);
   const Reply reference = call.ask(evaluation(call, referenceExpression, group));
-  if (!reference.isAnswered())
+  if (!reference.isAnswered()) {
     return call.errorOf(reference);
+  }
   const DevTools::Outcome outcome = DevTools::readOutcome(reference.result);
   group.noteUse(outcome);
-  if (outcome.thrown)
+  if (outcome.thrown) {
     return outcome.text.section(QLatin1Char('\n'), 0, 0);
-  if (outcome.handle.isEmpty())
+  }
+  if (outcome.handle.isEmpty()) {
     return PageErrors::noFileInput(referenceExpression);
+  }
   const Reply reply = call.ask(DevTools::setFiles(outcome.handle, paths));
-  if (reply.isAnswered())
+  if (reply.isAnswered()) {
     return {};
+  }
   const bool wrongObject =
       reply.error.contains(QLatin1String("file input")) || reply.error.contains(QLatin1String("Node"));
   return reply.status == Reply::Refused && wrongObject ? PageErrors::noFileInput(referenceExpression)

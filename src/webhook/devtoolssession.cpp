@@ -21,8 +21,9 @@ BrowserSession::Start DevToolsSession::start(const SessionOptions& options) {
   std::unique_ptr<Transport> transport;
   if (options.attachTo.isEmpty()) {
     browser = Chromium::launch(options);
-    if (!browser.error.isEmpty())
+    if (!browser.error.isEmpty()) {
       return failure(browser.error);
+    }
     transport = std::move(browser.transport);
   } else {
     auto socket = std::make_unique<WebSocketTransport>();
@@ -38,8 +39,9 @@ BrowserSession::Start DevToolsSession::start(const SessionOptions& options) {
   std::unique_ptr<DevToolsSession> session(new DevToolsSession(std::move(browser), std::move(transport)));
   session->setDefaultTimeout(options.defaultTimeoutMs);
   const QString error = session->open(deadline);
-  if (!error.isEmpty())
+  if (!error.isEmpty()) {
     return failure(error);
+  }
   return {std::move(session), {}};
 }
 
@@ -48,8 +50,9 @@ DevToolsSession::DevToolsSession(Chromium::Instance browser, std::unique_ptr<Tra
   m_channel.subscribe(QString(), this,
                       [this](const QString& method, const QJsonObject& parameters) { takeEvent(method, parameters); });
   connect(&m_channel, &Channel::closed, this, &DevToolsSession::lose);
-  if (!m_browser.process)
+  if (!m_browser.process) {
     return;
+  }
   connect(m_browser.process.get(), &ChildProcess::ended, this, [this] { lose(QStringLiteral("its process ended")); });
 }
 
@@ -89,8 +92,9 @@ BrowserPage* DevToolsSession::firstPage() const { return m_pages.front().get(); 
 QVector<BrowserPage*> DevToolsSession::pages() const {
   QVector<BrowserPage*> open;
   for (const auto& page : m_pages) {
-    if (page->isOpen())
+    if (page->isOpen()) {
       open.append(page.get());
+    }
   }
   return open;
 }
@@ -100,16 +104,18 @@ BrowserSession::NewPage DevToolsSession::newPage() {
   const QPointer<DevToolsSession> self(this);
   ++m_pagesToCome;
   const Reply reply = call.ask(DevTools::createPage());
-  if (!self)
+  if (!self) {
     return {nullptr, call.errorOf(reply)};
+  }
   if (!reply.isAnswered()) {
     --m_pagesToCome;
     return {nullptr, call.errorOf(reply)};
   }
   const QString target = reply.result.value(QLatin1String("targetId")).toString();
   for (const auto& page : m_pages) {
-    if (page->targetId() == target)
+    if (page->targetId() == target) {
       return {page.get(), {}};
+    }
   }
   return {nullptr, QStringLiteral("The browser opened a page but did not report it. Try again.")};
 }
@@ -120,24 +126,28 @@ QString DevToolsSession::addStartScriptOfNewPages(const QString& text) {
 }
 
 void DevToolsSession::close() {
-  if (m_ended)
+  if (m_ended) {
     return;
+  }
   const QPointer<DevToolsSession> self(this);
   if (!m_browser.process) {
     PageCall call(&m_channel, {}, closeTimeoutMs);
     for (BrowserPage* page : pages()) {
-      if (self)
+      if (self) {
         call.ask(DevTools::closePage(static_cast<DevToolsPage*>(page)->targetId()));
+      }
     }
-    if (!self)
+    if (!self) {
       return;
+    }
   }
   m_ended = true;
   const QString reason = QStringLiteral("it was closed");
   m_channel.close(reason);
   endBrowser();
-  for (size_t i = 0; self && i < m_pages.size(); ++i)
+  for (size_t i = 0; self && i < m_pages.size(); ++i) {
     m_pages[i]->noteClosed(PageErrors::browserLost(reason));
+  }
 }
 
 Capabilities DevToolsSession::capabilities() const { return {true, true, true, true, true}; }
@@ -149,10 +159,12 @@ QString DevToolsSession::browserDirectory() const {
 }
 
 void DevToolsSession::takeEvent(const QString& method, const QJsonObject& parameters) {
-  if (method == QLatin1String("Target.attachedToTarget"))
+  if (method == QLatin1String("Target.attachedToTarget")) {
     onAttached(parameters);
-  if (method == QLatin1String("Target.detachedFromTarget"))
+  }
+  if (method == QLatin1String("Target.detachedFromTarget")) {
     onDetached(parameters);
+  }
 }
 
 void DevToolsSession::onAttached(const QJsonObject& parameters) {
@@ -162,22 +174,27 @@ void DevToolsSession::onAttached(const QJsonObject& parameters) {
     m_channel.start({}, DevTools::leavePage(target.session));
     return;
   }
-  if (target.opener.isEmpty() && m_pagesToCome > 0)
+  if (target.opener.isEmpty() && m_pagesToCome > 0) {
     --m_pagesToCome;
+  }
   m_pages.push_back(std::make_unique<DevToolsPage>(m_channel, *this, target, m_startScripts));
   m_firstPageOpened->complete();
-  if (m_pages.size() > 1)
+  if (m_pages.size() > 1) {
     Q_EMIT pageOpened(m_pages.back().get());
+  }
 }
 
 bool DevToolsSession::isOurs(const DevTools::Target& target) const {
-  if (target.kind != QLatin1String("page"))
+  if (target.kind != QLatin1String("page")) {
     return false;
-  if (m_browser.process || (target.opener.isEmpty() && m_pagesToCome > 0))
+  }
+  if (m_browser.process || (target.opener.isEmpty() && m_pagesToCome > 0)) {
     return true;
+  }
   for (const auto& page : m_pages) {
-    if (page->targetId() == target.opener)
+    if (page->targetId() == target.opener) {
       return true;
+    }
   }
   return false;
 }
@@ -185,32 +202,39 @@ bool DevToolsSession::isOurs(const DevTools::Target& target) const {
 void DevToolsSession::onDetached(const QJsonObject& parameters) {
   const QString session = parameters.value(QLatin1String("sessionId")).toString();
   for (const auto& page : m_pages) {
-    if (page->sessionId() == session)
+    if (page->sessionId() == session) {
       return page->noteClosed(PageErrors::pageClosed());
+    }
   }
 }
 
 void DevToolsSession::lose(const QString& reason) {
-  if (m_ended)
+  if (m_ended) {
     return;
+  }
   m_ended = true;
-  if (m_browser.directory)
-    m_lastWords = Chromium::lastWords(m_browser.directory->path());
+  if (m_browser.directory) {
+    m_lastWords = BrowserProgram::lastWords(m_browser.directory->path());
+  }
   endBrowser();
   m_channel.close(reason);
   m_firstPageOpened->complete();
   const QPointer<DevToolsSession> self(this);
-  for (size_t i = 0; self && i < m_pages.size(); ++i)
+  for (size_t i = 0; self && i < m_pages.size(); ++i) {
     m_pages[i]->noteClosed(PageErrors::browserLost(reason));
-  if (self)
+  }
+  if (self) {
     Q_EMIT lost(reason);
+  }
 }
 
 void DevToolsSession::endBrowser() {
-  if (m_browser.process)
+  if (m_browser.process) {
     m_browser.process->end();
-  if (m_browser.directory)
+  }
+  if (m_browser.directory) {
     m_browser.directory->remove();
+  }
 }
 
 }  // namespace Corvex::Webhook

@@ -13,8 +13,9 @@ MessageEndpoint::MessageEndpoint(const EndpointLimits& limits, QObject* parent) 
     const auto tell = [this, id] {
       const QPointer<MessageEndpoint> self(this);
       deliver();
-      if (self)
+      if (self) {
         Q_EMIT waitUnanswered(id);
+      }
     };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
   };
@@ -25,8 +26,9 @@ MessageEndpoint::~MessageEndpoint() { m_server->stop(); }
 
 bool MessageEndpoint::start(QString* error) {
   QString reason;
-  if (m_server->start(&reason))
+  if (m_server->start(&reason)) {
     return true;
+  }
   *error = QStringLiteral(
                "The endpoint for the pages' messages cannot listen on 127.0.0.1: %1. Let this program open a "
                "port there, or end programs that hold many.")

@@ -31,12 +31,14 @@ bool isDefaultPort(const QString& scheme, int port) {
 
 /// For a log line: in quotes, with nothing in it that a terminal would act on, and never long.
 QString shown(const QByteArrayList& values) {
-  if (values.isEmpty())
+  if (values.isEmpty()) {
     return QStringLiteral("nobody");
+  }
   QString text = QString::fromLatin1(values.join(", ").left(120));
   for (QChar& c : text) {
-    if (!c.isPrint())
+    if (!c.isPrint()) {
       c = u'?';
+    }
   }
   return u'"' + text + u'"';
 }
@@ -46,8 +48,9 @@ Verdict refused(Refusal refusal, const QByteArrayList& values, const QByteArray&
 }
 
 bool isTooLarge(const RequestHead& head, qint64 bodyLimit) {
-  if (!head.transferEncodings.isEmpty() || head.lengths.size() > 1)
+  if (!head.transferEncodings.isEmpty() || head.lengths.size() > 1) {
     return true;
+  }
   bool isNumber = true;
   const quint64 length = head.lengths.isEmpty() ? 0 : head.lengths.first().toULongLong(&isNumber);
   return !isNumber || length > quint64(bodyLimit);
@@ -64,11 +67,13 @@ QString originOf(const QString& url) {
   const QString inner = url.startsWith(QLatin1String("blob:")) ? url.mid(5) : url;
   const QUrl parsed(inner);
   const QString scheme = parsed.scheme();
-  if (scheme.isEmpty() || scheme == QLatin1String("about"))
+  if (scheme.isEmpty() || scheme == QLatin1String("about")) {
     return {};
+  }
   const QString host = parsed.host(QUrl::FullyEncoded);
-  if (host.isEmpty() || scheme == QLatin1String("file"))
+  if (host.isEmpty() || scheme == QLatin1String("file")) {
     return QStringLiteral("null");
+  }
   const QString origin = scheme + QLatin1String("://") + (host.contains(u':') ? u'[' + host + u']' : host);
   return isDefaultPort(scheme, parsed.port()) ? origin : origin + u':' + QString::number(parsed.port());
 }
@@ -76,8 +81,9 @@ QString originOf(const QString& url) {
 void EndpointPolicy::setAllowedOrigins(const QStringList& origins) {
   QSet<QByteArray> allowed;
   for (const QString& origin : origins) {
-    if (!origin.isEmpty())
+    if (!origin.isEmpty()) {
       allowed.insert(origin.toUtf8());
+    }
   }
   const std::lock_guard<std::mutex> lock(m_mutex);
   m_origins = allowed;
@@ -89,30 +95,37 @@ bool EndpointPolicy::isAllowed(const QByteArray& origin) const {
 }
 
 Verdict EndpointPolicy::judge(const RequestHead& head, const QByteArray& ownHost, qint64 bodyLimit) const {
-  if (head.hosts != QByteArrayList{ownHost})
+  if (head.hosts != QByteArrayList{ownHost}) {
     return refused(Refusal::Host, head.hosts);
+  }
 
   const bool hasOrigin = !head.origins.isEmpty();
   const QByteArrayList& senders = hasOrigin ? head.origins : head.referers;
-  if (senders.size() != 1)
+  if (senders.size() != 1) {
     return refused(Refusal::Origin, senders);
+  }
   const QByteArray origin = hasOrigin ? senders.first() : originOf(QString::fromUtf8(senders.first())).toUtf8();
-  if (!isAllowed(origin) || (!hasOrigin && origin == "null"))
+  if (!isAllowed(origin) || (!hasOrigin && origin == "null")) {
     return refused(Refusal::Origin, senders);
+  }
 
-  if (head.method != "GET" && head.method != "POST" && head.method != "OPTIONS")
+  if (head.method != "GET" && head.method != "POST" && head.method != "OPTIONS") {
     return refused(Refusal::Method, {head.method}, origin);
-  if (!head.target.startsWith("/?"))
+  }
+  if (!head.target.startsWith("/?")) {
     return refused(Refusal::Path, {head.target}, origin);
-  if (isTooLarge(head, bodyLimit))
+  }
+  if (isTooLarge(head, bodyLimit)) {
     return refused(Refusal::Size, head.lengths + head.transferEncodings, origin);
+  }
   return {Refusal::None, {}, origin};
 }
 
 QMap<QString, quint64> RefusalFigures::byName() const {
   QMap<QString, quint64> result;
-  for (const RefusalRow& row : refusalRows)
+  for (const RefusalRow& row : refusalRows) {
     result[QString::fromLatin1(row.name)] = m_figures[std::size_t(row.refusal)];
+  }
   return result;
 }
 

@@ -28,8 +28,9 @@ const WantedHeader wantedHeaders[] = {
 
 MHD_Result noteHeader(void* context, MHD_ValueKind, const char* name, const char* value) {
   for (const WantedHeader& wanted : wantedHeaders) {
-    if (qstricmp(wanted.name, name) == 0)
+    if (qstricmp(wanted.name, name) == 0) {
       (static_cast<RequestHead*>(context)->*wanted.list).append(value);
+    }
   }
   return MHD_YES;
 }
@@ -37,10 +38,12 @@ MHD_Result noteHeader(void* context, MHD_ValueKind, const char* name, const char
 MHD_Result send(MHD_Connection* connection, unsigned status, const QByteArray& body, const Headers& headers) {
   MHD_Response* response = MHD_create_response_from_buffer(std::size_t(body.size()),
                                                            const_cast<char*>(body.constData()), MHD_RESPMEM_MUST_COPY);
-  if (!response)
+  if (!response) {
     return MHD_NO;
-  for (const Header& header : headers)
+  }
+  for (const Header& header : headers) {
     MHD_add_response_header(response, header.name, header.value.constData());
+  }
   const MHD_Result result = MHD_queue_response(connection, status, response);
   MHD_destroy_response(response);
   return result;

@@ -73,8 +73,9 @@ EndpointServer::EndpointServer(const EndpointLimits& limits, Receiver receiver)
 EndpointServer::~EndpointServer() { stop(); }
 
 bool EndpointServer::start(QString* error) {
-  if (m_thread.joinable())
+  if (m_thread.joinable()) {
     return true;
+  }
   const sockaddr_in address = loopbackAddress();
   m_wakeHandle = FileDescriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
   errno = 0;
@@ -88,8 +89,9 @@ bool EndpointServer::start(QString* error) {
                               MHD_OPTION_SIGPIPE_HANDLED_BY_APP, 1, MHD_OPTION_END);
   if (!m_daemon || !m_wakeHandle.isValid()) {
     *error = QString::fromLocal8Bit(std::strerror(errno));
-    if (m_daemon)
+    if (m_daemon) {
       MHD_stop_daemon(m_daemon);
+    }
     m_daemon = nullptr;
     return false;
   }
@@ -102,8 +104,9 @@ bool EndpointServer::start(QString* error) {
 }
 
 void EndpointServer::stop() {
-  if (!m_thread.joinable())
+  if (!m_thread.joinable()) {
     return;
+  }
   m_stopping = true;
   wake();
   m_thread.join();
@@ -112,8 +115,9 @@ void EndpointServer::stop() {
 
 bool EndpointServer::answerWait(quint64 id, const QByteArray& reply) {
   const bool taken = m_waits.answer(id, reply);
-  if (taken)
+  if (taken) {
     wake();
+  }
   return taken;
 }
 
@@ -129,8 +133,9 @@ void EndpointServer::run() {
   m_waits.endAll();
   endWaits();
   const QDeadlineTimer flushed(flushTime);
-  while (owesReplies() && !flushed.hasExpired())
+  while (owesReplies() && !flushed.hasExpired()) {
     pollOnce(flushed);
+  }
   MHD_stop_daemon(m_daemon);
 }
 
@@ -153,8 +158,9 @@ void EndpointServer::pollOnce(const QDeadlineTimer& limit) {
   eventfd_t wakes = 0;
   ::eventfd_read(m_wakeHandle.get(), &wakes);
   for (std::size_t i = 0; i < watched.size(); ++i) {
-    if (handles[i + 2].revents != 0)
+    if (handles[i + 2].revents != 0) {
       noteClientGone(*watched[i]);
+    }
   }
   MHD_run(m_daemon);
 }
@@ -171,8 +177,9 @@ void EndpointServer::noteClientGone(Exchange& exchange) {
 
 QDeadlineTimer EndpointServer::nextDeadline() const {
   QDeadlineTimer next = m_waits.nextDeadline();
-  for (const Exchange& exchange : m_exchanges)
+  for (const Exchange& exchange : m_exchanges) {
     next = std::min(next, exchange.deadline);
+  }
   return next;
 }
 
@@ -201,19 +208,22 @@ void EndpointServer::endWaits() {
   const std::vector<WaitTable::Ended> all = m_waits.takeEnded();
   for (const WaitTable::Ended& ended : all) {
     const auto held = m_held.find(ended.id);
-    if (held == m_held.end())
+    if (held == m_held.end()) {
       continue;
+    }
     Exchange& exchange = *held->second;
     m_held.erase(held);
     setStage(exchange, Stage::Replying);
     sendReply(exchange.connection, MHD_HTTP_OK, ended.reply, exchange.origin);
     MHD_resume_connection(exchange.connection);
-    if (!ended.answered)
+    if (!ended.answered) {
       m_receiver.waitUnanswered(ended.id);
+    }
   }
   // Without this the library does not see that they are resumed, and its own timeout says nothing of it.
-  if (!all.empty())
+  if (!all.empty()) {
     MHD_run(m_daemon);
+  }
 }
 
 EndpointServer::Exchange& EndpointServer::exchangeOf(MHD_Connection* connection) {
@@ -242,8 +252,9 @@ void EndpointServer::open(MHD_Connection* connection, void** context) {
 
 void EndpointServer::closed(const Exchange& exchange) {
   const bool unread = exchange.stage == Stage::New && hasReceivedBytes(exchange.socket);
-  if (unread || exchange.stage == Stage::Reading)
+  if (unread || exchange.stage == Stage::Reading) {
     noteMalformed(QStringLiteral("it could not be read, or not in time"));
+  }
   m_hasRoomAgain = m_hasRoomAgain || m_exchanges.size() >= std::size_t(m_limits.connections);
   m_exchanges.erase(exchange.place);
 }
@@ -262,10 +273,12 @@ void EndpointServer::noteCompleted(void* self, MHD_Connection* connection, void*
 }
 
 void EndpointServer::complete(Exchange& exchange) {
-  if (exchange.stage == Stage::Reading)
+  if (exchange.stage == Stage::Reading) {
     noteMalformed(QStringLiteral("it ended in the middle"));
-  if (exchange.inFlight)
+  }
+  if (exchange.inFlight) {
     --m_inFlight;
+  }
   exchange.inFlight = false;
   exchange.body = {};
   setStage(exchange, Stage::Idle);
@@ -281,20 +294,24 @@ QString EndpointServer::noteRefusal(const Verdict& verdict, const QByteArray& ta
 }
 
 void EndpointServer::noteMalformed(const QString& what) {
-  if (!m_stopping)
+  if (!m_stopping) {
     noteRefusal({Refusal::Malformed, what}, "?");
+  }
 }
 
 MHD_Result EndpointServer::handle(void* self, MHD_Connection* connection, const char*, const char* method, const char*,
                                   const char* data, size_t* size, void**) {
   auto* server = static_cast<EndpointServer*>(self);
   Exchange& exchange = exchangeOf(connection);
-  if (exchange.method.isEmpty())
+  if (exchange.method.isEmpty()) {
     return server->begin(exchange, method);
-  if (*size == 0)
+  }
+  if (*size == 0) {
     return server->finish(exchange);
-  if (exchange.body.size() + qint64(*size) > server->m_limits.body)
+  }
+  if (exchange.body.size() + qint64(*size) > server->m_limits.body) {
     return MHD_NO;
+  }
   exchange.body.append(data, int(*size));
   *size = 0;
   return MHD_YES;
@@ -305,10 +322,12 @@ MHD_Result EndpointServer::begin(Exchange& exchange, const char* method) {
   const RequestHead head = headOf(exchange.connection, method, exchange.target);
   Verdict verdict = m_policy.judge(head, m_ownHost, m_limits.body);
   exchange.origin = verdict.origin;
-  if (verdict.refusal == Refusal::None && m_inFlight >= m_limits.requests)
+  if (verdict.refusal == Refusal::None && m_inFlight >= m_limits.requests) {
     verdict = {Refusal::Busy, QStringLiteral("%1 requests are in flight").arg(m_inFlight), verdict.origin};
-  if (verdict.refusal != Refusal::None)
+  }
+  if (verdict.refusal != Refusal::None) {
     return refuse(exchange, verdict);
+  }
   exchange.inFlight = true;
   ++m_inFlight;
   return MHD_YES;
@@ -316,27 +335,32 @@ MHD_Result EndpointServer::begin(Exchange& exchange, const char* method) {
 
 MHD_Result EndpointServer::finish(Exchange& exchange) {
   setStage(exchange, Stage::Replying);
-  if (exchange.method == "OPTIONS")
+  if (exchange.method == "OPTIONS") {
     return sendPreflightReply(exchange.connection, exchange.origin);
+  }
   const QByteArray body = exchange.method == "POST" ? exchange.body : QByteArray();
   return take(exchange, PageMessage::fromRequest(exchange.target.mid(int(std::strlen("/?"))), body));
 }
 
 MHD_Result EndpointServer::take(Exchange& exchange, PageMessage message) {
-  if (m_stopping)
+  if (m_stopping) {
     return refuse(exchange, {Refusal::Busy, QStringLiteral("the endpoint is closing"), exchange.origin});
-  if (message.wantsReply())
+  }
+  if (message.wantsReply()) {
     message.setWaitId(m_waits.open(QDeadlineTimer(m_limits.waitTime)));
+  }
   const MessageQueue::Taken taken = m_messages.put(message);
   if (taken == MessageQueue::Taken::No) {
     m_waits.end(message.waitId());
     return refuse(exchange, {Refusal::Busy, QStringLiteral("too many messages are not taken yet"), exchange.origin});
   }
   ++m_accepted;
-  if (taken == MessageQueue::Taken::YesAsFirst)
+  if (taken == MessageQueue::Taken::YesAsFirst) {
     m_receiver.messagesWait();
-  if (!message.wantsReply())
+  }
+  if (!message.wantsReply()) {
     return sendReply(exchange.connection, MHD_HTTP_OK, {}, exchange.origin);
+  }
   exchange.waitId = message.waitId();
   m_held[exchange.waitId] = &exchange;
   setStage(exchange, Stage::Held);

@@ -24,8 +24,9 @@ public:
   int get() const { return m_descriptor; }
 
   void close() {
-    if (isValid())
+    if (isValid()) {
       ::close(std::exchange(m_descriptor, -1));
+    }
   }
 
 private:

@@ -1,11 +1,12 @@
 #include "webhook/firefox.h"
 
+#include "webhook/browserprogram.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <algorithm>
 
 #include "webhook/wait.h"
@@ -14,9 +15,14 @@ namespace Corvex::Webhook::Firefox {
 
 namespace {
 
-const char* const programNames[] = {"firefox-esr", "firefox"};
-
-const char* const markName = "CORVEX_BROWSER_DIRECTORY";
+const BrowserProgram::Family& family() {
+  static const BrowserProgram::Family family{QStringLiteral("firefox"),
+                                             QStringLiteral("Firefox's program"),
+                                             QStringLiteral("firefox-esr"),
+                                             QStringLiteral("CORVEX_FIREFOX"),
+                                             {QStringLiteral("firefox-esr"), QStringLiteral("firefox")}};
+  return family;
+}
 
 // On top of those that the browser sets by itself when it is driven.
 const char* const preferences = R"(user_pref("remote.active-protocols", 1);
@@ -49,20 +55,11 @@ user_pref("toolkit.telemetry.reportingpolicy.firstRun", false);
 user_pref("toolkit.telemetry.server", "data:,");
 )";
 
-QString outputFile(const QString& directory) { return directory + QStringLiteral("/output.log"); }
-
 QString profile(const QString& directory) { return directory + QStringLiteral("/profile"); }
-
-QString pathOf(const QString& name) {
-  if (!name.contains(QLatin1Char('/')))
-    return QStandardPaths::findExecutable(name);
-  const QFileInfo file(name);
-  return file.isFile() && file.isExecutable() ? file.absoluteFilePath() : QString();
-}
 
 /// Keeps the browser from writing outside of its directory.
 QMap<QString, QString> environment(const QString& directory) {
-  QMap<QString, QString> variables{{QString::fromLatin1(markName), directory},
+  QMap<QString, QString> variables{{BrowserProgram::markName(), directory},
                                    {QStringLiteral("HOME"), directory + QStringLiteral("/home")},
                                    {QStringLiteral("XDG_CACHE_HOME"), directory + QStringLiteral("/home/.cache")},
                                    {QStringLiteral("XDG_CONFIG_HOME"), directory + QStringLiteral("/home/.config")},
@@ -70,16 +67,18 @@ QMap<QString, QString> environment(const QString& directory) {
                                    {QStringLiteral("MOZ_CRASHREPORTER_DISABLE"), QStringLiteral("1")},
                                    {QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory")}};
   const QString authority = QDir::homePath() + QStringLiteral("/.Xauthority");
-  if (!qEnvironmentVariableIsSet("XAUTHORITY") && QFileInfo::exists(authority))
+  if (!qEnvironmentVariableIsSet("XAUTHORITY") && QFileInfo::exists(authority)) {
     variables.insert(QStringLiteral("XAUTHORITY"), authority);
+  }
   return variables;
 }
 
 bool prepare(const QString& directory) {
   const QDir root(directory);
   for (const char* folder : {"tmp", "home", "profile"}) {
-    if (directory.isEmpty() || !root.mkdir(QLatin1String(folder)))
+    if (directory.isEmpty() || !root.mkdir(QLatin1String(folder))) {
       return false;
+    }
   }
   QFile file(profile(directory) + QStringLiteral("/user.js"));
   return file.open(QIODevice::WriteOnly) && file.write(preferences) > 0 && file.flush();
@@ -87,9 +86,10 @@ bool prepare(const QString& directory) {
 
 QString announcedAddress(const QString& directory) {
   static const QRegularExpression line(QStringLiteral("WebDriver BiDi listening on (ws://[^\\s/]+)[^\\n]*\\n"));
-  QFile file(outputFile(directory));
-  if (!file.open(QIODevice::ReadOnly))
+  QFile file(BrowserProgram::outputFile(directory));
+  if (!file.open(QIODevice::ReadOnly)) {
     return {};
+  }
   return line.match(QString::fromLocal8Bit(file.readAll())).captured(1);
 }
 
@@ -99,10 +99,11 @@ QString waitForAddress(const ChildProcess& process, const QString& directory, co
   QString address;
   const auto look = [&] {
     address = announcedAddress(directory);
-    if (!address.isEmpty())
+    if (!address.isEmpty()) {
       settled.complete();
+    }
   };
-  QFileSystemWatcher watcher({outputFile(directory)});
+  QFileSystemWatcher watcher({BrowserProgram::outputFile(directory)});
   QObject::connect(&watcher, &QFileSystemWatcher::fileChanged, &watcher, look);
   QObject::connect(&process, &ChildProcess::ended, &watcher, [&] { settled.complete(); });
   look();
@@ -116,87 +117,53 @@ bool isMeant(const QString& browser) {
   return QFileInfo(browser).fileName().startsWith(QLatin1String("firefox"), Qt::CaseInsensitive);
 }
 
-Program find(const QString& wanted) {
-  if (wanted != QLatin1String("firefox")) {
-    const QString path = pathOf(wanted);
-    if (!path.isEmpty())
-      return {path, {}};
-    return {{}, QStringLiteral("There is no browser '%1'. Give the path of Firefox's program.").arg(wanted)};
-  }
-  const QString fromEnvironment = QString::fromLocal8Bit(qgetenv("CORVEX_FIREFOX"));
-  if (!fromEnvironment.isEmpty()) {
-    const QString path = pathOf(fromEnvironment);
-    if (!path.isEmpty())
-      return {path, {}};
-    return {{},
-            QStringLiteral("CORVEX_FIREFOX is set to '%1', which is no program. Set it to the path of Firefox's "
-                           "program, or unset it.")
-                .arg(fromEnvironment)};
-  }
-  for (const char* name : programNames) {
-    const QString path = pathOf(QString::fromLatin1(name));
-    if (!path.isEmpty())
-      return {path, {}};
-  }
-  return {{},
-          QStringLiteral("There is no Firefox on this machine. Install it (on Debian: apt-get install firefox-esr), or "
-                         "set CORVEX_FIREFOX to the path of its program.")};
-}
+BrowserProgram::Program find(const QString& wanted) { return BrowserProgram::find(family(), wanted); }
 
 QStringList arguments(const QString& directory, const SessionOptions& options) {
   QStringList list{QStringLiteral("--remote-debugging-port"), QStringLiteral("0"), QStringLiteral("--profile"),
                    profile(directory), QStringLiteral("--no-remote")};
-  if (!options.headed)
+  if (!options.headed) {
     list.append(QStringLiteral("--headless"));
+  }
   return list + options.extraArguments + QStringList{QStringLiteral("about:blank")};
 }
 
 Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline) {
   Instance instance;
-  const Program program = find(options.browser);
+  const BrowserProgram::Program program = find(options.browser);
   instance.error = program.error;
-  if (program.path.isEmpty())
+  if (program.path.isEmpty()) {
     return instance;
+  }
   instance.directory = std::make_unique<TemporaryDirectory>();
   const QString directory = instance.directory->path();
-  QFile output(outputFile(directory));
+  QFile output(BrowserProgram::outputFile(directory));
   if (!prepare(directory) || !output.open(QIODevice::WriteOnly)) {
-    instance.error = QStringLiteral(
-                         "No room for the browser's profile in '%1'. Make room there, or set TMPDIR to another "
-                         "directory.")
-                         .arg(QDir::tempPath());
+    instance.error = BrowserProgram::noRoom();
     return instance;
   }
   ChildCommand command;
   command.program = program.path;
   command.arguments = arguments(directory, options);
   command.environment = environment(directory);
-  command.markName = QString::fromLatin1(markName);
+  command.markName = BrowserProgram::markName();
   command.outputFile = output.fileName();
   ChildProcess::Start start = ChildProcess::start(command);
   instance.process = std::move(start.process);
   instance.error = start.error;
-  if (!instance.process)
+  if (!instance.process) {
     return instance;
+  }
   instance.address = waitForAddress(*instance.process, directory, deadline);
   if (instance.address.isEmpty()) {
-    instance.error =
-        deadline.hasExpired()
-            ? QStringLiteral(
-                  "The browser started but took no connection in time. Try again, or allow "
-                  "more time.")
-            : QStringLiteral("The browser ended before it was ready. Its last words: %1").arg(lastWords(directory));
+    instance.error = deadline.hasExpired()
+                         ? QStringLiteral(
+                               "The browser started but took no connection in time. Try again, or allow "
+                               "more time.")
+                         : QStringLiteral("The browser ended before it was ready. Its last words: %1")
+                               .arg(BrowserProgram::lastWords(directory));
   }
   return instance;
-}
-
-QString lastWords(const QString& directory) {
-  QFile file(outputFile(directory));
-  if (!file.open(QIODevice::ReadOnly))
-    return {};
-  constexpr qint64 tail = 2000;
-  file.seek(std::max<qint64>(0, file.size() - tail));
-  return QString::fromLocal8Bit(file.readAll()).simplified().right(300);
 }
 
 }  // namespace Corvex::Webhook::Firefox

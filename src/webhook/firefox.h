@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <memory>
 
+#include "webhook/browserprogram.h"
 #include "webhook/browsersession.h"
 #include "webhook/childprocess.h"
 #include "webhook/temporarydirectory.h"
@@ -15,14 +16,9 @@ namespace Corvex::Webhook::Firefox {
 /// Whether `browser`, as it was asked for, is Firefox: by its name, or by the name of the program at that path.
 bool isMeant(const QString& browser);
 
-struct Program {
-  QString path;
-  QString error;  ///< Why there is none, and what to install or set.
-};
-
 /// `wanted` is a path or a program's name; "firefox" takes what CORVEX_FIREFOX names, or the first one that is
 /// installed.
-Program find(const QString& wanted);
+BrowserProgram::Program find(const QString& wanted);
 
 /// The command line for a profile in `directory`.
 QStringList arguments(const QString& directory, const SessionOptions& options);
@@ -37,8 +33,5 @@ struct Instance {
 
 /// Waits until the browser takes connections, until `deadline` at the most.
 Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline);
-
-/// The end of what the browser wrote to its output, in one line.
-QString lastWords(const QString& directory);
 
 }  // namespace Corvex::Webhook::Firefox

@@ -10,8 +10,9 @@ namespace Corvex::Webhook {
 MessageQueue::Taken MessageQueue::put(const PageMessage& message) {
   const qint64 bytes = qint64(message.text().size()) * qint64(sizeof(QChar));
   const std::lock_guard<std::mutex> lock(m_mutex);
-  if (m_bytes + bytes > m_limit)
+  if (m_bytes + bytes > m_limit) {
     return Taken::No;
+  }
   const bool first = m_messages.empty();
   m_bytes += bytes;
   m_messages.push_back(message);

@@ -43,14 +43,16 @@ PageCall::PageCall(Channel* channel, const QString& session, int timeoutMs)
       m_deadline(m_milliseconds, Qt::PreciseTimer) {}
 
 Reply PageCall::askIn(const QString& session, const Command& command) {
-  if (!m_channel)
+  if (!m_channel) {
     return {Reply::Lost, {}, QStringLiteral("the connection was closed")};
+  }
   return m_channel->call(session, command, m_deadline);
 }
 
 void PageCall::post(const Command& command) {
-  if (m_channel)
+  if (m_channel) {
     m_channel->start(m_session, command);
+  }
 }
 
 QString PageCall::errorOf(const Reply& reply) const {
@@ -68,8 +70,9 @@ QString PageCall::errorOf(const Reply& reply) const {
       break;
   }
   for (const RefusalRow& row : refusals) {
-    if (reply.error.startsWith(QLatin1String(row.browsersWords)))
+    if (reply.error.startsWith(QLatin1String(row.browsersWords))) {
       return row.sentence(*this);
+    }
   }
   return PageErrors::refused(reply.error);
 }

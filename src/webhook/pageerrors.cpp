@@ -41,8 +41,9 @@ const LoadHint loadHints[] = {
 
 QString hintFor(const QString& errorCode) {
   for (const LoadHint& row : loadHints) {
-    if (errorCode.startsWith(QLatin1String(row.code)))
+    if (errorCode.startsWith(QLatin1String(row.code))) {
       return QLatin1Char(' ') + QString::fromLatin1(row.hint);
+    }
   }
   return {};
 }

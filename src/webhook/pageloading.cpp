@@ -23,19 +23,22 @@ void PageLoading::noteLoaded(const QString& document) {
 }
 
 void PageLoading::fail(const QString& error) {
-  if (isComplete())
+  if (isComplete()) {
     return;
+  }
   m_error = error;
   complete();
 }
 
 void PageLoading::check() {
-  if (!m_expected)
+  if (!m_expected) {
     return;
+  }
   const bool there = m_expected->isEmpty() ? m_sameDocument
                                            : m_documents.contains(*m_expected) && m_loaded.contains(m_documents.last());
-  if (there)
+  if (there) {
     complete();
+  }
 }
 
 }  // namespace Corvex::Webhook

@@ -12,8 +12,9 @@ namespace {
 
 /// The code unit that `count` hexadecimal digits at `from` stand for, or -1.
 int hexadecimal(const QString& text, int from, int count) {
-  if (from + count > text.size())
+  if (from + count > text.size()) {
     return -1;
+  }
   int result = 0;
   for (int i = from; i < from + count; ++i) {
     const ushort unit = text[i].unicode();
@@ -53,8 +54,9 @@ QString unescaped(const QString& text) {
     const int digits = wide ? 4 : 2;
     const int unit = text[i] == u'%' ? hexadecimal(text, i + (wide ? 2 : 1), digits) : -1;
     result.append(unit < 0 ? text[i] : QChar(ushort(unit)));
-    if (unit >= 0)
+    if (unit >= 0) {
       i += digits + (wide ? 1 : 0);
+    }
   }
   return result;
 }
@@ -113,12 +115,14 @@ bool MessageReader::readStampAndItems(int from) {
   const QString rest = m_message.m_text.mid(from);
   const QString stamp = rest.section(u'&', 0, 0);
   // A page that replaced `Date` writes any word here; only an item says that this is not the head it looked like.
-  if (stamp.contains(u'='))
+  if (stamp.contains(u'=')) {
     return false;
+  }
   m_message.m_stamp = number(stamp);
   const QStringList parts = rest.mid(stamp.size()).split(u'&', Qt::SkipEmptyParts);
-  for (const QString& part : parts)
+  for (const QString& part : parts) {
     m_message.m_items.append(itemFrom(part));
+  }
   return true;
 }
 
@@ -131,19 +135,22 @@ bool MessageReader::readSeparatedStampAndItems(int from) {
 bool MessageReader::readHighlight(int from) {
   const QString begin = QStringLiteral("&info=");
   const QString rest = m_message.m_text.mid(from);
-  if (!rest.startsWith(begin))
+  if (!rest.startsWith(begin)) {
     return false;
+  }
   const int end = rest.lastIndexOf(u'&');
-  if (end > 0)
+  if (end > 0) {
     m_message.m_stamp = number(rest.mid(end + 1));
+  }
   m_message.m_items.append(itemFrom(rest.mid(1, end > 0 ? end - 1 : -1)));
   return true;
 }
 
 bool MessageReader::readDebugLine(int from) {
   const bool inHead = m_head.size() > from;
-  if (m_head.size() < from || (inHead && m_head[from] != u'='))
+  if (m_head.size() < from || (inHead && m_head[from] != u'=')) {
     return false;
+  }
   const QString line = inHead ? m_head.mid(from + 1) : m_body;
   const bool percentEncoded = inHead && m_headIsPercentEncoded;
   m_message.m_items.append(
@@ -160,14 +167,16 @@ PageMessage PageMessage::fromText(const QString& text) { return MessageReader(te
 QVector<PageMessage> PageMessage::fromSessionQueue(const QString& json, QString* error) {
   QJsonParseError problem;
   const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8(), &problem);
-  if (error)
+  if (error) {
     error->clear();
+  }
   if (!document.isArray()) {
     const QString reason =
         problem.error == QJsonParseError::NoError ? QStringLiteral("it is no array") : problem.errorString();
-    if (error)
+    if (error) {
       *error =
           QStringLiteral("The page's session queue cannot be read: %1. Clear the page's session storage.").arg(reason);
+    }
     return {};
   }
   QVector<PageMessage> result;

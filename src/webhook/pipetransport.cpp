@@ -15,8 +15,9 @@ constexpr int readSize = 64 * 1024;
 
 bool makePair(FileDescriptor* own, FileDescriptor* other) {
   int ends[2];
-  if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0)
+  if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) {
     return false;
+  }
   *own = FileDescriptor(ends[0]);
   *other = FileDescriptor(ends[1]);
   return fcntl(own->get(), F_SETFL, O_NONBLOCK) == 0;
@@ -27,8 +28,9 @@ bool mayTryAgain(int error) { return error == EAGAIN || error == EWOULDBLOCK; }
 QString reasonOf(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
 
 void disposeInsideItsSignal(std::unique_ptr<QSocketNotifier> notifier) {
-  if (!notifier)
+  if (!notifier) {
     return;
+  }
   notifier->setEnabled(false);
   notifier->disconnect();
   notifier.release()->deleteLater();
@@ -39,8 +41,9 @@ void disposeInsideItsSignal(std::unique_ptr<QSocketNotifier> notifier) {
 std::unique_ptr<PipeTransport> PipeTransport::create(ChildEnds* childEnds) {
   FileDescriptor writeEnd;
   FileDescriptor readEnd;
-  if (!makePair(&writeEnd, &childEnds->input) || !makePair(&readEnd, &childEnds->output))
+  if (!makePair(&writeEnd, &childEnds->input) || !makePair(&readEnd, &childEnds->output)) {
     return nullptr;
+  }
   return std::unique_ptr<PipeTransport>(new PipeTransport(std::move(writeEnd), std::move(readEnd)));
 }
 
@@ -58,8 +61,9 @@ PipeTransport::PipeTransport(FileDescriptor writeEnd, FileDescriptor readEnd)
 PipeTransport::~PipeTransport() { close(); }
 
 void PipeTransport::send(const QByteArray& message) {
-  if (!m_writeEnd.isValid())
+  if (!m_writeEnd.isValid()) {
     return;
+  }
   m_outgoing.append(message).append(messageEnd);
   writePending();
 }
@@ -76,10 +80,12 @@ void PipeTransport::writePending() {
   while (m_outgoingStart < m_outgoing.size()) {
     const ssize_t written = ::send(m_writeEnd.get(), m_outgoing.constData() + m_outgoingStart,
                                    size_t(m_outgoing.size() - m_outgoingStart), MSG_NOSIGNAL);
-    if (written < 0 && errno == EINTR)
+    if (written < 0 && errno == EINTR) {
       continue;
-    if (written < 0 && mayTryAgain(errno))
+    }
+    if (written < 0 && mayTryAgain(errno)) {
       return m_writable->setEnabled(true);
+    }
     if (written < 0) {
       // The reading side reports the end, behind the messages that came before it.
       m_outgoingStart = m_outgoing.size();
@@ -95,16 +101,21 @@ void PipeTransport::writePending() {
 void PipeTransport::readAvailable() {
   while (true) {
     const ssize_t count = ::read(m_readEnd.get(), m_readBuffer.data(), size_t(m_readBuffer.size()));
-    if (count < 0 && errno == EINTR)
+    if (count < 0 && errno == EINTR) {
       continue;
-    if (count < 0 && !mayTryAgain(errno))
+    }
+    if (count < 0 && !mayTryAgain(errno)) {
       lose(reasonOf(errno));
-    if (count == 0)
+    }
+    if (count == 0) {
       lose(QStringLiteral("its debugging pipe was closed"));
-    if (count > 0)
+    }
+    if (count > 0) {
       m_incoming.append(m_readBuffer.constData(), int(count));
-    if (count < m_readBuffer.size())
+    }
+    if (count < m_readBuffer.size()) {
       break;
+    }
   }
   splitMessages();
   deliver();

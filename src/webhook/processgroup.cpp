@@ -32,12 +32,14 @@ bool carriesMark(const std::string& process, const std::string& mark) {
 std::vector<pid_t> processesWithMark(const std::string& mark) {
   std::vector<pid_t> found;
   DIR* directory = opendir("/proc");
-  if (!directory)
+  if (!directory) {
     return found;
+  }
   while (const dirent* entry = readdir(directory)) {
     const pid_t process = std::atoi(entry->d_name);
-    if (process > 0 && process != getpid() && carriesMark(entry->d_name, mark))
+    if (process > 0 && process != getpid() && carriesMark(entry->d_name, mark)) {
       found.push_back(process);
+    }
   }
   closedir(directory);
   return found;
@@ -48,8 +50,9 @@ void waitUntilGone(pid_t process, Clock::time_point end) {
     waitpid(process, nullptr, WNOHANG);
     return kill(process, 0) != 0 && errno == ESRCH;
   };
-  while (!isGone() && Clock::now() < end)
+  while (!isGone() && Clock::now() < end) {
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
 }
 
 }  // namespace
@@ -60,11 +63,13 @@ void killProcessGroup(pid_t group, const std::string& mark) {
   const Clock::time_point end = Clock::now() + std::chrono::seconds(3);
   const std::vector<pid_t> strays = processesWithMark(mark);
   kill(-group, SIGKILL);
-  for (pid_t process : strays)
+  for (pid_t process : strays) {
     kill(process, SIGKILL);
+  }
   waitUntilGone(-group, end);
-  for (pid_t process : strays)
+  for (pid_t process : strays) {
     waitUntilGone(process, end);
+  }
   for (pid_t process : processesWithMark(mark)) {
     kill(process, SIGKILL);
     waitUntilGone(process, end);

@@ -17,8 +17,9 @@ TemporaryDirectory::TemporaryDirectory() {
 QString TemporaryDirectory::filePath(const QString& name) const { return m_path + QLatin1Char('/') + name; }
 
 void TemporaryDirectory::remove() {
-  if (m_path.isEmpty())
+  if (m_path.isEmpty()) {
     return;
+  }
   Cleanup::removeDirectory(QFile::encodeName(m_path).toStdString());
   m_path.clear();
 }

@@ -6,8 +6,9 @@
 namespace Corvex::Webhook {
 
 void Transport::noteClosed(const QString& reason) {
-  if (m_closeNoted)
+  if (m_closeNoted) {
     return;
+  }
   m_closeNoted = true;
   m_closeReason = reason;
 }
@@ -18,12 +19,14 @@ void Transport::deliver() {
     const QByteArray message = std::move(m_inbox.front());
     m_inbox.pop_front();
     // The receiver may wait for one of the messages that stand behind this one.
-    if (!m_inbox.empty() || m_closeNoted)
+    if (!m_inbox.empty() || m_closeNoted) {
       QMetaObject::invokeMethod(this, &Transport::deliver, Qt::QueuedConnection);
+    }
     Q_EMIT messageReceived(message);
   }
-  if (self && m_closeNoted && !m_closeReason.isNull())
+  if (self && m_closeNoted && !m_closeReason.isNull()) {
     Q_EMIT closed(std::exchange(m_closeReason, QString()));
+  }
 }
 
 void Transport::discardInbox() {

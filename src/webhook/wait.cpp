@@ -29,8 +29,9 @@ public:
 
   ~Waiter() {
     m_pending.m_waiting = m_outerLoop;
-    if (m_outerLoop && m_pending.isComplete())
+    if (m_outerLoop && m_pending.isComplete()) {
       m_outerLoop->quit();
+    }
     innermostDeadline = m_outerDeadline;
   }
 
@@ -39,11 +40,13 @@ public:
     timer.setSingleShot(true);
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, &m_loop, &QEventLoop::quit);
-    if (!m_deadline.isForever())
+    if (!m_deadline.isForever()) {
       timer.start(int(std::clamp<qint64>(m_deadline.remainingTime(), 0, INT_MAX)));
+    }
     m_loop.exec();
-    if (m_pending.isComplete())
+    if (m_pending.isComplete()) {
       return WaitResult::Complete;
+    }
     return timer.isActive() ? WaitResult::Interrupted : WaitResult::TimeOver;
   }
 
@@ -57,19 +60,22 @@ private:
 
 void Pending::complete() {
   m_complete = true;
-  if (m_waiting)
+  if (m_waiting) {
     m_waiting->quit();
+  }
 }
 
 WaitResult waitFor(Pending& pending, const QDeadlineTimer& deadline) {
-  if (pending.isComplete())
+  if (pending.isComplete()) {
     return WaitResult::Complete;
+  }
   return Waiter(pending, deadline).run();
 }
 
 int grantedTime(int timeoutMs) {
-  if (!innermostDeadline || innermostDeadline->isForever())
+  if (!innermostDeadline || innermostDeadline->isForever()) {
     return timeoutMs;
+  }
   return int(std::min<qint64>(timeoutMs, innermostDeadline->remainingTime()));
 }
 

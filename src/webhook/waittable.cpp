@@ -13,22 +13,25 @@ quint64 WaitTable::open(const QDeadlineTimer& deadline) {
 
 bool WaitTable::answer(quint64 id, const QByteArray& reply) {
   const std::lock_guard<std::mutex> lock(m_mutex);
-  if (m_open.erase(id) == 0)
+  if (m_open.erase(id) == 0) {
     return false;
+  }
   m_ended.push_back({id, true, reply});
   return true;
 }
 
 void WaitTable::end(quint64 id) {
   const std::lock_guard<std::mutex> lock(m_mutex);
-  if (m_open.erase(id) != 0)
+  if (m_open.erase(id) != 0) {
     m_ended.push_back({id, false, {}});
+  }
 }
 
 void WaitTable::endAll() {
   const std::lock_guard<std::mutex> lock(m_mutex);
-  for (const auto& wait : m_open)
+  for (const auto& wait : m_open) {
     m_ended.push_back({wait.first, false, {}});
+  }
   m_open.clear();
 }
 
@@ -48,8 +51,9 @@ std::vector<WaitTable::Ended> WaitTable::takeEnded() {
 QDeadlineTimer WaitTable::nextDeadline() const {
   const std::lock_guard<std::mutex> lock(m_mutex);
   QDeadlineTimer next(QDeadlineTimer::Forever);
-  for (const auto& wait : m_open)
+  for (const auto& wait : m_open) {
     next = std::min(next, wait.second);
+  }
   return next;
 }
 

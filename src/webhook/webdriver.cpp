@@ -24,8 +24,9 @@ struct HttpAnswer {
 
 QString failureOf(const QNetworkReply& reply, const QJsonObject& value) {
   const QString message = value.value(QLatin1String("message")).toString().simplified().left(300);
-  if (!message.isEmpty())
+  if (!message.isEmpty()) {
     return message;
+  }
   const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
   return status ? QStringLiteral("it answered with HTTP status %1").arg(status) : reply.errorString();
 }
@@ -34,12 +35,14 @@ HttpAnswer finish(QNetworkReply* reply, const QDeadlineTimer& deadline) {
   const std::unique_ptr<QNetworkReply> owned(reply);
   const auto finished = std::make_shared<Pending>();
   QObject::connect(reply, &QNetworkReply::finished, [finished] { finished->complete(); });
-  if (waitFor(*finished, deadline) != WaitResult::Complete)
+  if (waitFor(*finished, deadline) != WaitResult::Complete) {
     return {{}, QStringLiteral("there was no answer in time")};
+  }
   const QJsonObject body = QJsonDocument::fromJson(reply->readAll()).object();
   HttpAnswer answer{body.value(QLatin1String("value")).toObject(), {}};
-  if (reply->error() != QNetworkReply::NoError)
+  if (reply->error() != QNetworkReply::NoError) {
     answer.error = failureOf(*reply, answer.value);
+  }
   return answer;
 }
 
@@ -86,23 +89,27 @@ WebDriverSession::Start WebDriverSession::create(const QString& url, const QJson
   const QUrl target(session->m_url.toString() + QStringLiteral("/session"));
   const QByteArray body = QJsonDocument(QJsonObject{{wrapped, capabilities}}).toJson(QJsonDocument::Compact);
   const HttpAnswer answer = finish(session->m_network->post(requestTo(target), body), deadline);
-  if (!answer.error.isEmpty())
+  if (!answer.error.isEmpty()) {
     return {nullptr, notCreated(url, answer.error)};
+  }
   const QString id = answer.value.value(QLatin1String("sessionId")).toString();
-  if (id.isEmpty())
+  if (id.isEmpty()) {
     return {nullptr, notCreated(url, QStringLiteral("its answer names no session"))};
+  }
   session->m_url = QUrl(target.toString() + QLatin1Char('/') + id);
   session->m_capabilities = answer.value.value(wrapped).toObject();
   session->m_webSocketUrl = QUrl(session->m_capabilities.value(QLatin1String("webSocketUrl")).toString());
-  if (!session->m_webSocketUrl.host().isEmpty())
+  if (!session->m_webSocketUrl.host().isEmpty()) {
     return {std::move(session), {}};
+  }
   session->end(deadline);
   return {nullptr, noWebSocket(url)};
 }
 
 void WebDriverSession::end(const QDeadlineTimer& deadline) {
-  if (m_ended || !QCoreApplication::instance())
+  if (m_ended || !QCoreApplication::instance()) {
     return;
+  }
   m_ended = true;
   finish(m_network->deleteResource(requestTo(m_url)), deadline);
 }
@@ -111,8 +118,9 @@ WantedCapabilities wantedCapabilities(const QString& text, const QString& browse
   QByteArray json = text.isEmpty() ? QByteArray("{}") : text.toUtf8();
   if (text.startsWith(QLatin1Char('@'))) {
     QFile file(text.mid(1));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
       return {{}, badCapabilities(QStringLiteral("the file '%1' cannot be read").arg(file.fileName()))};
+    }
     json = file.readAll();
   }
   QJsonParseError error;
@@ -122,17 +130,20 @@ WantedCapabilities wantedCapabilities(const QString& text, const QString& browse
     return {{}, badCapabilities(why)};
   }
   QJsonObject given = document.object();
-  if (given.value(wrapped).isObject())
+  if (given.value(wrapped).isObject()) {
     given = given.value(wrapped).toObject();
+  }
   const bool hasForm = given.contains(alwaysMatch) || given.contains(firstMatch);
   QJsonObject result = hasForm ? given : QJsonObject{{alwaysMatch, given}};
   QJsonObject always = result.value(alwaysMatch).toObject();
   const QJsonObject needed = Bidi::neededCapabilities();
-  for (auto entry = needed.begin(); entry != needed.end(); ++entry)
+  for (auto entry = needed.begin(); entry != needed.end(); ++entry) {
     always.insert(entry.key(), entry.value());
+  }
   always.insert(QStringLiteral("webSocketUrl"), true);
-  if (!browser.isEmpty() && !result.contains(firstMatch) && !always.contains(QLatin1String("browserName")))
+  if (!browser.isEmpty() && !result.contains(firstMatch) && !always.contains(QLatin1String("browserName"))) {
     always.insert(QStringLiteral("browserName"), browser);
+  }
   result.insert(alwaysMatch, always);
   return {result, {}};
 }

@@ -32,16 +32,19 @@ QString WebSocketTransport::open(const QUrl& url, const QDeadlineTimer& deadline
   const QPointer<WebSocketTransport> self(this);
   m_socket->open(url);
   const WaitResult result = waitFor(*settled, deadline);
-  if (!self || result == WaitResult::Interrupted)
+  if (!self || result == WaitResult::Interrupted) {
     return QStringLiteral("the program is ending");
-  if (m_socket->isValid())
+  }
+  if (m_socket->isValid()) {
     return {};
+  }
   return result == WaitResult::TimeOver ? QStringLiteral("there was no answer in time") : reasonOfEnd();
 }
 
 void WebSocketTransport::send(const QByteArray& message) {
-  if (m_socket->isValid())
+  if (m_socket->isValid()) {
     m_socket->sendTextMessage(QString::fromUtf8(message));
+  }
 }
 
 void WebSocketTransport::close() {
@@ -51,8 +54,9 @@ void WebSocketTransport::close() {
 }
 
 QString WebSocketTransport::reasonOfEnd() const {
-  if (m_socket->error() == QAbstractSocket::UnknownSocketError)
+  if (m_socket->error() == QAbstractSocket::UnknownSocketError) {
     return QStringLiteral("the connection was closed");
+  }
   return m_socket->errorString();
 }
 

@@ -27,8 +27,9 @@ const Layer layers[] = {
 
 const Layer* layerOf(const QString& path) {
   for (const Layer& layer : layers) {
-    if (path.startsWith(QLatin1String(layer.folder) + QLatin1Char('/')))
+    if (path.startsWith(QLatin1String(layer.folder) + QLatin1Char('/'))) {
       return &layer;
+    }
   }
   return nullptr;
 }
@@ -38,21 +39,24 @@ const Layer* layerOf(const QString& path) {
 TEST(Architecture, EverySourceFileLiesInAKnownLayer) {
   const QStringList files = filesBelow(QStringLiteral("src"), cppFiles);
   ASSERT_FALSE(files.isEmpty());
-  for (const QString& file : files)
+  for (const QString& file : files) {
     EXPECT_TRUE(layerOf(file.mid(4))) << file.toStdString();
+  }
 }
 
 TEST(Architecture, IncludesPointDownwards) {
   for (const QString& file : filesBelow(QStringLiteral("src"), cppFiles)) {
     const Layer* const own = layerOf(file.mid(4));
-    if (!own)
+    if (!own) {
       continue;
+    }
     const QStringList allowed = QString::fromLatin1(own->mayUse).split(QLatin1Char(' '));
     for (const QString& included : allMatches(textOf(file), "^\\s*#\\s*include\\s*[\"<]([^\">]+)[\">]")) {
       EXPECT_FALSE(included.contains(QStringLiteral("../"))) << file.toStdString() << " includes by a relative path";
       const Layer* const target = layerOf(included);
-      if (!target || target == own)
+      if (!target || target == own) {
         continue;
+      }
       EXPECT_TRUE(allowed.contains(QLatin1String(target->folder)))
           << file.toStdString() << " must not include " << included.toStdString();
     }
@@ -63,8 +67,9 @@ TEST(Architecture, OnlyTheConnectionKnowsSocketsAndProcesses) {
   const char* const headers =
       "^\\s*#\\s*include\\s*<((?:Qt(?:Network|WebSockets)/|QTcp|QNetwork|QWebSocket|QLocalS|QProcess>)[^>]*)";
   for (const QString& file : filesBelow(QStringLiteral("src"), cppFiles)) {
-    if (file.startsWith(QStringLiteral("src/webhook/")))
+    if (file.startsWith(QStringLiteral("src/webhook/"))) {
       continue;
+    }
     EXPECT_EQ(allMatches(textOf(file), headers), QStringList()) << file.toStdString();
   }
 }
@@ -76,8 +81,9 @@ TEST(Architecture, OnlyTwoPlacesRunAnEventLoopOrBlockOnTheBrowser) {
       "\\b(QEventLoop|processEvents|QWaitCondition|waitFor(?:ReadyRead|BytesWritten|Connected|Disconnected|"
       "Started|Finished)|(?:\\.|->|::)exec)\\b";
   for (const QString& file : filesBelow(QStringLiteral("src"), cppFiles)) {
-    if (allowed.contains(file))
+    if (allowed.contains(file)) {
       continue;
+    }
     EXPECT_EQ(allMatches(withoutComments(textOf(file)), waiting), QStringList()) << file.toStdString();
   }
 }
@@ -87,8 +93,9 @@ TEST(Architecture, EverySourceIsBuilt) {
                               filesBelow(QStringLiteral("tests"), {QStringLiteral("*.cpp")}) +
                               filesBelow(QStringLiteral("bench"), {QStringLiteral("*.cpp")});
   for (const QString& source : sources) {
-    if (source.startsWith(QStringLiteral("tests/support/")))
+    if (source.startsWith(QStringLiteral("tests/support/"))) {
       continue;
+    }
     bool listed = false;
     for (QString folder = source; !listed && folder.contains(QLatin1Char('/'));) {
       folder = folder.left(folder.lastIndexOf(QLatin1Char('/')));

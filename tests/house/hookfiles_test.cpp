@@ -49,8 +49,9 @@ TEST(HookFiles, EveryListedEntryExistsOnce) {
 TEST(HookFiles, FragmentsStandInTheOrderOfTheirNumbers) {
   QStringList numbered;
   for (const QString& entry : listedEntries()) {
-    if (entry.at(0).isDigit())
+    if (entry.at(0).isDigit()) {
       numbered.append(entry);
+    }
   }
   QStringList sorted = numbered;
   sorted.sort();

@@ -17,8 +17,9 @@ inline QString root() { return QStringLiteral(CORVEX_SOURCE_DIR) + QLatin1Char('
 inline QStringList filesBelow(const QString& folder, const QStringList& nameFilters) {
   QStringList paths;
   QDirIterator files(root() + folder, nameFilters, QDir::Files, QDirIterator::Subdirectories);
-  while (files.hasNext())
+  while (files.hasNext()) {
     paths.append(QDir(root()).relativeFilePath(files.next()));
+  }
   std::sort(paths.begin(), paths.end());
   return paths;
 }
@@ -36,8 +37,9 @@ inline QString withoutComments(QString text) {
 inline QStringList allMatches(const QString& text, const char* pattern) {
   const QRegularExpression expression(QLatin1String(pattern), QRegularExpression::MultilineOption);
   QStringList found;
-  for (auto match = expression.globalMatch(text); match.hasNext();)
+  for (auto match = expression.globalMatch(text); match.hasNext();) {
     found.append(match.next().captured(1));
+  }
   return found;
 }
 

@@ -26,8 +26,9 @@ ChromeDriver::ChromeDriver() : m_directory(std::make_unique<TemporaryDirectory>(
   Pending settled;
   const auto look = [&] {
     m_url = announcedUrl();
-    if (!m_url.isEmpty())
+    if (!m_url.isEmpty()) {
       settled.complete();
+    }
   };
   QFileSystemWatcher watcher({output.fileName()});
   QObject::connect(&watcher, &QFileSystemWatcher::fileChanged, &watcher, look);
@@ -40,8 +41,9 @@ ChromeDriver::~ChromeDriver() = default;
 QString ChromeDriver::announcedUrl() const {
   static const QRegularExpression line(QStringLiteral("started successfully on port (\\d+)"));
   QFile file(m_directory->filePath(QStringLiteral("output.log")));
-  if (!file.open(QIODevice::ReadOnly))
+  if (!file.open(QIODevice::ReadOnly)) {
     return {};
+  }
   const QString port = line.match(QString::fromLocal8Bit(file.readAll())).captured(1);
   return port.isEmpty() ? QString() : QStringLiteral("http://127.0.0.1:") + port;
 }

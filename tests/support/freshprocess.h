@@ -13,8 +13,9 @@ namespace TestSupport {
 /// that begins with "child " is the sentence of a child that failed.
 inline QString inFreshProcess(const std::function<QString()>& work) {
   int ends[2];
-  if (pipe(ends) != 0)
+  if (pipe(ends) != 0) {
     return QStringLiteral("child without a pipe");
+  }
   const pid_t child = fork();
   if (child == 0) {
     const QByteArray text = work().toUtf8();
@@ -24,8 +25,9 @@ inline QString inFreshProcess(const std::function<QString()>& work) {
   close(ends[1]);
   QByteArray text;
   char buffer[4096];
-  for (ssize_t got; (got = read(ends[0], buffer, sizeof buffer)) > 0;)
+  for (ssize_t got; (got = read(ends[0], buffer, sizeof buffer)) > 0;) {
     text.append(buffer, static_cast<int>(got));
+  }
   close(ends[0]);
   int status = 0;
   waitpid(child, &status, 0);

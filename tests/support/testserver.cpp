@@ -29,8 +29,9 @@ int bodyLength(const QByteArray& head) {
 QByteArray responseText(const ServerPage& page) {
   QByteArray text = "HTTP/1.1 " + QByteArray::number(page.status) + " Status\r\n";
   text += "Content-Type: " + page.type + "\r\nContent-Length: " + QByteArray::number(page.body.size()) + "\r\n";
-  for (const auto& header : page.headers)
+  for (const auto& header : page.headers) {
     text += header.first + ": " + header.second + "\r\n";
+  }
   return text + "Connection: close\r\n\r\n" + page.body;
 }
 
@@ -38,8 +39,9 @@ QByteArray responseText(const ServerPage& page) {
 
 TestServer::TestServer() {
   QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
-    while (QTcpSocket* socket = m_server.nextPendingConnection())
+    while (QTcpSocket* socket = m_server.nextPendingConnection()) {
       serve(socket);
+    }
   });
   m_server.listen(QHostAddress::LocalHost);
 }
@@ -53,8 +55,9 @@ void TestServer::serve(QTcpSocket* socket) {
   QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
     const QByteArray seen = socket->peek(64 * 1024);
     const int headEnd = seen.indexOf("\r\n\r\n");
-    if (headEnd >= 0 && seen.size() >= headEnd + 4 + bodyLength(seen.left(headEnd)))
+    if (headEnd >= 0 && seen.size() >= headEnd + 4 + bodyLength(seen.left(headEnd))) {
       answer(socket, socket->readAll());
+    }
   });
 }
 
@@ -62,18 +65,21 @@ void TestServer::answer(QTcpSocket* socket, const QByteArray& request) {
   const QString target = QString::fromLatin1(request.split(' ').value(1));
   m_requests.append(target);
   const ServerPage page = pageFor(QUrl::fromPercentEncoding(target.section(QLatin1Char('?'), 0, 0).toLatin1()));
-  if (page.silent)
+  if (page.silent) {
     return;
+  }
   socket->write(responseText(page));
   socket->disconnectFromHost();
 }
 
 ServerPage TestServer::pageFor(const QString& path) const {
-  if (m_pages.contains(path))
+  if (m_pages.contains(path)) {
     return m_pages.value(path);
+  }
   QFile file(m_folder + path);
-  if (!m_folder.isEmpty() && !path.contains(QStringLiteral("..")) && file.open(QIODevice::ReadOnly))
+  if (!m_folder.isEmpty() && !path.contains(QStringLiteral("..")) && file.open(QIODevice::ReadOnly)) {
     return {file.readAll(), typeOf(path)};
+  }
   return {"<title>Not found</title>", "text/html", {}, 404};
 }
 

@@ -60,8 +60,9 @@ TEST(Bidi, ARefusalKeepsItsCodeUnlessThatSaysNothing) {
       {R"({"type":"error","id":1,"error":"unknown error","message":"Error: NS_BINDING_ABORTED"})",
        "NS_BINDING_ABORTED"},
   };
-  for (const Row& row : rows)
+  for (const Row& row : rows) {
     EXPECT_EQ(Bidi::dialect().read(row.refusal).error, q(row.error));
+  }
 }
 
 TEST(Bidi, EventsBelongToTheirPageAndThoseOfItsLifeToTheBrowser) {

@@ -14,8 +14,9 @@
 class BrowserTest : public testing::Test {
 public:
   static void SetUpTestSuite() {
-    if (session)
+    if (session) {
       return;
+    }
     testing::AddGlobalTestEnvironment(new Closing);
     server = std::make_unique<TestSupport::TestServer>();
     Corvex::Webhook::BrowserSession::Start start = Corvex::Webhook::BrowserSession::start(TestSupport::testBrowser());

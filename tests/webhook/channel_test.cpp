@@ -67,8 +67,9 @@ protected:
   }
 
   static QByteArray event(const QString& session, const char* method) {
-    if (session.isEmpty())
+    if (session.isEmpty()) {
       return QByteArray(GetParam().eventOfBrowser).replace("%2", method);
+    }
     return filled(GetParam().event, session, QString::fromLatin1(method));
   }
 
@@ -122,8 +123,9 @@ TEST_P(ChannelTest, UnknownNumbersAndUnreadableTextAreDropped) {
     for (const char* text : {"", "{", "[1]", "nonsense", "{}", R"({"id":"1"})", R"({"id":77,"result":{}})",
                              R"({"id":77,"error":{"message":"x"}})", R"({"method":"No.subscriber","params":3})",
                              R"({"type":"success","id":77,"result":{}})", R"({"type":"error","id":null,"error":"x"})",
-                             R"({"type":"event"})", R"({"type":"event","method":"No.subscriber","params":3})"})
+                             R"({"type":"event"})", R"({"type":"event","method":"No.subscriber","params":3})"}) {
       transport->receiveLater(text);
+    }
     transport->receiveLater(answerTo(message, "right"));
   };
   EXPECT_EQ(textOf(channel->call(sessionA, question, soon())), QStringLiteral("right"));

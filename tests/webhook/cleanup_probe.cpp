@@ -13,12 +13,14 @@ int main(int argc, char** argv) {
   const QString way = application.arguments().value(1);
   using Corvex::Webhook::BrowserSession;
   auto* const start = new BrowserSession::Start(BrowserSession::start(TestSupport::testBrowser()));
-  if (!start->session)
+  if (!start->session) {
     return 3;
+  }
   std::printf("%lld %s\n", start->session->browserProcess(), start->session->browserDirectory().toUtf8().constData());
   std::fflush(stdout);
-  if (way == QLatin1String("exit"))
+  if (way == QLatin1String("exit")) {
     std::exit(7);
+  }
   volatile bool stuck = true;
   while (stuck) {
   }

@@ -22,8 +22,9 @@ QStringList processesThatKnow(const QString& text) {
   QStringList found;
   for (const QString& process : QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs)) {
     QFile environment(QStringLiteral("/proc/%1/environ").arg(process));
-    if (environment.open(QIODevice::ReadOnly) && environment.readAll().contains(text.toUtf8()))
+    if (environment.open(QIODevice::ReadOnly) && environment.readAll().contains(text.toUtf8())) {
       found << process;
+    }
   }
   return found;
 }
@@ -43,8 +44,9 @@ TEST_P(CleanupTest, NoProcessAndNoDirectoryOutlivesTheProgram) {
   const QString directory = line.section(QLatin1Char(' '), 1);
   ASSERT_GT(browser, 1);
   EXPECT_FALSE(processesThatKnow(directory).isEmpty());
-  if (GetParam().signal)
+  if (GetParam().signal) {
     kill(pid_t(probe.processId()), GetParam().signal);
+  }
   ASSERT_TRUE(probe.waitForFinished(30000));
 
   EXPECT_EQ(probe.exitStatus(), QProcess::NormalExit);

@@ -35,8 +35,9 @@ TEST(JsText, WritesNumbersAsStringDoes) {
       {std::nan(""), "NaN"},
       {-std::numeric_limits<double>::infinity(), "-Infinity"},
   };
-  for (const Row& row : rows)
+  for (const Row& row : rows) {
     EXPECT_EQ(jsNumberText(row.number), QString::fromLatin1(row.text));
+  }
 }
 
 TEST(DevTools, TakesTheTextOfAPrimitiveFromItsAnswer) {

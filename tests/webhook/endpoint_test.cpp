@@ -112,16 +112,18 @@ TEST_F(Endpoint, TakesMessagesAsTheyStandInTheRequest) {
 }
 
 TEST_F(Endpoint, DeliversThroughTheEventLoopInTheOrderOfStamps) {
-  for (const char* text : {"logevent30&c", "logevent10&a", "debuglog=x", "logevent20&b"})
+  for (const char* text : {"logevent30&c", "logevent10&a", "debuglog=x", "logevent20&b"}) {
     ASSERT_EQ(ask(get(text)).status, 200);
+  }
   EXPECT_TRUE(texts.isEmpty());
   EXPECT_TRUE(comes(endpoint.get(), &MessageEndpoint::messageReceived));
   EXPECT_EQ(texts, (QStringList{"logevent10&a", "logevent20&b", "logevent30&c", "debuglog=x"}));
 }
 
 TEST_F(Endpoint, AReceiverMayWaitForLaterMessagesOrDeleteTheEndpoint) {
-  for (const char* text : {"logevent1", "logevent2", "logevent3"})
+  for (const char* text : {"logevent1", "logevent2", "logevent3"}) {
     ASSERT_EQ(ask(get(text)).status, 200);
+  }
   QStringList seen;
   QObject::connect(endpoint.get(), &MessageEndpoint::messageReceived, endpoint.get(), [&](const PageMessage& message) {
     seen.append(message.text());
@@ -203,8 +205,9 @@ TEST_F(Endpoint, AnswersTheBrowsersQuestionBeforeARequest) {
       {"Access-Control-Allow-Headers", "x-wrapped"},  {"Access-Control-Allow-Private-Network", "true"},
       {"Access-Control-Allow-Local-Network", "true"},
   };
-  for (const auto& header : headers)
+  for (const auto& header : headers) {
     EXPECT_EQ(reply.header(header.name), header.value) << header.name;
+  }
   EXPECT_TRUE(delivered().isEmpty());
 }
 
@@ -318,8 +321,9 @@ TEST_F(Endpoint, DropsSlowAndSilentConnectionsAndGoesOn) {
     slow.back()->send(begin);
   }
   EXPECT_EQ(ask(get("logevent1")).status, 200) << "served when the others are dropped";
-  for (const auto& client : slow)
+  for (const auto& client : slow) {
     EXPECT_EQ(client->receive().status, 0);
+  }
   EXPECT_EQ(delivered(), QStringList{"logevent1"});
   EXPECT_EQ(refused("malformed"), 3u);
 }
@@ -364,8 +368,9 @@ TEST_F(Endpoint, StandsTenThousandBadRequestsAndLosesNoMessage) {
   std::future<int> told = std::async(std::launch::async, [&] {
     int count = 0;
     RawClient client(endpoint->port());
-    while (!done && client.exchange(get("logevent" + QByteArray::number(count))).status == 200)
+    while (!done && client.exchange(get("logevent" + QByteArray::number(count))).status == 200) {
       ++count;
+    }
     return count;
   });
   int taken = 0;
@@ -373,13 +378,15 @@ TEST_F(Endpoint, StandsTenThousandBadRequestsAndLosesNoMessage) {
     RawClient client(endpoint->port());
     ASSERT_TRUE(client.isConnected()) << i;
     client.send(bad[i % bad.size()]);
-    if (i % 3 == 0)
+    if (i % 3 == 0) {
       client.finishSending();
+    }
     if (i % 15 == 0) {
       EXPECT_NE(client.receive().status, 200) << i;
     }
-    if (i % 100 == 0)
+    if (i % 100 == 0) {
       taken += delivered().size();
+    }
   }
   done = true;
   const int sent = told.get();
@@ -388,8 +395,9 @@ TEST_F(Endpoint, StandsTenThousandBadRequestsAndLosesNoMessage) {
   EXPECT_GT(sent, 0);
   EXPECT_EQ(taken, sent + 1);
   EXPECT_EQ(endpoint->accepted(), quint64(taken));
-  for (const auto kind : {"host", "size", "malformed"})
+  for (const auto kind : {"host", "size", "malformed"}) {
     EXPECT_GT(refused(kind), 0u) << kind;
+  }
 }
 
 TEST(EndpointPolicy, OriginsAreThoseThatBrowsersSend) {
@@ -410,8 +418,9 @@ TEST(EndpointPolicy, OriginsAreThoseThatBrowsersSend) {
       {"about:blank", ""},
       {"", ""},
   };
-  for (const auto& row : rows)
+  for (const auto& row : rows) {
     EXPECT_EQ(originOf(QString::fromUtf8(row.url)), QString::fromLatin1(row.origin)) << row.url;
+  }
 }
 
 }  // namespace

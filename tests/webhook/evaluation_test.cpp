@@ -91,8 +91,9 @@ TEST_F(EvaluationTest, WorksWhereThePageForbidsScripts) {
 }
 
 TEST_F(EvaluationTest, CodeWithoutEndIsAbortedAndEnded) {
-  if (TestSupport::isFirefox())
+  if (TestSupport::isFirefox()) {
     GTEST_SKIP() << "Firefox offers no way to end a script that runs.";
+  }
   const Evaluation endless = page->evaluate(q("for (;;) {}"), 100);
   EXPECT_TRUE(endless.aborted);
   EXPECT_EQ(endless.text,
@@ -122,8 +123,9 @@ TEST_F(EvaluationTest, ALateAnswerReachesNoLaterCall) {
 }
 
 TEST_F(EvaluationTest, APageStuckInItsOwnLoopAbortsAndCanBeLeft) {
-  if (TestSupport::isFirefox())
+  if (TestSupport::isFirefox()) {
     GTEST_SKIP() << "Firefox does not load another document while a script of the old one runs.";
+  }
   text("setTimeout(function() { for (;;) {} }, 0); 1");
   const Evaluation stuck = page->evaluate(q("new Date"), 200);
   EXPECT_TRUE(stuck.aborted);
@@ -181,8 +183,9 @@ TEST_F(EvaluationTest, AClosedPageEndsTheCallAndAllLaterOnes) {
 }
 
 TEST_F(EvaluationTest, ACrashedPageEndsTheCallAndCanBeLoadedAgain) {
-  if (TestSupport::isFirefox())
+  if (TestSupport::isFirefox()) {
     GTEST_SKIP() << "Firefox does not tell that a page crashed.";
+  }
   BrowserPage* const other = session->newPage().page;
   ASSERT_TRUE(other);
   ASSERT_EQ(other->navigate(server->url(q("/page.html"), q("localhost"))), QString());
@@ -227,8 +230,9 @@ TEST_F(EvaluationTest, DialogsOneAfterTheOtherAreAnsweredOneByOne) {
 }
 
 TEST_F(EvaluationTest, AKilledBrowserEndsTheCallAndLeavesNothing) {
-  if (TestSupport::isRemote())
+  if (TestSupport::isRemote()) {
     GTEST_SKIP() << "The browser is not this machine's to kill.";
+  }
   BrowserSession::Start start = startAnother();
   ASSERT_TRUE(start.session) << start.error.toStdString();
   const QString directory = start.session->browserDirectory();
@@ -254,8 +258,9 @@ TEST_F(EvaluationTest, AKilledBrowserEndsTheCallAndLeavesNothing) {
 }
 
 TEST_F(EvaluationTest, ALostSessionMayBeDeletedAtOnce) {
-  if (TestSupport::isRemote())
+  if (TestSupport::isRemote()) {
     GTEST_SKIP() << "The browser is not this machine's to kill.";
+  }
   BrowserSession::Start start = startAnother();
   ASSERT_TRUE(start.session) << start.error.toStdString();
   server->add(q("/silent"), {{}, {}, {}, 200, true});

@@ -12,8 +12,9 @@ class FakeTransport : public Corvex::Webhook::Transport {
 public:
   void send(const QByteArray& message) override {
     sent.append(QJsonDocument::fromJson(message).object());
-    if (onSend)
+    if (onSend) {
       onSend(sent.last());
+    }
   }
   void close() override {
     discardInbox();
@@ -23,8 +24,9 @@ public:
   void receive(const QByteArray& text) { receiveTogether({text}); }
   /// All of them at once, as from one read.
   void receiveTogether(const QList<QByteArray>& texts) {
-    for (const QByteArray& text : texts)
+    for (const QByteArray& text : texts) {
       enqueue(text);
+    }
     deliver();
   }
   void lose(const QString& reason) {

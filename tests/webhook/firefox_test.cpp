@@ -28,7 +28,7 @@ TEST(Firefox, SaysWhatToDoWhenThereIsNone) {
   options.browser = q("firefox");
   EXPECT_EQ(BrowserSession::start(options).error,
             q("There is no Firefox on this machine. Install it (on Debian: apt-get install firefox-esr), or set "
-              "CORVEX_FIREFOX to the path of its program."));
+              "CORVEX_FIREFOX to the path of Firefox's program."));
   EXPECT_TRUE(Firefox::find(q("/no/firefox")).error.contains(q("'/no/firefox'")));
   const ScopedVariable wrong("CORVEX_FIREFOX", "/etc/passwd");
   EXPECT_TRUE(Firefox::find(q("firefox")).error.startsWith(q("CORVEX_FIREFOX is set to '/etc/passwd'")));

@@ -108,8 +108,9 @@ TEST_F(PageTest, ADialogDuringLoadingEndsTheNavigation) {
 TEST_F(PageTest, StartScriptsRunInOrderBeforeThePageAndInTheTopPageOnly) {
   BrowserPage* const other = session->newPage().page;
   ASSERT_TRUE(other);
-  for (int i = 0; i < 11; ++i)
+  for (int i = 0; i < 11; ++i) {
     EXPECT_EQ(other->addStartScript(QStringLiteral("var order = (window.order || '') + '%1,';").arg(i)), QString());
+  }
   EXPECT_EQ(other->addStartScript(q("function started() { return order; }")), QString());
   server->add(q("/frames.html"), {"<script>window.seen = started();</script><iframe srcdoc='<p>x</p>'></iframe>"
                                   "<iframe src='about:blank'></iframe>",
@@ -138,8 +139,9 @@ TEST_F(PageTest, AStartScriptOfNewPagesRunsInTheFirstDocumentOfAPage) {
     EXPECT_EQ(first->evaluate(q("window.open('/early.html') !== null")).text, q("true"));
   }));
   BrowserPage* const opened = start.session->pages().last();
-  if (opened->evaluate(q("window.seen === undefined")).text == q("true"))
+  if (opened->evaluate(q("window.seen === undefined")).text == q("true")) {
     comes(opened, &BrowserPage::navigated);
+  }
   EXPECT_EQ(opened->evaluate(q("seen")).text, q("number"));
 }
 
@@ -234,8 +236,9 @@ TEST_F(PageTest, TheBrowserTellsItsNameAndVersion) {
 }
 
 TEST_F(PageTest, ClosingTheBrowserLeavesNothing) {
-  if (TestSupport::isRemote())
+  if (TestSupport::isRemote()) {
     GTEST_SKIP() << "The browser is another machine's.";
+  }
   BrowserSession::Start start = startAnother();
   ASSERT_TRUE(start.session) << start.error.toStdString();
   const QString directory = start.session->browserDirectory();

@@ -11,8 +11,9 @@ namespace {
 
 QString itemsOf(const PageMessage& message) {
   QStringList result;
-  for (const MessageItem& item : message.items())
+  for (const MessageItem& item : message.items()) {
     result.append(item.key + u'=' + item.value);
+  }
   return result.join(u'|');
 }
 
@@ -73,8 +74,9 @@ TEST(PageMessage, UndoesEscapeAndLeavesWhatIsNone) {
       {"%%41%2541", QStringLiteral("%A%41")},
       {"%00", QString(QChar(0))},
   };
-  for (const auto& text : texts)
+  for (const auto& text : texts) {
     EXPECT_EQ(unescaped(QString::fromLatin1(text.written)), text.meant) << text.written;
+  }
 }
 
 TEST(PageMessage, ValueIsTheLastOfItsKey) {
@@ -125,12 +127,14 @@ TEST(PageMessage, SessionQueueIsReadInOrder) {
 
 QString sorted(const QStringList& texts) {
   std::deque<PageMessage> messages;
-  for (const QString& text : texts)
+  for (const QString& text : texts) {
     messages.push_back(PageMessage::fromText(text));
+  }
   sortByStamp(messages);
   QStringList result;
-  for (const PageMessage& message : messages)
+  for (const PageMessage& message : messages) {
     result.append(message.text());
+  }
   return result.join(u' ');
 }
 

@@ -47,11 +47,13 @@ TEST(PipeTransport, CarriesMessagesOfAnySizeInOrder) {
   Pending all;
   QObject::connect(echo.transport.get(), &Transport::messageReceived, [&](const QByteArray& message) {
     received.append(message);
-    if (received.size() == messages.size())
+    if (received.size() == messages.size()) {
       all.complete();
+    }
   });
-  for (const QByteArray& message : messages)
+  for (const QByteArray& message : messages) {
     echo.transport->send(message);
+  }
 
   EXPECT_EQ(waitFor(all, QDeadlineTimer(10000)), WaitResult::Complete);
   EXPECT_TRUE(received == messages);

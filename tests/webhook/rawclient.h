@@ -19,8 +19,9 @@ struct RawReply {
   /// The value of a header, or a null text.
   QByteArray header(const QByteArray& name) const {
     for (const QByteArray& line : head.split('\n')) {
-      if (line.toLower().startsWith(name.toLower() + ": "))
+      if (line.toLower().startsWith(name.toLower() + ": ")) {
         return line.mid(name.size() + 2).trimmed();
+      }
     }
     return {};
   }
@@ -48,8 +49,9 @@ public:
     for (int sent = 0; sent < bytes.size();) {
       const auto step =
           ::send(m_socket.get(), bytes.constData() + sent, std::size_t(bytes.size() - sent), MSG_NOSIGNAL);
-      if (step <= 0)
+      if (step <= 0) {
         return;
+      }
       sent += int(step);
     }
   }
@@ -59,16 +61,18 @@ public:
 
   RawReply receive() {
     while (!m_buffer.contains("\r\n\r\n")) {
-      if (!fill())
+      if (!fill()) {
         return {};
+      }
     }
     RawReply reply;
     const int end = m_buffer.indexOf("\r\n\r\n");
     reply.head = m_buffer.left(end);
     const int length = reply.header("Content-Length").toInt();
     while (m_buffer.size() < end + 4 + length) {
-      if (!fill())
+      if (!fill()) {
         return {};
+      }
     }
     reply.status = reply.head.mid(int(sizeof "HTTP/1.1"), 3).toInt();
     reply.body = m_buffer.mid(end + 4, length);
@@ -85,8 +89,9 @@ private:
   bool fill() {
     char bytes[65536];
     const auto got = ::recv(m_socket.get(), bytes, sizeof bytes, 0);
-    if (got <= 0)
+    if (got <= 0) {
       return false;
+    }
     m_buffer.append(bytes, int(got));
     return true;
   }

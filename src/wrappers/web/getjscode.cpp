@@ -21,16 +21,19 @@ namespace {
 const char* get_jscode() {
   static const char* const* const codeFragments = hookFragments;
   static char* code = nullptr;
-  if (code)
+  if (code) {
     return code;
+  }
 
   std::size_t length = 0;
-  for (auto fragment = codeFragments; *fragment; ++fragment)
+  for (auto fragment = codeFragments; *fragment; ++fragment) {
     length += std::strlen(*fragment);
+  }
   code = static_cast<char*>(std::malloc(length + 1));
   char* end = code;
-  for (auto fragment = codeFragments; *fragment; ++fragment)
+  for (auto fragment = codeFragments; *fragment; ++fragment) {
     end = stpcpy(end, *fragment);
+  }
   *end = '\0';
   return code;
 }
@@ -49,8 +52,9 @@ QStringList readExtensions() {
   const auto names =
       directory.entryList({QStringLiteral("*.js")}, QDir::Files | QDir::CaseSensitive, QDir::Name | QDir::IgnoreCase);
   QStringList texts;
-  for (const QString& name : names)
+  for (const QString& name : names) {
     texts.append(readExtension(directory.absoluteFilePath(name)));
+  }
   return texts;
 }
 

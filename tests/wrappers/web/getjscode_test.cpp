@@ -53,12 +53,14 @@ private:
 class WithoutPrivileges {
 public:
   WithoutPrivileges() : m_wasRoot(geteuid() == 0) {
-    if (m_wasRoot)
+    if (m_wasRoot) {
       m_dropped = seteuid(65534) == 0;
+    }
   }
   ~WithoutPrivileges() {
-    if (m_dropped && seteuid(0) != 0)
+    if (m_dropped && seteuid(0) != 0) {
       abort();
+    }
   }
   bool worked() const { return !m_wasRoot || m_dropped; }
 

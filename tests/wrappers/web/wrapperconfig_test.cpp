@@ -62,8 +62,9 @@ const Row rows[] = {
 /// All values, one "key = value" line each: the very text of a settings file.
 QString valuesOf(const WrapperConfig& config) {
   QString text;
-  for (const Row& row : rows)
+  for (const Row& row : rows) {
     text += QStringLiteral("%1 = %2\n").arg(QLatin1String(row.key), row.get(config));
+  }
   return text;
 }
 
@@ -157,8 +158,9 @@ TEST_F(FileSystemBasedConfigTest, TheUsersFileWins) {
 
 TEST_F(FileSystemBasedConfigTest, UnusableValuesFallThroughToTheNextFile) {
   QString unusable;
-  for (const Row& row : rows)
+  for (const Row& row : rows) {
     unusable += QStringLiteral("%1 = maybe\n").arg(QLatin1String(row.key));
+  }
   const auto readQuietly = [] {
     const MessageCapture capture;
     return readAll();
