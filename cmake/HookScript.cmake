@@ -21,6 +21,7 @@ set(CORVEX_HOOK_FRAGMENTS
   05_properties.js
   06_framelookup.js
   07_browsers.js
+  08_objecttree.js
   09_geometry
   10_selectedtext.js
   11_simplifiedtext.js

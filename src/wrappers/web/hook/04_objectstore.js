@@ -1,25 +1,18 @@
-// Gives: top.__corvex__globalObjectRefStore, and references of page objects into it.
-// Needs: nothing.
+// Gives: top.__corvex__globalObjectRefStore, references of page objects into it, and the objects of references.
+// Needs: __corvex__createMap.
 
 top.__corvex__globalObjectRefStore = [];
 
 // The place of each object of a store, kept beside the store itself: others may append to the store or put another in
 // its place. A place is only a guess until the entry was compared.
 var __corvex__refPlaces = (function () {
-  // Taken now: a page may replace them later. One that did so before is not trusted.
-  var isNative = typeof Map == "function" && Function.prototype.toString.call(Map).indexOf("[native code]") != -1;
-  var NativeMap = isNative ? Map : null;
-  var nativeGet = NativeMap && NativeMap.prototype.get;
-  var nativeSet = NativeMap && NativeMap.prototype.set;
   var store = null;
   var places = null;
   var known = 0;
 
   function start(newStore) {
     store = newStore;
-    places = new NativeMap();
-    places.get = nativeGet;
-    places.set = nativeSet;
+    places = __corvex__createMap();
     known = 0;
   }
 
@@ -47,11 +40,11 @@ var __corvex__refPlaces = (function () {
   return {
     // -1 where the store does not hold the object.
     find: function (theStore, obj) {
-      if (!NativeMap) {
-        return walk(theStore, obj);
-      }
       if (store !== theStore || known > theStore.length) {
         start(theStore);
+      }
+      if (!places) {
+        return walk(theStore, obj);
       }
       learn();
       var place = places.get(obj);
@@ -76,4 +69,10 @@ function __corvex__idForObject(obj) {
     store[index] = obj;
   }
   return "top.__corvex__globalObjectRefStore[" + index + "]";
+}
+
+// The store's own references are read without eval, which a page's policy may forbid.
+function __corvex__objectOfReference(reference) {
+  var place = /^top\.__corvex__globalObjectRefStore\[(\d+)\]$/.exec(reference);
+  return place ? top.__corvex__globalObjectRefStore[place[1]] : eval(reference);
 }

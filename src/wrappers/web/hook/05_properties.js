@@ -18,12 +18,16 @@ function __corvex__isReservedJsKeyword(name) {
   return false;
 }
 
+// Asked for every element of a search, so that the flags stand last: asking a window for what it does not have is dear.
+function __corvex__hyphensAreProperties() {
+  return window.top.__corvex__ie || window.top.__corvex__mozilla;
+}
+
 // Whether a value that was read as a property may exist as an attribute only, as hyphenated names do in most browsers.
 function __corvex__wantsAttribute(propName, value) {
   var text = String(value);
-  var hyphensAreProperties = window.top.__corvex__ie || window.top.__corvex__mozilla;
-  return (propName.indexOf("-") !== -1 && !hyphensAreProperties && text === "") ||
-    text === "undefined" || text.indexOf("__CORVEX__ERROR") === 0;
+  return (text === "" && propName.indexOf("-") !== -1 && !__corvex__hyphensAreProperties()) ||
+    text === "undefined" || text.lastIndexOf("__CORVEX__ERROR", 0) === 0;
 }
 
 function __corvex__isEmptyText(value) {
@@ -43,7 +47,7 @@ function __corvex__readProperty(obj, propName) {
       return undefined;
     }
   }
-  if (__corvex__isQWebViewBrowser() && __corvex__isEmptyText(value)) {
+  if (__corvex__isEmptyText(value) && __corvex__isQWebViewBrowser()) {
     var attribute = __corvex__getObjectAttribute(obj, propName);
     if (attribute !== undefined && attribute !== null) {
       value = attribute;

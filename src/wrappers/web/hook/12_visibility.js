@@ -42,7 +42,29 @@ function __corvex__hasDisplayNone(elem) {
   return false;
 }
 
-function __corvex__isVisible(elem) {
+// The browser's own answer, which is the quick one. Only a yes counts: it says no of more than what is invisible here.
+// Elements of images are not asked for: some engines lay out what is in a group that is not displayed.
+var __corvex__isSurelyVisible = (function () {
+  var check = __corvex__nativeFunction(window.Element && Element.prototype.checkVisibility);
+  // In full: a page may give all objects members of these names.
+  var options = {
+    checkOpacity: false,
+    checkVisibilityCSS: true,
+    contentVisibilityAuto: false,
+    opacityProperty: false,
+    visibilityProperty: true
+  };
+  return function (elem) {
+    try {
+      return elem.ownerSVGElement === undefined && !!check && check.call(elem, options);
+    } catch (e) {
+      // No element.
+      return false;
+    }
+  };
+})();
+
+function __corvex__isVisibleByStyle(elem) {
   try {
     if (!elem || elem === __corvex__node.ownerDocument(elem)) {
       return true;
@@ -56,6 +78,10 @@ function __corvex__isVisible(elem) {
   } catch (e) {
     return true;
   }
+}
+
+function __corvex__isVisible(elem) {
+  return __corvex__isSurelyVisible(elem) || __corvex__isVisibleByStyle(elem);
 }
 
 function __corvex__cssToPx(sizeVal) {

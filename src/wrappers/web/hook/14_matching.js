@@ -41,17 +41,21 @@ function __corvex__reportsProperties() {
   return !window.__corvex__recording && !window.__corvex__pickObject;
 }
 
-// A search comes here for each element that fails. The flags stand last: asking a window for what it does not have is
-// dear.
-function __corvex__addUnmatchedProperty(objname, property) {
+// Whether a failure of this property of this name is told to the driver; it is told once. The flags stand last: asking
+// a window for what it does not have is dear.
+function __corvex__wouldReport(objname, property) {
   var sent = __corvex.sentUnmatchedProperties;
   for (var i = 0; i < sent.length; ++i) {
     if (sent[i].prop === property && sent[i].name === objname) {
-      return;
+      return false;
     }
   }
-  if (__corvex__reportsProperties()) {
-    sent.push({ name: objname, prop: property });
+  return __corvex__reportsProperties();
+}
+
+function __corvex__addUnmatchedProperty(objname, property) {
+  if (__corvex__wouldReport(objname, property)) {
+    __corvex.sentUnmatchedProperties.push({ name: objname, prop: property });
     __corvex__reportUnmatchedProperty(objname, property);
   }
 }
@@ -110,7 +114,10 @@ function __corvex__matchesPlainOrCleaned(value, read) {
 }
 
 function __corvex__wantsTrue(value) {
-  return value.value.toLowerCase() === "true";
+  if (value.modifiers !== PropertyValue_StrictMatch) {
+    throw new Error("it is true or false, which is compared with no pattern");
+  }
+  return value.value === "true" || value.value.toLowerCase() === "true";
 }
 
 var __corvex__propertyTests = {
@@ -127,10 +134,10 @@ var __corvex__propertyTests = {
     return Corvex.hasClassName(o, value.value);
   },
   visible: function (o, value) {
-    return __corvex__wantsTrue(value) === !!__corvex__isVisible(o);
+    return __corvex__wantsTrue(value) === !!__corvex__kept(__corvex__isVisible, o);
   },
   simplifiedInnerText: function (o, value) {
-    return __corvex__propMatches(value, window.top.__corvex.getSimplifiedInnerText(o));
+    return __corvex__propMatches(value, __corvex__kept(window.top.__corvex.getSimplifiedInnerText, o));
   }
 };
 
@@ -146,6 +153,11 @@ function __corvex__valueAtPath(o, path) {
   return o;
 }
 
+// A form may hide the function behind a field; what is no element has none.
+function __corvex__attributeOf(o, name) {
+  return typeof o.getAttribute === "function" ? o.getAttribute(name) : Element.prototype.getAttribute.call(o, name);
+}
+
 function __corvex__otherPropertyMatches(o, prop, value) {
   var current = o[prop];
   if (typeof current === "boolean") {
@@ -154,11 +166,24 @@ function __corvex__otherPropertyMatches(o, prop, value) {
   if (__corvex__readValueMatches(value, current)) {
     return true;
   }
-  var attribute = o.getAttribute(prop);
+  var attribute = __corvex__attributeOf(o, prop);
   if (attribute !== current && __corvex__readValueMatches(value, attribute)) {
     return true;
   }
   return prop.indexOf(".") !== -1 && __corvex__readValueMatches(value, __corvex__valueAtPath(o, prop));
+}
+
+// A function that tells whether an element has this value of this property.
+function __corvex__testOfProperty(prop, value) {
+  if (Object.prototype.hasOwnProperty.call(__corvex__propertyTests, prop)) {
+    var test = __corvex__propertyTests[prop];
+    return function (o) {
+      return test(o, value);
+    };
+  }
+  return function (o) {
+    return __corvex__otherPropertyMatches(o, prop, value);
+  };
 }
 
 function __corvex__matchObject(o, prop, value, name) {
@@ -169,8 +194,7 @@ function __corvex__matchObject(o, prop, value, name) {
       return accepted;
     }
   }
-  var matches = Object.prototype.hasOwnProperty.call(__corvex__propertyTests, prop) ?
-    __corvex__propertyTests[prop](o, value) : __corvex__otherPropertyMatches(o, prop, value);
+  var matches = __corvex__testOfProperty(prop, value)(o);
   if (!matches) {
     __corvex__addUnmatchedProperty(name, prop);
   }

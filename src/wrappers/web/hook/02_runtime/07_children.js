@@ -2,7 +2,7 @@
 // Needs: traversal, typing, references, leaf names.
 
 window.top.__corvex.getAllFrames = function (doc) {
-  var found = doc.querySelectorAll("iframe,frame");
+  var found = __corvex__askDocument(doc, "querySelectorAll", "iframe,frame");
   var frames = [];
   for (var i = 0; i < found.length; ++i) {
     frames.push(found[i]);

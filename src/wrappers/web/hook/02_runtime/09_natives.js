@@ -1,4 +1,4 @@
-// Gives: __corvex__natives, the requests, timers and clock that pages replace and the runtime must not lose.
+// Gives: what pages replace and the runtime must not lose: __corvex__natives (requests, timers, clock), functions, maps.
 // Needs: nothing; it is evaluated before the page's own scripts.
 
 var __corvex__natives = (function () {
@@ -55,6 +55,28 @@ var __corvex__natives = (function () {
     clearInterval: function (timer) {
       stopInterval(timer);
     }
+  };
+})();
+
+// A function of the browser to be kept, as it is now: a page may replace it later. null where it did so before.
+function __corvex__nativeFunction(f) {
+  var isNative = typeof f == "function" && Function.prototype.toString.call(f).indexOf("[native code]") != -1;
+  return isNative ? f : null;
+}
+
+// A map whose keys may be objects, also where a page replaces Map or its methods; null where there is none to trust.
+var __corvex__createMap = (function () {
+  var NativeMap = __corvex__nativeFunction(window.Map);
+  var get = NativeMap && NativeMap.prototype.get;
+  var set = NativeMap && NativeMap.prototype.set;
+  return function () {
+    if (!NativeMap) {
+      return null;
+    }
+    var map = new NativeMap();
+    map.get = get;
+    map.set = set;
+    return map;
   };
 })();
 

@@ -3,13 +3,21 @@
 
 var __corvex__searchOnlyProperties = { tagName: 1, occurrence: 1, occurance: 1, form: 1, context: 1 };
 
-function __corvex__propValueOf(value) {
+function __corvex__compiled(regex, propName) {
+  try {
+    return new RegExp(regex);
+  } catch (e) {
+    throw new Error("the regular expression of '" + propName + "' does not compile: " + e.message);
+  }
+}
+
+function __corvex__propValueOf(value, propName) {
   if (value instanceof Corvex.RegExPropertyValue) {
-    return new __corvex__PropValue(new RegExp(value.regex), PropertyValue_RegExp);
+    return new __corvex__PropValue(__corvex__compiled(value.regex, propName), PropertyValue_RegExp);
   }
   if (value instanceof Corvex.WildCardPropertyValue) {
     return new __corvex__PropValue(
-      new RegExp(__corvex__wildcardToRegExp(value.wildcard)), PropertyValue_Wildcard);
+      __corvex__compiled(__corvex__wildcardToRegExp(value.wildcard), propName), PropertyValue_Wildcard);
   }
   if (value instanceof Corvex.ObjectName) {
     return new __corvex__PropValue(value.toString(), PropertyValue_StrictMatch);
@@ -26,7 +34,7 @@ function __corvex__propertyMap(nm) {
   var map = {};
   var names = objectName.getPropertyNames();
   for (var i = 0; i < names.length; ++i) {
-    map[names[i]] = __corvex__propValueOf(objectName.getPropertyValue(names[i]));
+    map[names[i]] = __corvex__propValueOf(objectName.getPropertyValue(names[i]), names[i]);
   }
   return map;
 }
@@ -68,13 +76,4 @@ function __corvex__matchersFor(map, nm) {
     }
   }
   return matchers;
-}
-
-function __corvex__matchedByAll(matchers, element) {
-  for (var i = 0; i < matchers.length; ++i) {
-    if (!matchers[i].matchObject(element)) {
-      return false;
-    }
-  }
-  return true;
 }

@@ -10,10 +10,16 @@ function __corvex__formControls(form) {
   return Object.getOwnPropertyDescriptor(HTMLFormElement.prototype, "elements").get.call(form);
 }
 
-// A shadow root has only the selection by selectors.
+// A shadow root has only the selection by selectors. A document or a form may hide the function behind an element.
 function __corvex__elementsByTag(container, tagName) {
-  return container.getElementsByTagName ? container.getElementsByTagName(tagName) :
-    container.querySelectorAll(tagName);
+  if (typeof container.getElementsByTagName === "function") {
+    return container.getElementsByTagName(tagName);
+  }
+  if (__corvex__isShadowRoot(container)) {
+    return container.querySelectorAll(tagName);
+  }
+  var type = __corvex__isDocumentNode(container) ? Document : Element;
+  return type.prototype.getElementsByTagName.call(container, tagName);
 }
 
 function __corvex__findFormInContainer(container, formName) {

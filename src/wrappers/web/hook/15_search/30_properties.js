@@ -1,5 +1,5 @@
 // Gives: __corvex__findObjectByProps, the search below one document or element, and how the hits count.
-// Needs: 10_name.js, 20_candidates.js.
+// Needs: 10_name.js, 15_elementtest.js, 20_candidates.js; __corvex__listHolds when called.
 
 function __corvex__isImageLink(map) {
   return __corvex__propMatches(map.tagName, "A") &&
@@ -28,13 +28,14 @@ function __corvex__searchImageLinks(links, map, accept) {
   return undefined;
 }
 
-// Calls accept with each hit in the order of the search until it answers true, and returns that hit.
-function __corvex__searchByProps(container, map, nm, accept) {
+// Calls accept with each hit in the order of the search until it answers true, and returns that hit. vain, if given:
+// containers in which the same search found nothing; they are passed over, and this one may join them.
+function __corvex__searchByProps(container, map, nm, accept, vain) {
   if (!__corvex__mapEntry(map, "tagName")) {
     throw new Error("The name " + nm + " has no tagName; add one, the search needs it.");
   }
   container = __corvex__effectiveContainer(container, map, nm);
-  if (!container) {
+  if (!container || (vain && __corvex__listHolds(vain, container))) {
     return undefined;
   }
   var isImageLink = __corvex__isImageLink(map);
@@ -53,10 +54,10 @@ function __corvex__searchByProps(container, map, nm, accept) {
   }
   candidates = __corvex__withShadowCandidates(candidates, container, map.tagName.value);
 
-  var matchers = __corvex__matchersFor(map, nm);
+  var passes = __corvex__elementTest(__corvex__matchersFor(map, nm));
   var count = candidates.length;
   for (var i = 0; i < count; ++i) {
-    if (__corvex__matchedByAll(matchers, candidates[i])) {
+    if (passes(candidates[i])) {
       var hit = isImageLink ? __corvex__enclosingLink(candidates[i]) || candidates[i] : candidates[i];
       if (accept(hit)) {
         __corvex__removeUnmatchedProperties(nm);
@@ -67,18 +68,25 @@ function __corvex__searchByProps(container, map, nm, accept) {
   if (count === 0) {
     __corvex__addUnmatchedProperty(nm, "tagName");
   }
+  if (vain && !__corvex__extensionsMatch()) {
+    vain.push(container);
+  }
   return undefined;
 }
 
-function __corvex__findObjectByProps(container, nm) {
+function __corvex__findObjectByProps(container, nm, vain) {
   var map = __corvex__propertyMap(nm);
   if (!map) {
     return undefined;
   }
   var skip = __corvex__matchesToSkip(map);
+  var hits = __corvex__keptHits(container, nm);
+  if (hits) {
+    return hits[skip > 0 ? Math.ceil(skip) : 0];
+  }
   return __corvex__searchByProps(container, map, nm, function () {
     return !(skip-- > 0);
-  });
+  }, vain);
 }
 
 // place: the 1-based place of element among the hits of nm in one document, if it is from or behind it, else 0. count:
@@ -90,6 +98,13 @@ function __corvex__hitsInDocument(doc, nm, element, from) {
       return { place: 0, count: 0 };
     }
     var count = 0;
+    var hits = __corvex__keptHits(doc, nm);
+    if (hits) {
+      for (count = from; count <= hits.length && hits[count - 1] !== element;) {
+        ++count;
+      }
+      return count <= hits.length ? { place: count, count: count } : { place: 0, count: hits.length };
+    }
     var found = __corvex__searchByProps(doc, map, nm, function (hit) {
       ++count;
       return hit === element && count >= from;

@@ -2,12 +2,12 @@
 // Needs: 30_properties.js; contexts and frames of the runtime when called.
 
 // An element that is found leaves the current context on the window that holds it: the next search starts there.
-function __corvex__findObjectByProps2(nm, w) {
+function __corvex__findObjectByProps2(nm, w, vain) {
   var before = __corvex__ctxwin;
   var found;
   __corvex__ctxwin = w;
   try {
-    found = __corvex__findObjectByProps(w.document, nm);
+    found = __corvex__findObjectByProps(w.document, nm, vain);
   } catch (e) { /* not found in this document */ }
   if (found) {
     return found;
@@ -16,7 +16,7 @@ function __corvex__findObjectByProps2(nm, w) {
     var frames = window.top.__corvex.getAllFrames(w.document);
     for (var i = 0; i < frames.length; ++i) {
       if (__corvex__isFrameAccessible(frames[i])) {
-        found = __corvex__findObjectByProps2(nm, frames[i].contentWindow);
+        found = __corvex__findObjectByProps2(nm, frames[i].contentWindow, vain);
         if (found) {
           return found;
         }
@@ -27,11 +27,11 @@ function __corvex__findObjectByProps2(nm, w) {
   return undefined;
 }
 
-function __corvex__findObjectByProps3(nm) {
+function __corvex__findObjectByProps3(nm, vain) {
   var windows = __corvex__contextList();
   for (var i = 0; i < windows.length; ++i) {
     try {
-      var found = __corvex__findObjectByProps2(nm, windows[i]);
+      var found = __corvex__findObjectByProps2(nm, windows[i], vain);
       if (found) {
         return found;
       }
@@ -41,13 +41,15 @@ function __corvex__findObjectByProps3(nm) {
 }
 
 function __corvex__findObjectByProps4(nm) {
+  // The document of the current context comes a second time among all the others.
+  var vain = [];
   try {
-    var found = __corvex__findObjectByProps(__corvex__ctxwin.document, nm);
+    var found = __corvex__findObjectByProps(__corvex__ctxwin.document, nm, vain);
     if (found) {
       return found;
     }
   } catch (e) { /* not found in the current context */ }
-  return __corvex__findObjectByProps3(nm);
+  return __corvex__findObjectByProps3(nm, vain);
 }
 
 function __corvex__findObject(nm) {

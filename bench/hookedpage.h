@@ -1,0 +1,32 @@
+#pragma once
+
+#include "webhook/browsersession.h"
+#include "webhook/browserwindows.h"
+#include "webhook/endpoint.h"
+#include "webhook/webmodel.h"
+#include "wrappers/web/wrapperconfig.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace CorvexBench {
+
+/// A browser with one hooked page whose messages go to an endpoint, as when a script runs.
+class HookedPage {
+public:
+  /// The error says why there is none.
+  QString start(const Corvex::Webhook::SessionOptions& options);
+
+  Corvex::Webhook::Connection& connection() { return *m_windows->current(); }
+  Corvex::Webhook::MessageEndpoint& endpoint() { return m_endpoint; }
+
+private:
+  Corvex::WebWrapper::MemoryBasedConfig m_config;
+  Corvex::Webhook::WebModel m_model;
+  Corvex::Webhook::MessageEndpoint m_endpoint;
+  std::unique_ptr<Corvex::Webhook::BrowserSession> m_session;
+  std::unique_ptr<Corvex::Webhook::BrowserWindows> m_windows;
+};
+
+}  // namespace CorvexBench
