@@ -91,9 +91,12 @@ int Class::compare(SharedPtr<Object> a, SharedPtr<Object> b) const {
 }
 
 bool Class::sameObjects(SharedPtr<Object> a, SharedPtr<Object> b) const {
+  if (a == b) {
+    return true;
+  }
   const auto* delegate = dynamic_cast<const ComparisonDelegate*>(
       DelegateFactory::self()->delegate(this, Delegate::ComparisonDelegateType));
-  return delegate ? delegate->sameObjects(a, b) : a == b;
+  return delegate && delegate->sameObjects(a, b);
 }
 
 bool Class::canConvertToTolerant(const Class* target, bool implicit, bool exact, void** data) const {

@@ -17,6 +17,9 @@ namespace {
 // Long enough not to keep the page busy, short enough not to be noticed.
 const int attemptIntervalMs = 20;
 
+// A script may ask for any number of names that are never found.
+const int maxUnmatchedNames = 1000;
+
 struct PrimitiveRow {
   PrimitiveType::Id id;
   const char* name;
@@ -57,6 +60,9 @@ Inspector::Inspector() : m_namespace(new Namespace) {
 Inspector::~Inspector() = default;
 
 void Inspector::addUnmatchedProperty(const QString& objectName, const QString& property) {
+  if (m_unmatched.size() >= maxUnmatchedNames && !m_unmatched.contains(objectName)) {
+    m_unmatched.clear();
+  }
   QStringList& properties = m_unmatched[objectName];
   if (!properties.contains(property)) {
     properties << property;
@@ -126,30 +132,79 @@ bool Inspector::reportTrouble() {
   return !trouble.isEmpty();
 }
 
-SharedPtr<Object> Inspector::lookup(const QString& name) {
-  if (reportTrouble()) {
-    return nullptr;
-  }
+QString Inspector::usableName(const QString& name) {
   const QString mapped = ObjectMap::self()->realName(name);
   const QString realName = mapped.isEmpty() ? name : mapped;
   if (mapped.isEmpty() && name.startsWith(QLatin1Char(':'))) {
     reportScriptError(
         QStringLiteral("The symbolic name '%1' is not in the object map. Add it there, or use a real name.").arg(name));
-    return nullptr;
+    return QString();
   }
   const QString parseError = ObjectName(realName).parseError();
   if (realName.isEmpty() || !parseError.isEmpty()) {
     reportScriptError(QStringLiteral("Invalid object name '%1': %2.")
                           .arg(realName, realName.isEmpty() ? QStringLiteral("it is empty") : parseError));
+    return QString();
+  }
+  return realName;
+}
+
+bool Inspector::reportFault(const QString& realName) {
+  const QString fault = m_services.nameFault ? m_services.nameFault(realName) : QString();
+  if (!fault.isEmpty()) {
+    reportScriptError(QStringLiteral("Invalid object name '%1': %2.").arg(realName, fault));
+  }
+  return !fault.isEmpty();
+}
+
+SharedPtr<Object> Inspector::lookup(const QString& name) {
+  const QString realName = reportTrouble() ? QString() : usableName(name);
+  if (realName.isEmpty()) {
     return nullptr;
   }
-  const SharedPtr<Object> found = lookupInRoots(realName);
-  // A name that was printed by way of the wrapper's unescape has "&amp;" for each ampersand.
-  const QLatin1String entity("&amp;");
-  if (found || hasScriptError() || !realName.contains(entity)) {
-    return found;
+  const SharedPtr<Object> found = lookupOnce(realName);
+  if (!found && !hasScriptError()) {
+    reportFault(realName);
   }
-  return lookupInRoots(QString(realName).replace(entity, QLatin1String("&")));
+  return found;
+}
+
+/// The second text to try; empty where there is none. A name that was printed by way of the wrapper's unescape has
+/// "&amp;" for each ampersand.
+static QString withAmpersands(const QString& realName) {
+  const QLatin1String entity("&amp;");
+  return realName.contains(entity) ? QString(realName).replace(entity, QLatin1String("&")) : QString();
+}
+
+SharedPtr<Object> Inspector::lookupOnce(const QString& realName) const {
+  const SharedPtr<Object> found = lookupInRoots(realName);
+  const QString second = withAmpersands(realName);
+  return found || hasScriptError() || second.isEmpty() ? found : lookupInRoots(second);
+}
+
+ObjectList Inspector::lookupAll(const QString& name) {
+  const QString realName = reportTrouble() ? QString() : usableName(name);
+  if (realName.isEmpty()) {
+    return {};
+  }
+  ObjectList found = allInRoots(realName);
+  const QString second = withAmpersands(realName);
+  if (found.isEmpty() && !hasScriptError() && !second.isEmpty()) {
+    found = allInRoots(second);
+  }
+  if (found.isEmpty() && !hasScriptError()) {
+    reportFault(realName);
+  }
+  return found;
+}
+
+ObjectList Inspector::allInRoots(const QString& realName) const {
+  const ObjectName name(realName);
+  if (name.isMultiProperty() && m_services.findAll) {
+    return m_services.findAll(m_roots, name);
+  }
+  const SharedPtr<Object> found = lookupInRoots(realName);
+  return found ? ObjectList{found} : ObjectList();
 }
 
 static SharedPtr<Object> childByName(const SharedPtr<Object>& object, const QString& name) {
@@ -157,9 +212,12 @@ static SharedPtr<Object> childByName(const SharedPtr<Object>& object, const QStr
   return delegate ? delegate->childByName(object, name) : SharedPtr<Object>();
 }
 
-/// Follows a plain name from child to child, its levels parted by dots.
+/// Follows a plain name from child to child, its levels parted by dots. The name of a frame's document ends in one.
 static SharedPtr<Object> descend(const SharedPtr<Object>& root, const QString& name) {
-  const QStringList levels = name.split(QLatin1Char('.'));
+  QStringList levels = name.split(QLatin1Char('.'));
+  if (levels.size() > 1 && levels.last().isEmpty()) {
+    levels.removeLast();
+  }
   SharedPtr<Object> object = childByName(root, levels.first());
   if (!object) {
     // The dots may belong to the text that a child of the root is known by.
@@ -196,10 +254,13 @@ bool Inspector::isReady(const SharedPtr<Object>& object) const {
 SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) {
   const std::function<qint64()> now = m_services.now ? m_services.now : machineClock();
   const qint64 start = now();
+  const QString realName = usableName(name);
+  bool mayCome = !realName.isEmpty();
+  bool isChecked = false;
   SharedPtr<Object> found;
   QString failure;
-  do {
-    found = lookup(name);
+  while (mayCome) {
+    found = reportTrouble() ? SharedPtr<Object>() : lookupOnce(realName);
     const QString lastFailure = std::exchange(failure, takeScriptError());
     // A page that is being replaced fails once. What fails twice in a row is going to stay.
     if (!failure.isEmpty() && !lastFailure.isEmpty()) {
@@ -208,10 +269,14 @@ SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) 
     if (found && isReady(found)) {
       return found;
     }
+    if (!found && failure.isEmpty() && !std::exchange(isChecked, true) && reportFault(realName)) {
+      return nullptr;
+    }
     if (m_services.sleep) {
       m_services.sleep(attemptIntervalMs);
     }
-  } while (!hasScriptError() && now() - start < timeoutMs);
+    mayCome = !hasScriptError() && now() - start < timeoutMs;
+  }
   if (!failure.isEmpty()) {
     reportScriptError(failure);
   } else if (found) {
@@ -225,13 +290,13 @@ SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) 
 QString Inspector::notFoundError(const QString& name) const {
   const QString mapped = ObjectMap::self()->realName(name);
   const QString realName = mapped.isEmpty() ? name : mapped;
-  const QStringList unmatched = m_unmatched.value(realName);
-  if (unmatched.contains(QStringLiteral("container"))) {
-    return QStringLiteral("Object '%1' not found. Its container was not found.").arg(name);
-  }
   const QString explanation = m_services.explain ? m_services.explain(realName) : QString();
   if (!explanation.isEmpty()) {
     return QStringLiteral("Object '%1' not found. %2").arg(name, explanation);
+  }
+  const QStringList unmatched = m_unmatched.value(realName);
+  if (unmatched.contains(QStringLiteral("container"))) {
+    return QStringLiteral("Object '%1' not found. Its container was not found.").arg(name);
   }
   const QString reason = unmatched.isEmpty()
                              ? QString()

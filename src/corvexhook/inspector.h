@@ -14,6 +14,8 @@
 
 namespace Corvex {
 
+class ObjectName;
+
 /// What the framework needs of the process that embeds it.
 struct HostServices {
   /// Whether an object can take input now. Without it every object is ready.
@@ -26,6 +28,13 @@ struct HostServices {
   std::function<QString()> trouble;
   /// Why a real name was not found, as a sentence; an empty text when nothing is known.
   std::function<QString(const QString& name)> explain;
+  /// What is wrong with a real name that was not found, if it can never be found whatever there is; else an empty text.
+  std::function<QString(const QString& name)> nameFault;
+  /// All objects that a multi-property name fits, below roots in the order of lookups. Without it names lead to one
+  /// object at most. Failures are reported to the script.
+  std::function<ObjectList(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name)> findAll;
+  /// Why an object can no longer be used, as a sentence; an empty text when it can.
+  std::function<QString(const SharedPtr<Object>&)> objectTrouble;
 };
 
 /// The framework's one meeting point: classes, wrapping of values, object lookup and script errors. One thread.
@@ -69,8 +78,10 @@ public:
   QString takeScriptError();
 
   /// One silent attempt: null when the object isn't there. A symbolic name gives its real one first; a name that cannot
-  /// be parsed or a failed lookup is reported to the script.
+  /// be parsed, one that can never be found, or a failed lookup is reported to the script.
   SharedPtr<Object> lookup(const QString& name);
+  /// Every object that a name fits, in the order of lookups; reports what `lookup` reports.
+  ObjectList lookupAll(const QString& name);
   /// The sentence for a name that was not found.
   QString notFoundError(const QString& name) const;
 
@@ -92,6 +103,11 @@ protected:
 
 private:
   bool reportTrouble();
+  /// The real name; an empty text behind a reported error.
+  QString usableName(const QString& name);
+  bool reportFault(const QString& realName);
+  SharedPtr<Object> lookupOnce(const QString& realName) const;
+  ObjectList allInRoots(const QString& realName) const;
   SharedPtr<Object> lookupInRoots(const QString& realName) const;
   bool isReady(const SharedPtr<Object>& object) const;
   SharedPtr<Object> waitUntilReady(const QString& name, int timeoutMs);

@@ -67,6 +67,7 @@ public:
   const SharedPtr<Object>& operator[](int index) const { return m_objects[static_cast<std::size_t>(index)]; }
   void push_back(const SharedPtr<Object>& object) { m_objects.push_back(object); }
   void append(const std::vector<SharedPtr<Object>>& objects);
+  void append(const ObjectList& objects) { append(objects.m_objects); }
   void clear() { m_objects.clear(); }
 
   auto begin() const { return m_objects.begin(); }

@@ -19,6 +19,9 @@ QString lineError(const QString& line, QString* symbolic, QString* real) {
   if (real->isEmpty()) {
     return QStringLiteral("the real name behind the tab is missing");
   }
+  if (real->startsWith(QLatin1Char(':'))) {
+    return QStringLiteral("'%1' is a symbolic name, too; the real name has to stand behind the tab").arg(*real);
+  }
   return ObjectName(*real).parseError();
 }
 
@@ -37,6 +40,7 @@ QString ObjectMap::load(const QString& path) {
   QTextStream stream(&file);
   stream.setCodec("UTF-8");
   QHash<QString, QString> names = m_names;
+  QHash<QString, int> lines;
   for (int number = 1; !stream.atEnd(); ++number) {
     const QString line = stream.readLine();
     if (line.trimmed().isEmpty() || line.startsWith(QLatin1Char('#'))) {
@@ -44,11 +48,15 @@ QString ObjectMap::load(const QString& path) {
     }
     QString symbolic;
     QString real;
-    const QString error = lineError(line, &symbolic, &real);
+    QString error = lineError(line, &symbolic, &real);
+    if (error.isEmpty() && lines.contains(symbolic)) {
+      error = QStringLiteral("'%1' stands in line %2 already").arg(symbolic, QString::number(lines.value(symbolic)));
+    }
     if (!error.isEmpty()) {
       return QStringLiteral("%1:%2: %3.").arg(path, QString::number(number), error);
     }
     names.insert(symbolic, real);
+    lines.insert(symbolic, number);
   }
   m_names = names;
   return QString();

@@ -20,7 +20,7 @@ public:
 
   /// Adds the names of a UTF-8 file: one a line, the symbolic name, which begins with ":", then a tab, then the real
   /// name. Blank lines and lines that begin with "#" are passed over. Answers an error that names the file and the
-  /// line, or an empty text; with an error the map is as it was.
+  /// line, or an empty text; with an error the map is as it was. No symbolic name may stand twice in one file.
   QString load(const QString& path);
 
 private:

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "corvexhook/arrayclass.h"
+#include "corvexhook/delegate.h"
 #include "corvexhook/geometry.h"
 #include "corvexhook/inspector.h"
 #include "corvexhook/primitives.h"
@@ -280,10 +282,69 @@ ObjectResult snooze(const Context&, const ObjectList& arguments) {
   return outcome(nullptr);
 }
 
+ObjectResult findAllObjects(const Context&, const ObjectList& arguments) {
+  if (!isText(arguments[0])) {
+    return nameError("findAllObjects", arguments[0]);
+  }
+  const ObjectList found = Inspector::self()->lookupAll(arguments[0]->toString());
+  return outcome(ArrayClass::wrapObject({found.begin(), found.end()}));
+}
+
+/// The object of a function that walks the tree, where hidden objects count, too.
+Target treeTarget(const Context& context, const char* function, const SharedPtr<Object>& argument) {
+  if (isText(argument)) {
+    const ObjectResult found = look(context, argument->toString(), 0);
+    return {found.value, argument->toString(), found.error};
+  }
+  Target target = targetOf(context, function, argument);
+  const std::function<QString(const SharedPtr<Object>&)>& trouble = Inspector::self()->hostServices().objectTrouble;
+  if (target.error.isEmpty() && trouble) {
+    target.error = trouble(target.object);
+  }
+  if (target.error.isEmpty() && !hierarchyDelegate(target.object)) {
+    target.error = QStringLiteral("%1 needs an object of a page, but got %2.")
+                       .arg(QLatin1String(function), withArticle(target.object->objectClass()->name()));
+  }
+  return target;
+}
+
+ObjectResult objectChildren(const Context& context, const ObjectList& arguments) {
+  const Target target = treeTarget(context, "object.children", arguments[0]);
+  if (!target.error.isEmpty()) {
+    return failure(target.error);
+  }
+  const ObjectList children = hierarchyDelegate(target.object)->children(target.object);
+  return outcome(ArrayClass::wrapObject({children.begin(), children.end()}));
+}
+
+ObjectResult objectParent(const Context& context, const ObjectList& arguments) {
+  const Target target = treeTarget(context, "object.parent", arguments[0]);
+  if (!target.error.isEmpty()) {
+    return failure(target.error);
+  }
+  const SharedPtr<Object> parent = hierarchyDelegate(target.object)->parent(target.object);
+  return outcome(parent ? parent : Inspector::self()->nullObject(target.object->objectClass()));
+}
+
+ObjectResult objectName(const Context& context, const ObjectList& arguments) {
+  const Target target = treeTarget(context, "objectName", arguments[0]);
+  if (!target.error.isEmpty()) {
+    return failure(target.error);
+  }
+  const QString name = hierarchyDelegate(target.object)->qualifiedName(target.object);
+  return name.isEmpty() ? failure(QStringLiteral("objectName: the page gave no name for %1.")
+                                      .arg(withArticle(target.object->objectClass()->name())))
+                        : outcome(Inspector::self()->wrapString(name));
+}
+
 const Row rows[] = {
     {"findObject", "findObject(name)", 1, 1, findObject},
     {"waitForObject", "waitForObject(name[, milliseconds])", 1, 2, waitForObject},
+    {"findAllObjects", "findAllObjects(name)", 1, 1, findAllObjects},
     {"object.exists", "object.exists(name)", 1, 1, objectExists},
+    {"object.children", "object.children(object)", 1, 1, objectChildren},
+    {"object.parent", "object.parent(object)", 1, 1, objectParent},
+    {"objectName", "objectName(object)", 1, 1, objectName},
     {"mouseClick",
      "mouseClick(object), mouseClick(object, modifiers) or "
      "mouseClick(object, x, y[, modifiers[, button]])",

@@ -4,6 +4,7 @@
 #include "webhook/searchexplanation.h"
 #include "wrappers/web/escaping.h"
 #include "wrappers/web/readiness.h"
+#include "wrappers/web/references.h"
 #include "wrappers/web/sleeping.h"
 #include "wrappers/web/wraphtmlobject.h"
 
@@ -30,6 +31,16 @@ BrowserControl::BrowserControl(const SessionOptions& options) : m_options(option
   services.trouble = [this] { return trouble(); };
   services.explain = [this](const QString& name) {
     return trouble().isEmpty() ? explainFailedSearch(*m_windows->current(), name) : QString();
+  };
+  services.nameFault = [this](const QString& name) {
+    return trouble().isEmpty() ? faultOfName(*m_windows->current(), name) : QString();
+  };
+  services.findAll = [this](const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) {
+    return m_model.findAll(roots, name);
+  };
+  services.objectTrouble = [](const SharedPtr<Object>& object) {
+    const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(object);
+    return native && !native->hasValidReference() ? WebWrapper::deadObjectReferenceError() : QString();
   };
   Inspector::self()->setHostServices(services);
 }

@@ -1,11 +1,13 @@
 #include "webhook/runcommand.h"
 
 #include "corvexhook/inspector.h"
+#include "corvexhook/objectmap.h"
 #include "scripting/consolereporter.h"
 #include "scripting/junitreporter.h"
 #include "scripting/scriptengine.h"
 #include "webhook/browsercontrol.h"
 #include "webhook/browserfunctions.h"
+#include "webhook/browseroptions.h"
 #include "webhook/commandline.h"
 #include "webhook/commandoptions.h"
 #include "webhook/output.h"
@@ -16,25 +18,11 @@ namespace Corvex::Webhook {
 
 namespace {
 
-const QCommandLineOption browserOption(QStringLiteral("browser"),
-                                       QStringLiteral("The browser: chromium, firefox, or the path of its program."),
-                                       QStringLiteral("name"), QStringLiteral("chromium"));
-const QCommandLineOption headedOption(QStringLiteral("headed"), QStringLiteral("Show the browser's windows."));
-const QCommandLineOption attachOption(QStringLiteral("attach"),
-                                      QStringLiteral("Use a running browser, by the address of its debugging socket."),
-                                      QStringLiteral("ws://..."));
-const QCommandLineOption remoteOption(QStringLiteral("remote"),
-                                      QStringLiteral("Ask this WebDriver server for a browser."),
-                                      QStringLiteral("http://host:port"));
-const QCommandLineOption capabilitiesOption(
-    QStringLiteral("capabilities"), QStringLiteral("What to ask the server for: JSON, or @ and a file of JSON."),
-    QStringLiteral("json"));
-const QCommandLineOption timeoutOption(
-    QStringLiteral("timeout"),
-    QStringLiteral("How long waitForObject waits, and a page may take to answer: 20 at first."),
-    QStringLiteral("seconds"), QStringLiteral("20"));
 const QCommandLineOption junitOption(QStringLiteral("junit"), QStringLiteral("Write the results as JUnit XML, too."),
                                      QStringLiteral("file"));
+const QCommandLineOption objectMapOption(QStringLiteral("object-map"),
+                                         QStringLiteral("Take the symbolic names of objects from this file."),
+                                         QStringLiteral("file"));
 const QCommandLineOption verboseOption(QStringLiteral("verbose"), QStringLiteral("Show the calls of objects, too."));
 
 struct RunOptions {
@@ -42,7 +30,6 @@ struct RunOptions {
   QStringList scripts;
   QString junitFile;
   bool verbose = false;
-  int timeoutMs = 0;
 };
 
 QString unreadable(const QStringList& scripts) {
@@ -58,25 +45,16 @@ QString unreadable(const QStringList& scripts) {
 
 /// An error, or an empty text.
 QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
-  bool isNumber = false;
-  const double seconds = parser.value(timeoutOption).toDouble(&isNumber);
-  if (!isNumber || seconds <= 0 || seconds > 86400) {
-    return QStringLiteral("--timeout takes a number of seconds above 0, not '%1'.").arg(parser.value(timeoutOption));
+  QString error = readBrowserOptions(parser, &options->session);
+  if (!error.isEmpty()) {
+    return error;
   }
-  options->timeoutMs = static_cast<int>(seconds * 1000);
-  options->session.browser = parser.value(browserOption);
-  options->session.attachTo = parser.value(attachOption);
-  options->session.remoteUrl = parser.value(remoteOption);
-  options->session.capabilities = parser.value(capabilitiesOption);
-  options->session.headed = parser.isSet(headedOption);
-  options->session.defaultTimeoutMs = options->timeoutMs;
   options->scripts = parser.positionalArguments();
   options->junitFile = parser.value(junitOption);
   options->verbose = parser.isSet(verboseOption);
-  if (parser.isSet(remoteOption) && (parser.isSet(attachOption) || parser.isSet(headedOption))) {
-    return QStringLiteral("--remote cannot stand beside --attach or --headed: the server decides on its browser.");
-  }
-  return options->scripts.isEmpty() ? QStringLiteral("A script is missing.") : unreadable(options->scripts);
+  error = options->scripts.isEmpty() ? QStringLiteral("A script is missing.") : unreadable(options->scripts);
+  return error.isEmpty() && parser.isSet(objectMapOption) ? ObjectMap::self()->load(parser.value(objectMapOption))
+                                                          : error;
 }
 
 int runScripts(const RunOptions& options) {
@@ -95,7 +73,7 @@ int runScripts(const RunOptions& options) {
     }
     listeners.add(&junit);
   }
-  Inspector::self()->setDefaultTimeout(options.timeoutMs);
+  Inspector::self()->setDefaultTimeout(options.session.defaultTimeoutMs);
   const RunSummary summary = ScriptEngine(browserFunctions(browser), &listeners).run(options.scripts);
   if (!junit.error().isEmpty()) {
     printError(QStringLiteral("corvexweb run: %1\n").arg(junit.error()));
@@ -114,8 +92,8 @@ int runScriptsCommand(const QStringList& arguments) {
       "Runs test scripts in a browser, one behind the other, each in a browser of its own.\n\n"
       "Exit code: 0 all passed, 1 a script failed, 2 wrong usage, 3 the browser could not be started or\n"
       "was lost."));
-  parser.addOptions({browserOption, headedOption, attachOption, remoteOption, capabilitiesOption, timeoutOption,
-                     junitOption, verboseOption});
+  addBrowserOptions(parser);
+  parser.addOptions({junitOption, objectMapOption, verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."), QStringLiteral("The scripts, in JavaScript."));
   if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {
     return *exitCode;

@@ -10,9 +10,13 @@ class HTMLComponent;
 
 namespace Webhook {
 
-/// Why a name finds nothing in a page, as a sentence with the number of elements of its tag; an empty text where the
-/// page cannot tell.
+/// Why a name finds nothing in a page, as a sentence: which of its containers is not there, or how many elements have
+/// its tag and what they lack; an empty text where the page cannot tell.
 QString explainFailedSearch(WebWrapper::HTMLComponent& page, const QString& name);
+
+/// What makes it impossible that a name is ever found: a part without a tag name, a pattern that is none. Empty for a
+/// name without such a fault.
+QString faultOfName(WebWrapper::HTMLComponent& page, const QString& name);
 
 }  // namespace Webhook
 }  // namespace Corvex

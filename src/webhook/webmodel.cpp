@@ -2,6 +2,7 @@
 
 #include "corvexhook/inspector.h"
 #include "webhook/connection.h"
+#include "wrappers/web/findallobjects.h"
 #include "wrappers/web/sharedobjectmodelfunctions.h"
 #include "wrappers/web/webobject_init.h"
 #include "wrappers/web/webobjectdelegate.h"
@@ -54,6 +55,8 @@ WebModel::WebModel() {
   WebWrapper::setupSharedObjectModelFunctions();
   m_toplevel = std::make_unique<BrowserToplevelDelegate>();
   m_hierarchy = std::make_unique<WebWrapper::HTMLObjectHierarchyDelegate>();
+  m_items = std::make_unique<WebWrapper::CustomViewItemPropertyDelegate>();
+  m_comparison = std::make_unique<WebWrapper::WebObjectComparisonDelegate>(QStringLiteral("HTML_Object"));
 }
 
 WebModel::~WebModel() {
@@ -100,6 +103,22 @@ void WebModel::invalidateObjects(Connection* connection) {
     m_hierarchy->clearAllJSReferences(connection);
   }
   m_toplevel->clearDocumentReference();
+}
+
+ObjectList WebModel::findAll(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) const {
+  ObjectList all;
+  const bool picksOne = WebWrapper::namesOneOccurrence(name);
+  for (const SharedPtr<Object>& root : roots) {
+    if (picksOne) {
+      const SharedPtr<Object> found = m_toplevel->objectByQualifiedName(root, name);
+      if (found || Inspector::self()->hasScriptError()) {
+        return found ? ObjectList{found} : ObjectList();
+      }
+    } else {
+      all.append(WebWrapper::findAllObjects(*m_toplevel, root, name));
+    }
+  }
+  return all;
 }
 
 }  // namespace Corvex::Webhook

@@ -168,3 +168,36 @@ TEST_F(InspectorTest, WaitingEndsByTheClockOrByTrouble) {
   EXPECT_LT(now, 100);
   EXPECT_EQ(m_inspector->takeScriptError(), text("The browser is gone."));
 }
+
+TEST_F(InspectorTest, ANameThatCanNeverBeFoundIsRefusedAtOnce) {
+  qint64 now = 0;
+  int asked = 0;
+  HostServices services;
+  services.now = [&now] { return now; };
+  services.sleep = [&now](int milliseconds) { now += milliseconds; };
+  services.nameFault = [&asked](const QString& name) {
+    ++asked;
+    return name.contains(text("bad")) ? text("it is bad") : QString();
+  };
+  m_inspector->setHostServices(services);
+  const QString error = text("Invalid object name '{a='bad'}': it is bad.");
+  EXPECT_FALSE(m_inspector->waitForObject(text("{a='bad'}")));
+  EXPECT_EQ(m_inspector->takeScriptError(), error);
+  EXPECT_FALSE(m_inspector->waitForObject(text("{a='1'")));
+  EXPECT_TRUE(m_inspector->takeScriptError().startsWith(text("Invalid object name '{a='1'': ")));
+  EXPECT_EQ(now, 0);
+  EXPECT_FALSE(m_inspector->lookup(text("{a='bad'}")));
+  EXPECT_EQ(m_inspector->takeScriptError(), error);
+  asked = 0;
+  EXPECT_FALSE(m_inspector->findObject(text("{a='good'}"), 1000));
+  EXPECT_EQ(m_inspector->takeScriptError(), text("Object '{a='good'}' not found."));
+  EXPECT_EQ(asked, 1) << "waiting asks once";
+}
+
+TEST_F(InspectorTest, UnmatchedPropertiesOfEndlessNamesAreForgotten) {
+  for (int i = 0; i < 5000; ++i) {
+    m_inspector->addUnmatchedProperty(QString::number(i), text("b"));
+  }
+  EXPECT_EQ(m_inspector->unmatchedProperties(text("0")), QStringList());
+  EXPECT_EQ(m_inspector->unmatchedProperties(text("4999")), QStringList(text("b")));
+}

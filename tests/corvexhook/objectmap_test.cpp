@@ -30,7 +30,7 @@ private:
 }  // namespace
 
 TEST_F(ObjectMapTest, LoadsNamesAndPassesOverCommentsAndBlanks) {
-  EXPECT_EQ(load("# names\n\n:B\xc3\xbcro\t{title='\xc3\xbc'}\r\n:Tree\tDOCUMENT.HTML1\n"), QString());
+  EXPECT_EQ(load("\xef\xbb\xbf# names\n\n:B\xc3\xbcro\t{title='\xc3\xbc'}\r\n:Tree\tDOCUMENT.HTML1\n"), QString());
   EXPECT_EQ(m_map.size(), 2);
   EXPECT_EQ(m_map.realName(text(":B\xc3\xbcro")), text("{title='\xc3\xbc'}"));
   EXPECT_EQ(m_map.realName(text(":Tree")), text("DOCUMENT.HTML1"));
@@ -47,6 +47,8 @@ TEST_F(ObjectMapTest, ABrokenLineIsNamedAndChangesNothing) {
       {"A\t{a='1'}\n", ":1: expected a symbolic name that begins with ':', a tab, and the real name."},
       {":\t{a='1'}\n", ":1: expected a symbolic name that begins with ':', a tab, and the real name."},
       {":A\t \n", ":1: the real name behind the tab is missing."},
+      {":A\t:B\n", ":1: ':B' is a symbolic name, too; the real name has to stand behind the tab."},
+      {":A\t{a='1'}\n\n:A\t{a='1'}\n", ":3: ':A' stands in line 1 already."},
       {"\n:A\t{a='1'\n", ":2: the closing brace is missing at position 7."},
   };
   for (const auto& one : cases) {

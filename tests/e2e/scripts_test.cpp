@@ -1,6 +1,7 @@
 // Test scripts against a site of small pages: one script is one test. A script's leading comment may hold, a line each:
 //   @settings KEY=value       for the user's webwrapper.ini
 //   @options OPTION...        for the program
+//   @map :NAME REAL NAME      an entry of objects.map
 //   @exit CODE TEXT           the exit code that is expected, and what the output then holds
 //   @not BROWSER REASON       the browser cannot do it
 
@@ -33,6 +34,15 @@ void writeSettings(PageSite& site, const QStringList& settings) {
   site.program().write(QStringLiteral("ver1/webwrapper.ini"), text);
 }
 
+void writeObjectMap(PageSite& site, const QStringList& entries) {
+  QString text;
+  for (const QString& entry : entries) {
+    const int blank = entry.indexOf(QLatin1Char(' '));
+    text += entry.left(blank) + QLatin1Char('\t') + entry.mid(blank + 1) + QLatin1Char('\n');
+  }
+  site.program().write(QStringLiteral("objects.map"), text);
+}
+
 std::vector<std::string> scriptsIn(const char* folder) {
   std::vector<std::string> names;
   for (const QString& file : QDir(QLatin1String(folder)).entryList({QStringLiteral("*.js")}, QDir::Files, QDir::Name)) {
@@ -57,6 +67,7 @@ TEST_P(Scripts, Pass) {
   }
   PageSite site;
   writeSettings(site, marks(script, "settings"));
+  writeObjectMap(site, marks(script, "map"));
   site.write(QStringLiteral("test.js"), script);
   const QStringList options =
       marks(script, "options").join(QLatin1Char(' ')).split(QLatin1Char(' '), Qt::SkipEmptyParts);

@@ -35,6 +35,12 @@ const Misuse misuses[] = {
     {"MissingScript", {"run", "good.js", "bad.js"}, "The script 'bad.js' does not exist."},
     {"BadTimeout", {"run", "--timeout", "soon", "good.js"}, "--timeout takes a number of seconds above 0, not 'soon'."},
     {"JUnitFile", {"run", "--junit", "/nowhere/x.xml", "good.js"}, "/nowhere/x.xml"},
+    {"MissingObjectMap",
+     {"run", "--object-map", "none.map", "good.js"},
+     "Cannot read the object map 'none.map': No such file or directory."},
+    {"BrokenObjectMap",
+     {"run", "--object-map", "good.js", "good.js"},
+     "good.js:1: expected a symbolic name that begins with ':', a tab, and the real name."},
     {"HookScriptArgument", {"hook-script", "now"}, "It takes no arguments."},
 };
 
@@ -46,7 +52,8 @@ TEST(Help, GoesToStandardOutputAndNamesTheOptions) {
   const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("--help")});
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.errors, QString());
-  for (const char* option : {"--browser", "--headed", "--attach", "--timeout", "--junit", "--verbose", "SCRIPT..."}) {
+  for (const char* option :
+       {"--browser", "--headed", "--attach", "--timeout", "--junit", "--object-map", "--verbose", "SCRIPT..."}) {
     EXPECT_TRUE(result.output.contains(QLatin1String(option))) << option;
   }
 }

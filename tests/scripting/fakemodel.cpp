@@ -1,5 +1,6 @@
 #include "fakemodel.h"
 
+#include <QMap>
 #include <functional>
 #include <map>
 
@@ -200,6 +201,39 @@ public:
   int wrapperType() const override { return 0; }
 };
 
+/// The tree of the widgets, of which those with a value "nameless" have no name.
+class WidgetDelegate : public ObjectHierarchyDelegate {
+public:
+  WidgetDelegate() : ObjectHierarchyDelegate(text("Widget")) {}
+
+  QString qualifiedName(SharedPtr<Object> object) const override {
+    const Thing& thing = **nativeOf(object);
+    return thing.value == text("nameless") ? QString() : thing.name;
+  }
+  ObjectList children(SharedPtr<Object> object) const override {
+    QMap<QString, Native> inside;
+    for (const Native& thing : qAsConst(world().things)) {
+      if (thing->parent == (*nativeOf(object))->name) {
+        inside.insert(thing->name, thing);
+      }
+    }
+    ObjectList list;
+    for (const Native& thing : qAsConst(inside)) {
+      list.push_back(wrapThing(thing));
+    }
+    return list;
+  }
+  SharedPtr<Object> parent(SharedPtr<Object> object) const override {
+    const Native outer = world().things.value((*nativeOf(object))->parent);
+    return outer ? wrapThing(outer) : SharedPtr<Object>();
+  }
+  int numChildren(SharedPtr<Object>) const override { return 0; }
+  SharedPtr<Object> child(SharedPtr<Object>, int) const override { return nullptr; }
+  SharedPtr<Object> childByName(SharedPtr<Object>, const QString&) const override { return nullptr; }
+  QString name(SharedPtr<Object>) const override { return QString(); }
+  int wrapperType() const override { return 0; }
+};
+
 class TextDelegate : public CastDelegate {
 public:
   TextDelegate() : CastDelegate(text("Field")) {}
@@ -259,6 +293,7 @@ void reset() {
   static const bool classes = [] {
     makeClasses();
     new RootDelegate;
+    new WidgetDelegate;
     new TextDelegate;
     new SameDelegate;
     return true;

@@ -17,6 +17,8 @@ struct Thing {
   QString className;
   QString name;
   QString value;
+  /// The name of the thing that it lies in; empty for none.
+  QString parent;
   bool enabled = true;
   /// How often a readiness check still says no.
   int notReadyFor = 0;

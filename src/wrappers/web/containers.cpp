@@ -1,5 +1,6 @@
 #include "wrappers/web/containers.h"
 
+#include "corvexhook/inspector.h"
 #include "corvexhook/objectmap.h"
 
 namespace Corvex::WebWrapper {
@@ -42,6 +43,16 @@ std::list<ObjectName> splitByContainer(ObjectName name) {
   name.removeProperty(containerProperty());
   names.push_front(name);
   return names;
+}
+
+bool isEndlessChain(const std::list<ObjectName>& parts, const ObjectName& name) {
+  if (parts.size() < maxContainerChain) {
+    return false;
+  }
+  Inspector::self()->reportScriptError(
+      QStringLiteral("Invalid object name '%1': its containers go round in a circle. Correct the object map.")
+          .arg(name.qualifiedName()));
+  return true;
 }
 
 ObjectName joinByContainer(const std::list<ObjectName>& names) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "corvexhook/objectname.h"
+#include "wrappers/web/export.h"
 
 #include <list>
 
@@ -11,12 +12,15 @@ constexpr int maxContainerChain = 100;
 
 /// The chain of names from the outermost container down to the name itself, each without its container. A container
 /// that stands in the object map is taken from there.
-std::list<ObjectName> splitByContainer(ObjectName name);
+CORVEX_WEBWRAPPER_EXPORT std::list<ObjectName> splitByContainer(ObjectName name);
+
+/// Whether `parts`, the split `name`, is of that length, which is then reported to the script.
+bool isEndlessChain(const std::list<ObjectName>& parts, const ObjectName& name);
 
 /// The reverse of `splitByContainer`.
-ObjectName joinByContainer(const std::list<ObjectName>& names);
+CORVEX_WEBWRAPPER_EXPORT ObjectName joinByContainer(const std::list<ObjectName>& names);
 
 /// The name with `container` around its outermost container.
-ObjectName setObjectNameContainer(ObjectName name, QString container);
+CORVEX_WEBWRAPPER_EXPORT ObjectName setObjectNameContainer(ObjectName name, QString container);
 
 }  // namespace Corvex::WebWrapper

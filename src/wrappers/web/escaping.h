@@ -23,7 +23,7 @@ QString escapeQuotes(const QString& text);
 QString quotedArrayElements(const QStringList& texts);
 
 /// Undoes JavaScript's `escape`, and then turns every "&" into "&amp;". A "%" without digits behind it stays as it is.
-QString unescape(const QString& text);
+CORVEX_WEBWRAPPER_EXPORT QString unescape(const QString& text);
 
 /// Line breaks of two characters become single line feeds.
 QString translateLineEndings(const QString& text);

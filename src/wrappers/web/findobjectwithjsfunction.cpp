@@ -13,17 +13,17 @@ namespace {
 
 const unsigned int defaultTimeoutMs = 5000;
 
-unsigned int lookupTimeout() {
+}  // namespace
+
+unsigned int objectLookupTimeout() {
   bool isNumber = false;
   const unsigned int timeoutMs = environmentVariable("CORVEX_WEB_OBJECT_LOOKUP_TIMEOUT").toUInt(&isNumber, 10);
   return isNumber ? timeoutMs : defaultTimeoutMs;
 }
 
-}  // namespace
-
 SharedPtr<Object> findObjectWithJsFunction(const QString& code, const QString& name, HTMLComponent* component) {
   const FunctionCallResult<HTML_Object*> result =
-      htmlObjectFromJavaScriptResult(component, code, name, lookupTimeout());
+      htmlObjectFromJavaScriptResult(component, code, name, objectLookupTimeout());
   TRACE_POINT("WebObjectDelegate", QLatin1String("Generated html object for name ") + name + QLatin1String(": ") +
                                        (result.value ? result.value->reference : QStringLiteral("null")));
   if (result.failed()) {

@@ -5,6 +5,7 @@
 #include "wrappers/web/escaping.h"
 #include "wrappers/web/findobjectwithjsfunction.h"
 #include "wrappers/web/htmlcomponent.h"
+#include "wrappers/web/itemchildren.h"
 #include "wrappers/web/jsonanswer.h"
 #include "wrappers/web/references.h"
 #include "wrappers/web/retrievehtmlobject.h"
@@ -61,16 +62,23 @@ QString HTMLObjectHierarchyDelegate::name(SharedPtr<Object> object) const {
 
 int HTMLObjectHierarchyDelegate::wrapperType() const { return webWrapperType; }
 
+bool HTMLObjectHierarchyDelegate::refusesContext(const ObjectName& name) const {
+  if (!name.isMultiProperty() || !name.hasProperty(QStringLiteral("context"))) {
+    return false;
+  }
+  const QString qualifiedName = name.qualifiedName();
+  Inspector::self()->reportScriptError(
+      QStringLiteral("Invalid object name '%1'. Cannot lookup objects that have a context and a container property, "
+                     "please make sure the context property is set only on the 'top-most' object name in a hierarchy "
+                     "of containers.")
+          .arg(qualifiedName));
+  TRACE_POINT("WebObjectSearch", QLatin1String("Found object name with context and container: ") + qualifiedName);
+  return true;
+}
+
 SharedPtr<Object> HTMLObjectHierarchyDelegate::objectByQualifiedName(SharedPtr<Object> parent,
                                                                      const ObjectName& name) const {
-  const QString qualifiedName = name.qualifiedName();
-  if (name.isMultiProperty() && name.hasProperty(QStringLiteral("context"))) {
-    Inspector::self()->reportScriptError(
-        QStringLiteral("Invalid object name '%1'. Cannot lookup objects that have a context and a container property, "
-                       "please make sure the context property is set only on the 'top-most' object name in a hierarchy "
-                       "of containers.")
-            .arg(qualifiedName));
-    TRACE_POINT("WebObjectSearch", QLatin1String("Found object name with context and container: ") + qualifiedName);
+  if (refusesContext(name)) {
     return nullptr;
   }
   const std::list<ObjectName> parts = splitByContainer(name);
@@ -82,6 +90,7 @@ SharedPtr<Object> HTMLObjectHierarchyDelegate::objectByQualifiedName(SharedPtr<O
   if (!isReachable(native) || lacksTagName) {
     return nullptr;
   }
+  const QString qualifiedName = name.qualifiedName();
   const QString code = QLatin1String("__corvex__findObjectByProps( ") + native->reference + QLatin1String(", \"") +
                        escapeObjectNameForUseAsStringLiteral(qualifiedName) + QLatin1String("\");");
   return findObjectWithJsFunction(code, qualifiedName, native->component);
@@ -89,6 +98,9 @@ SharedPtr<Object> HTMLObjectHierarchyDelegate::objectByQualifiedName(SharedPtr<O
 
 SharedPtr<Object> HTMLObjectHierarchyDelegate::objectInContainer(SharedPtr<Object> parent, std::list<ObjectName> parts,
                                                                  const ObjectName& name) const {
+  if (isEndlessChain(parts, name)) {
+    return nullptr;
+  }
   const ObjectName first = parts.front();
   parts.pop_front();
   const ObjectHierarchyDelegate* parentDelegate = hierarchyDelegate(parent);
@@ -134,6 +146,7 @@ ObjectList HTMLObjectHierarchyDelegate::children(SharedPtr<Object> object) const
   }
   // Other work may have changed the cache during the page call.
   list.append(m_childCache.value(object));
+  list.append(extensionChildren(retrieveObject(object)));
   return list;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "wrappers/web/export.h"
+
 #include <QString>
 
 #include <list>
@@ -34,7 +36,7 @@ void clearReferences(const HTMLComponent* component);
 void invalidateReferences();
 
 /// What a script is told that uses a dead object.
-const QString& deadObjectReferenceError();
+CORVEX_WEBWRAPPER_EXPORT const QString& deadObjectReferenceError();
 const QString& deadStyleReferenceError();
 const QString& deadXPathResultReferenceError();
 

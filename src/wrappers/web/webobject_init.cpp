@@ -6,11 +6,14 @@
 #include "wrappers/web/html_anchor.h"
 #include "wrappers/web/html_array.h"
 #include "wrappers/web/html_button.h"
+#include "wrappers/web/html_calendarview.h"
 #include "wrappers/web/html_checkablebutton.h"
+#include "wrappers/web/html_customitem.h"
 #include "wrappers/web/html_document.h"
 #include "wrappers/web/html_form.h"
 #include "wrappers/web/html_formelement.h"
 #include "wrappers/web/html_image.h"
+#include "wrappers/web/html_menu.h"
 #include "wrappers/web/html_option.h"
 #include "wrappers/web/html_select.h"
 #include "wrappers/web/html_shadowroot.h"
@@ -45,14 +48,14 @@ constexpr ClassEntry classEntries[] = {
     own(HTML_Button_Class),
     own(HTML_ButtonBase_Class),
     inherited("HTML_CalendarEvent", "HTML_Object"),
-    inherited("HTML_CalendarView", "HTML_CustomItemView"),
+    own(HTML_CalendarView_Class),
     own(HTML_CheckBox_Class),
     inherited("HTML_ColorField", "HTML_Object"),
     inherited("HTML_CustomButton", "HTML_CustomButtonBase"),
     inherited("HTML_CustomButtonBase", "HTML_Object"),
     inherited("HTML_CustomCheckbox", "HTML_CustomButtonBase"),
     inherited("HTML_CustomComboBox", "HTML_FormElement"),
-    inherited("HTML_CustomItem", "HTML_Object"),
+    own(HTML_CustomItem_Class),
     inherited("HTML_CustomItemView", "HTML_FormElement"),
     inherited("HTML_CustomRadioButton", "HTML_CustomButtonBase"),
     inherited("HTML_CustomSelectList", "HTML_FormElement"),
@@ -79,7 +82,7 @@ constexpr ClassEntry classEntries[] = {
     inherited("HTML_KiwiTree", "HTML_TreeBase"),
     inherited("HTML_KiwiTreeTable", "HTML_FormElement"),
     inherited("HTML_KiwiTreeTableCell", "HTML_Object"),
-    inherited("HTML_Menu", "HTML_Object"),
+    own(HTML_Menu_Class),
     inherited("HTML_MenuButton", "HTML_CustomButtonBase"),
     inherited("HTML_MenuItem", "HTML_Object"),
     own(HTML_Object_Class),

@@ -25,7 +25,8 @@ public:
   SharedPtr<Object> objectByQualifiedName(SharedPtr<Object> parent, const ObjectName& name) const override;
   QString name(SharedPtr<Object> object) const override;
   QString qualifiedName(SharedPtr<Object> object) const override;
-  /// Asked of the page once per object and then kept, until one of the two operations below is called.
+  /// Asked of the page once per object and then kept, until one of the two operations below is called. Behind these
+  /// stand the items that only a toolkit knows, which are asked for each time.
   ObjectList children(SharedPtr<Object> object) const override;
   SharedPtr<Object> parent(SharedPtr<Object> object) const override;
   int wrapperType() const override;
@@ -36,6 +37,10 @@ public:
   /// The same for all objects of all connections.
   virtual void invalidateAllReferencedObjects() const;
 
+  /// Only the outermost name of a chain of containers may have a context. Whether this one, which is to be looked up
+  /// below an element, has one, which is then reported to the script.
+  bool refusesContext(const ObjectName& name) const;
+
 private:
   SharedPtr<Object> objectInContainer(SharedPtr<Object> parent, std::list<ObjectName> parts,
                                       const ObjectName& name) const;
@@ -43,6 +48,22 @@ private:
   void clearChildCache() const;
 
   mutable QMap<SharedPtr<Object>, std::vector<SharedPtr<Object>>> m_childCache;
+};
+
+/// The tree of items below an item of an item view. Items have no qualified name, and nothing is looked up below them.
+class CORVEX_WEBWRAPPER_EXPORT CustomViewItemPropertyDelegate : public ObjectHierarchyDelegate {
+public:
+  CustomViewItemPropertyDelegate();
+
+  int numChildren(SharedPtr<Object> item) const override;
+  SharedPtr<Object> child(SharedPtr<Object> item, int index) const override;
+  SharedPtr<Object> childByName(SharedPtr<Object> item, const QString& name) const override;
+  /// Empty for what is no item of a view.
+  QString name(SharedPtr<Object> item) const override;
+  QString qualifiedName(SharedPtr<Object> item) const override;
+  /// Asked of the page each time.
+  ObjectList children(SharedPtr<Object> item) const override;
+  int wrapperType() const override;
 };
 
 /// The root of the page tree, whose one child is the document of the current context. The embedding process supplies

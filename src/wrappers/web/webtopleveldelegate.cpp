@@ -113,10 +113,7 @@ SharedPtr<Object> WebToplevelDelegate::objectByQualifiedName(SharedPtr<Object> r
 
 SharedPtr<Object> WebToplevelDelegate::objectInContainer(std::list<ObjectName> parts, const ObjectName& name) const {
   const QString qualifiedName = name.qualifiedName();
-  if (parts.size() == maxContainerChain) {
-    Inspector::self()->reportScriptError(
-        QStringLiteral("Invalid object name '%1': its containers go round in a circle. Correct the object map.")
-            .arg(qualifiedName));
+  if (isEndlessChain(parts, name)) {
     return nullptr;
   }
   const SharedPtr<Object> container = objectByQualifiedName(nullptr, ObjectName(parts.front().qualifiedName()));

@@ -1,21 +1,10 @@
 #pragma once
 
+#include "wrappers/web/extensionbacked.h"
 #include "wrappers/web/html_button.h"
 #include "wrappers/web/html_select.h"
 
 namespace Corvex::WebWrapper {
-
-/// A page object for which a toolkit's extension script in the page answers.
-template <typename Base>
-class ExtensionBacked : public Base {
-public:
-  ExtensionBacked(const QString& name, const QString& objectReference, HTMLComponent* connection,
-                  const QString& extensionName)
-      : Base(name, objectReference, connection), extension(extensionName) {}
-
-  /// The script's name as the page wrote it.
-  QString extension;
-};
 
 /// A page object that keeps a text which tells it from others of its parent.
 template <typename Base>
@@ -183,27 +172,6 @@ public:
   const char* className() const override { return ScriptName; }
 };
 
-class HTML_CustomItemView : public ExtensionBacked<HTML_FormElement> {
-public:
-  static constexpr const char* ScriptName = "HTML_CustomItemView";
-  using ExtensionBacked<HTML_FormElement>::ExtensionBacked;
-  const char* className() const override { return ScriptName; }
-};
-
-class HTML_CalendarView : public HTML_CustomItemView {
-public:
-  static constexpr const char* ScriptName = "HTML_CalendarView";
-  using HTML_CustomItemView::HTML_CustomItemView;
-  const char* className() const override { return ScriptName; }
-};
-
-class HTML_CustomItem : public ExtensionBacked<HTML_Object> {
-public:
-  static constexpr const char* ScriptName = "HTML_CustomItem";
-  using ExtensionBacked<HTML_Object>::ExtensionBacked;
-  const char* className() const override { return ScriptName; }
-};
-
 class HTML_CustomComboBox : public ExtensionBacked<HTML_FormElement> {
 public:
   static constexpr const char* ScriptName = "HTML_CustomComboBox";
@@ -295,30 +263,9 @@ public:
   const char* className() const override { return ScriptName; }
 };
 
-class HTML_Menu : public ExtensionBacked<HTML_Object> {
-public:
-  static constexpr const char* ScriptName = "HTML_Menu";
-  using ExtensionBacked<HTML_Object>::ExtensionBacked;
-  const char* className() const override { return ScriptName; }
-};
-
-class HTML_MenuItem : public ExtensionBacked<HTML_Object> {
-public:
-  static constexpr const char* ScriptName = "HTML_MenuItem";
-  using ExtensionBacked<HTML_Object>::ExtensionBacked;
-  const char* className() const override { return ScriptName; }
-};
-
 class HTML_DateChooser : public ExtensionBacked<HTML_Object> {
 public:
   static constexpr const char* ScriptName = "HTML_DateChooser";
-  using ExtensionBacked<HTML_Object>::ExtensionBacked;
-  const char* className() const override { return ScriptName; }
-};
-
-class HTML_CalendarEvent : public ExtensionBacked<HTML_Object> {
-public:
-  static constexpr const char* ScriptName = "HTML_CalendarEvent";
   using ExtensionBacked<HTML_Object>::ExtensionBacked;
   const char* className() const override { return ScriptName; }
 };

@@ -182,6 +182,8 @@ TEST_F(Delegates, PlainNamesLeadFromChildToChild) {
   page.answerValue("childObjectAndInfo( html )", "[]");
   EXPECT_EQ(inspector->lookup("DOCUMENT")->toString(), QString("doc"));
   EXPECT_EQ(inspector->lookup("DOCUMENT.HTML1")->toString(), QString("html"));
+  page.answerObject("__corvex__documentOfContext('f')", "document", "inner");
+  EXPECT_EQ(inspector->lookup("DOCUMENT[f].")->toString(), QString("inner"));
   EXPECT_FALSE(inspector->lookup("DOCUMENT.HTML1.BODY1"));
   page.answerObject("__corvex__findObjectByHeuristic(\"Version 1.0\");", "a", "link");
   EXPECT_EQ(inspector->lookup("Version 1.0")->toString(), QString("link"));

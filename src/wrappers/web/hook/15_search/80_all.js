@@ -1,0 +1,78 @@
+// Gives: __corvex.findAllObjects: every element that a name fits, where a search for one would look.
+// Needs: 30_properties.js, 60_hittest.js; __corvex__childRecord, contexts and frames of the runtime when called.
+
+// Adds the hits of nm in a document, or below an element, to those of other places.
+function __corvex__addHits(container, nm, hits) {
+  var map = __corvex__propertyMap(nm);
+  // A link may be a hit by itself, and once more by each of its images.
+  var repeats = __corvex__mapEntry(map, "tagName") && __corvex__isImageLink(map);
+  __corvex__searchByProps(container, map, nm, function (hit) {
+    if (!repeats || !__corvex__listHolds(hits, hit)) {
+      hits[hits.length] = hit;
+    }
+    return false;
+  });
+}
+
+function __corvex__addWindows(w, windows) {
+  if (!__corvex__listHolds(windows, w)) {
+    windows[windows.length] = w;
+  }
+  try {
+    var frames = window.top.__corvex.getAllFrames(w.document);
+    for (var i = 0; i < frames.length; ++i) {
+      if (__corvex__isFrameAccessible(frames[i])) {
+        __corvex__addWindows(frames[i].contentWindow, windows);
+      }
+    }
+  } catch (e) { /* a document whose frames cannot be read */ }
+}
+
+// The windows in the order of a search: the current context, then all others.
+function __corvex__windowsToSearch() {
+  var windows = [__corvex__ctxwin];
+  var contexts = __corvex__contextList();
+  for (var i = 0; i < contexts.length; ++i) {
+    __corvex__addWindows(contexts[i], windows);
+  }
+  return windows;
+}
+
+function __corvex__hitsInPage(nm) {
+  var hits = [];
+  var searched = [];
+  var before = __corvex__ctxwin;
+  var windows = __corvex__windowsToSearch();
+  for (var i = 0; i < windows.length; ++i) {
+    __corvex__ctxwin = windows[i];
+    try {
+      // A name with a context leads into the same document from everywhere.
+      var doc = __corvex__effectiveContainer(windows[i].document, __corvex__propertyMap(nm), nm);
+      if (!__corvex__listHolds(searched, doc)) {
+        searched[searched.length] = doc;
+        __corvex__addHits(doc, nm, hits);
+      }
+    } catch (e) { /* none in this document */ }
+  }
+  __corvex__ctxwin = before;
+  return hits;
+}
+
+// Records of all hits of nm, whatever its occurrence: below container, or in the whole page without one.
+window.top.__corvex.findAllObjects = function (nm, container) {
+  var hits = [];
+  if (!container) {
+    window.top.__corvex.sentUnmatchedProperties = [];
+    hits = __corvex__hitsInPage(nm);
+  } else if (__corvex__propertyMap(nm)) {
+    __corvex__addHits(container, nm, hits);
+  }
+  if (hits.length) {
+    __corvex__removeUnmatchedProperties(nm);
+  }
+  var records = [];
+  for (var i = 0; i < hits.length; ++i) {
+    records[i] = __corvex__childRecord(hits[i], "");
+  }
+  return records;
+};

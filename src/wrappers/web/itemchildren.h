@@ -1,0 +1,25 @@
+#pragma once
+
+#include "corvexhook/functioncallresult.h"
+#include "corvexhook/object.h"
+
+#include <QString>
+
+namespace Corvex::WebWrapper {
+
+class HTMLComponent;
+class HTML_Object;
+
+/// The objects of a list that the page made: records of a name, "|", a reference, "~", a type and "#". A record without
+/// its end is lost; "[err]" is the empty list.
+ObjectList parseItemViewBasedChildInfo(HTMLComponent* component, const QString& text);
+
+/// Asks an item view or an item for its items through a function of the page, which gets the extension's object too.
+FunctionCallResult<ObjectList> fetchItems(const char* function, const HTML_Object& parent,
+                                          const QString& extensionObject);
+
+/// The children of an element that its DOM does not show: those that only the toolkit behind it knows. What fails is
+/// told on standard error; the list is what there is without it.
+ObjectList extensionChildren(HTML_Object* object);
+
+}  // namespace Corvex::WebWrapper
