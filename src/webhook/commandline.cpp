@@ -1,8 +1,10 @@
 #include "webhook/commandline.h"
 
 #include "webhook/hookscriptcommand.h"
+#include "webhook/namescommand.h"
 #include "webhook/output.h"
 #include "webhook/runcommand.h"
+#include "webhook/treecommand.h"
 
 #include <QCoreApplication>
 
@@ -18,6 +20,8 @@ struct Command {
 
 const Command commands[] = {
     {"run", "run test scripts in a browser", runScriptsCommand},
+    {"names", "check that the names of a page's elements find them again", namesCommand},
+    {"tree", "show the objects of a page as a tree", treeCommand},
     {"hook-script", "print the script that hooks a page", hookScriptCommand},
 };
 

@@ -35,7 +35,8 @@ sockaddr_in loopbackAddress() {
 bool hasReceivedBytes(int socket) {
   tcp_info info = {};
   socklen_t size = sizeof info;
-  return ::getsockopt(socket, IPPROTO_TCP, TCP_INFO, &info, &size) == 0 && info.tcpi_bytes_received > 0;
+  // The end of a connection counts as a byte, too.
+  return ::getsockopt(socket, IPPROTO_TCP, TCP_INFO, &info, &size) == 0 && info.tcpi_bytes_received > 1;
 }
 
 /// Signals are the business of the thread that installed their handlers.

@@ -1,9 +1,8 @@
 #include "webhook/hookinjector.h"
 
+#include "webhook/inpagetext.h"
 #include "wrappers/web/getjscode.h"
 #include "wrappers/web/wrapperconfig.h"
-
-#include <QFile>
 
 namespace Corvex {
 namespace Webhook {
@@ -80,11 +79,6 @@ QString globals(const WrapperConfig& config, const BrowserIdentity& browser) {
   return text;
 }
 
-QString inPageFile(const char* name) {
-  QFile file(QStringLiteral(":/webhook/") + QLatin1String(name));
-  return file.open(QIODevice::ReadOnly) ? QLatin1Char('\n') + QString::fromUtf8(file.readAll()) : QString();
-}
-
 QString members(const WrapperConfig& config, const BrowserIdentity& browser) {
   QString text = assignment("window.__corvex.browsermajorversion", QString::number(browser.majorVersion));
   for (const ConfigVariable& row : namespaceMembers) {
@@ -99,12 +93,12 @@ QString members(const WrapperConfig& config, const BrowserIdentity& browser) {
 }  // namespace
 
 QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
-  const QString dialogTexts = browser.opensNativeDialogs() ? QString() : inPageFile("dialogtexts.js");
+  const QString dialogTexts = browser.opensNativeDialogs() ? QString() : inPageText("dialogtexts.js");
   return QStringLiteral(
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
-         members(config, browser) + inPageFile("ownjson.js") + WebWrapper::getJSCode(config) + dialogTexts +
-         inPageFile("fallback.js") + QStringLiteral("\n}");
+         members(config, browser) + inPageText("ownjson.js") + WebWrapper::getJSCode(config) + dialogTexts +
+         inPageText("fallback.js") + QStringLiteral("\n}");
 }
 
 }  // namespace Webhook

@@ -33,9 +33,10 @@ QString ProgramRun::write(const QString& name, const QString& text) {
 void ProgramRun::start(const QStringList& arguments) {
   const QString browser = m_environment.value(QStringLiteral("CORVEX_TEST_BROWSER"));
   QStringList whole = arguments;
-  if (arguments.value(0) == QLatin1String("run") && !browser.isEmpty() &&
+  const QStringList browserCommands = {QStringLiteral("run"), QStringLiteral("names"), QStringLiteral("tree")};
+  if (browserCommands.contains(arguments.value(0)) && !browser.isEmpty() &&
       !arguments.contains(QStringLiteral("--browser"))) {
-    whole = QStringList{QStringLiteral("run"), QStringLiteral("--browser"), browser} + arguments.mid(1);
+    whole = QStringList{arguments.first(), QStringLiteral("--browser"), browser} + arguments.mid(1);
   }
   m_process.setProcessEnvironment(m_environment);
   m_process.start(QStringLiteral(CORVEX_PROGRAM), whole);

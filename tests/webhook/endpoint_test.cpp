@@ -310,6 +310,16 @@ TEST_F(Endpoint, BoundsRequestsInFlightAndMessagesNotTaken) {
   EXPECT_EQ(refused("busy"), 2u);
 }
 
+TEST_F(Endpoint, ConnectionsThatAreClosedUnusedAreNoRequests) {
+  EndpointLimits limits;
+  limits.connections = 1;
+  start(limits);
+  // Browsers open connections ahead of their requests. The next one is served when this one is gone.
+  std::make_unique<RawClient>(endpoint->port()).reset();
+  EXPECT_EQ(ask(get("logevent1")).status, 200);
+  EXPECT_EQ(refused("malformed"), 0u);
+}
+
 TEST_F(Endpoint, DropsSlowAndSilentConnectionsAndGoesOn) {
   EndpointLimits limits;
   limits.requestTime = 50;

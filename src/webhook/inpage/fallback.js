@@ -33,8 +33,9 @@ window.__corvex.keepNativeDialogs = function () {
   }
 };
 
-// An empty page has no address of its own by which the driver could know it.
-if (location.protocol === "about:") {
+// An empty page, or one by which a browser tells of an error, has no address of its own by which the driver could
+// know it.
+if (location.protocol === "about:" || /^about:/.test(document.documentURI)) {
   window.__corvex.useSessionStorageForEvents = true;
 }
 
