@@ -21,7 +21,7 @@ const QCommandLineOption capabilitiesOption(
     QStringLiteral("json"));
 const QCommandLineOption timeoutOption(
     QStringLiteral("timeout"),
-    QStringLiteral("How long waitForObject waits, and a page may take to answer: 20 at first."),
+    QStringLiteral("How long a page may take to load or answer, and waitForObject waits: 20 at first."),
     QStringLiteral("seconds"), QStringLiteral("20"));
 
 }  // namespace

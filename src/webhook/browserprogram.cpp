@@ -28,8 +28,8 @@ Program programAt(const QString& name, const QString& errorWithoutOne) {
 
 Program find(const Family& family, const QString& wanted) {
   if (!wanted.isEmpty() && wanted != family.word) {
-    return programAt(wanted,
-                     QStringLiteral("There is no browser '%1'. Give the path of %2.").arg(wanted, family.description));
+    return programAt(wanted, QStringLiteral("There is no browser '%1'. Give chromium, firefox, or the path of %2.")
+                                 .arg(wanted, family.description));
   }
   const QString fromEnvironment = QString::fromLocal8Bit(qgetenv(family.variable.toLatin1().constData()));
   if (!fromEnvironment.isEmpty()) {

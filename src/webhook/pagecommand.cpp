@@ -37,7 +37,8 @@ std::optional<int> PageCommand::parse(const QStringList& arguments) {
   if (error.isEmpty() && m_parser.isSet(settleOption)) {
     error = readSeconds(m_parser, settleOption, &m_settleMs);
   }
-  const QStringList addresses = m_parser.positionalArguments();
+  QStringList addresses = m_parser.positionalArguments();
+  addresses.removeAll(QString());
   if (error.isEmpty() && addresses.size() != 1) {
     error = addresses.isEmpty() ? QStringLiteral("The page's URL is missing.")
                                 : QStringLiteral("It takes one URL, not %1.").arg(addresses.size());
@@ -82,6 +83,8 @@ bool PageCommand::dismissDialogs() {
   while (dismissed < mostDialogs && m_browser->windowTrouble().isEmpty() && page().openDialog() &&
          page().answerDialog(false, QString()).isEmpty()) {
     ++dismissed;
+    // An answer means that the page has gone on, as far as its next dialog.
+    page().evaluateJS(QStringLiteral("0"), 0);
   }
   return dismissed > 0;
 }

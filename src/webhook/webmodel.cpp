@@ -109,13 +109,9 @@ ObjectList WebModel::findAll(const std::vector<SharedPtr<Object>>& roots, const 
   ObjectList all;
   const bool picksOne = WebWrapper::namesOneOccurrence(name);
   for (const SharedPtr<Object>& root : roots) {
-    if (picksOne) {
-      const SharedPtr<Object> found = m_toplevel->objectByQualifiedName(root, name);
-      if (found || Inspector::self()->hasScriptError()) {
-        return found ? ObjectList{found} : ObjectList();
-      }
-    } else {
-      all.append(WebWrapper::findAllObjects(*m_toplevel, root, name));
+    all.append(WebWrapper::findAllObjects(*m_toplevel, root, name));
+    if (picksOne && !all.isEmpty()) {
+      break;
     }
   }
   return all;

@@ -35,7 +35,7 @@ window.__corvex.keepNativeDialogs = function () {
 
 // An empty page, or one by which a browser tells of an error, has no address of its own by which the driver could
 // know it.
-if (location.protocol === "about:" || /^about:/.test(document.documentURI)) {
+if (/^(about|chrome-error):/.test(location.protocol) || /^about:/.test(document.documentURI)) {
   window.__corvex.useSessionStorageForEvents = true;
 }
 

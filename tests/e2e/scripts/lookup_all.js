@@ -39,4 +39,5 @@ for (var i = 1; i <= 3; ++i) {
 
 setContext("lookup.html.FRAME1");
 test.compare(found("{tagName='P'}"), "left one two three nest inner", "the current context comes first");
+test.compare(found("{tagName='P' occurrence='2'}"), "two");
 test.compare(where(), "left", "and stays the current one");

@@ -48,9 +48,14 @@ function __corvex__exactText(entry) {
   return entry && entry.modifiers === PropertyValue_StrictMatch ? entry.value : "";
 }
 
-function __corvex__matchesToSkip(map) {
-  var text = __corvex__exactText(
+// Empty if the name does not say which of its hits is meant.
+function __corvex__occurrenceOf(map) {
+  return __corvex__exactText(
     __corvex__mapEntry(map, "occurrence") || __corvex__mapEntry(map, "occurance"));
+}
+
+function __corvex__matchesToSkip(map) {
+  var text = __corvex__occurrenceOf(map);
   return text === "" ? 0 : Number(text) - 1;
 }
 

@@ -1,9 +1,17 @@
 // Gives: __corvex.findAllObjects: every element that a name fits, where a search for one would look.
 // Needs: 30_properties.js, 60_hittest.js; __corvex__childRecord, contexts and frames of the runtime when called.
 
-// Adds the hits of nm in a document, or below an element, to those of other places.
+// Adds the hits of nm in a document, or below an element, to those of other places. A name with an occurrence means the
+// one that a search finds.
 function __corvex__addHits(container, nm, hits) {
   var map = __corvex__propertyMap(nm);
+  if (__corvex__occurrenceOf(map) !== "") {
+    var found = hits.length ? undefined : __corvex__findObjectByProps(container, nm);
+    if (found) {
+      hits[0] = found;
+    }
+    return;
+  }
   // A link may be a hit by itself, and once more by each of its images.
   var repeats = __corvex__mapEntry(map, "tagName") && __corvex__isImageLink(map);
   __corvex__searchByProps(container, map, nm, function (hit) {
@@ -58,7 +66,7 @@ function __corvex__hitsInPage(nm) {
   return hits;
 }
 
-// Records of all hits of nm, whatever its occurrence: below container, or in the whole page without one.
+// Records of all hits of nm: below container, or in the whole page without one.
 window.top.__corvex.findAllObjects = function (nm, container) {
   var hits = [];
   if (!container) {
