@@ -1,4 +1,5 @@
-// Starts a browser, says where, and goes the way that its argument names.
+// Starts a browser, says where, and goes the way that its argument names: it exits as soon as it is told to by a line,
+// or is stuck.
 
 #include <QCoreApplication>
 #include <cstdio>
@@ -19,6 +20,7 @@ int main(int argc, char** argv) {
   std::printf("%lld %s\n", start->session->browserProcess(), start->session->browserDirectory().toUtf8().constData());
   std::fflush(stdout);
   if (way == QLatin1String("exit")) {
+    std::getchar();
     std::exit(7);
   }
   volatile bool stuck = true;

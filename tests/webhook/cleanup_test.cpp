@@ -46,6 +46,8 @@ TEST_P(CleanupTest, NoProcessAndNoDirectoryOutlivesTheProgram) {
   EXPECT_FALSE(processesThatKnow(directory).isEmpty());
   if (GetParam().signal) {
     kill(pid_t(probe.processId()), GetParam().signal);
+  } else {
+    probe.write("\n");
   }
   ASSERT_TRUE(probe.waitForFinished(30000));
 

@@ -116,11 +116,14 @@ function __corvex__nameOfImage(o) {
 }
 
 function __corvex__nameOfBySingleProp(o) {
-  if (o.id) {
-    return o.id;
+  var id = __corvex__node.id(o);
+  if (id) {
+    return id;
   }
-  if (o.name) {
-    return o.name;
+  // A field of that name hides the name of a form.
+  var name = typeof o.name === "object" ? __corvex__getObjectAttribute(o, "name") : o.name;
+  if (name) {
+    return name;
   }
   if (o.type === "button" && (o.value || o.innerText)) {
     return o.value || o.innerText;
