@@ -98,6 +98,9 @@ TEST_F(ScriptTree, AllObjectsOfANameComeFromTheEmbeddingProcess) {
 }
 
 TEST_F(ScriptTree, ManyLookupsLeaveNoMemoryBehind) {
+  if (TestSupport::freedMemoryStays) {
+    GTEST_SKIP() << "freed memory stays resident in this build";
+  }
   qint64 before = 0;
   host.functions.push_back({s("mark"), s("mark()"), 0, 0, [&](const ObjectList&) {
                               before = TestSupport::residentBytes();

@@ -13,4 +13,11 @@ inline qint64 residentBytes() {
   return numbers.value(1).toLongLong() * sysconf(_SC_PAGESIZE);
 }
 
+/// AddressSanitizer holds freed memory back for a while, so that the resident memory tells nothing.
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool freedMemoryStays = true;
+#else
+constexpr bool freedMemoryStays = false;
+#endif
+
 }  // namespace TestSupport
