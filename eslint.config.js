@@ -62,7 +62,7 @@ module.exports = [
   { linterOptions: { reportUnusedDisableDirectives: 'off' } },
   { ignores: ['node_modules/**', 'build/**', 'build-*/**'] },
   {
-    files: ['src/wrappers/web/hook/**/*.js', 'extensions/web/*.js', 'src/webhook/inpage/*.js'],
+    files: ['src/wrappers/web/hook/**/*.js', 'extensions/web/*.js', 'src/webhook/**/*.js'],
     languageOptions: {
       ecmaVersion: 5,
       sourceType: 'script',

@@ -1,7 +1,7 @@
 // Measures the program in the browsers that it drives, one table for each.
 
 #include "subjects.h"
-#include "webhook/cleanup.h"
+#include "webhook/process/cleanup.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

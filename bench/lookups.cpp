@@ -2,10 +2,10 @@
 #include "corvexhook/inspector.h"
 #include "hookedpage.h"
 #include "subjects.h"
-#include "wrappers/web/calljavascriptfunction.h"
-#include "wrappers/web/getjscode.h"
-#include "wrappers/web/webobject.h"
-#include "wrappers/web/wraphtmlobject.h"
+#include "wrappers/web/object/webobject.h"
+#include "wrappers/web/object/wraphtmlobject.h"
+#include "wrappers/web/page/calljavascriptfunction.h"
+#include "wrappers/web/setup/getjscode.h"
 
 namespace CorvexBench {
 

@@ -1,6 +1,6 @@
 #include "hookedpage.h"
+#include "shared/wait.h"
 #include "subjects.h"
-#include "wrappers/web/sleeping.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -40,7 +40,7 @@ bool measureMessages(const SessionOptions& options, Report& report) {
           .arg(messageCount),
       0);
   while (received < messageCount && timer.elapsed() < giveUpMs) {
-    WebWrapper::gentleSleep(1);
+    gentleSleep(1);
   }
   report.section(QStringLiteral("Messages of one page, 2,000 one behind the other"));
   report.addNumber(QStringLiteral("taken"), received);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "report.h"
-#include "webhook/browsersession.h"
+#include "webhook/browser/browsersession.h"
 
 namespace CorvexBench {
 

@@ -1,5 +1,5 @@
-#include "webhook/cleanup.h"
-#include "webhook/commandline.h"
+#include "webhook/cli/commandline.h"
+#include "webhook/process/cleanup.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

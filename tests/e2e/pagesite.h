@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "program/programrun.h"
+#include "support/programrun.h"
 #include "support/testserver.h"
 
 namespace TestSupport {

@@ -9,9 +9,9 @@
 
 #include "geometry/virtualscreen.h"
 #include "support/testserver.h"
-#include "webhook/browsersession.h"
-#include "webhook/connection.h"
-#include "wrappers/web/wrapperconfig.h"
+#include "webhook/browser/browsersession.h"
+#include "webhook/pages/connection.h"
+#include "wrappers/web/setup/wrapperconfig.h"
 
 namespace TestSupport {
 

@@ -8,7 +8,7 @@
 #include "names/pagegenerator.h"
 #include "support/hookedbrowser.h"
 #include "support/printing.h"
-#include "webhook/names.h"
+#include "webhook/inspect/names.h"
 
 namespace {
 

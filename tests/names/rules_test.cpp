@@ -4,7 +4,7 @@
 
 #include "support/hookedbrowser.h"
 #include "support/printing.h"
-#include "webhook/names.h"
+#include "webhook/inspect/names.h"
 
 namespace {
 

@@ -8,9 +8,9 @@
 #include "names/pagegenerator.h"
 #include "support/hookedbrowser.h"
 #include "support/printing.h"
-#include "webhook/names.h"
-#include "wrappers/web/retrievehtmlobject.h"
-#include "wrappers/web/wraphtmlobject.h"
+#include "webhook/inspect/names.h"
+#include "wrappers/web/object/retrievehtmlobject.h"
+#include "wrappers/web/object/wraphtmlobject.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QFile>
 #include <QXmlStreamReader>
 
-#include "program/programrun.h"
 #include "support/printing.h"
+#include "support/programrun.h"
 
 namespace {
 

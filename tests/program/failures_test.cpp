@@ -4,8 +4,8 @@
 
 #include <signal.h>
 
-#include "program/programrun.h"
 #include "support/printing.h"
+#include "support/programrun.h"
 #include "support/testserver.h"
 
 namespace {

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "program/programrun.h"
 #include "support/printing.h"
+#include "support/programrun.h"
 
 namespace {
 

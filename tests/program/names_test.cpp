@@ -6,8 +6,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "program/programrun.h"
 #include "support/printing.h"
+#include "support/programrun.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <QJsonObject>
 #include <QUrl>
 
-#include "program/programrun.h"
 #include "support/printing.h"
+#include "support/programrun.h"
 #include "support/testserver.h"
 
 namespace {

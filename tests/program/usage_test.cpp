@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "program/programrun.h"
 #include "support/printing.h"
+#include "support/programrun.h"
 
 namespace {
 

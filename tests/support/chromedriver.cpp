@@ -5,12 +5,13 @@
 #include <QRegularExpression>
 #include <QStandardPaths>
 
-#include "webhook/childprocess.h"
-#include "webhook/temporarydirectory.h"
-#include "webhook/wait.h"
+#include "shared/wait.h"
+#include "webhook/process/childprocess.h"
+#include "webhook/process/temporarydirectory.h"
 
 namespace TestSupport {
 
+using namespace Corvex;
 using namespace Corvex::Webhook;
 
 ChromeDriver::ChromeDriver() : m_directory(std::make_unique<TemporaryDirectory>()) {

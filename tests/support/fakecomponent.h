@@ -1,7 +1,7 @@
 #pragma once
 
-#include "wrappers/web/htmlcomponent.h"
-#include "wrappers/web/wrapperconfig.h"
+#include "wrappers/web/page/htmlcomponent.h"
+#include "wrappers/web/setup/wrapperconfig.h"
 
 #include <QStringList>
 

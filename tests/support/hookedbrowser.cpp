@@ -9,7 +9,7 @@
 #include <cstdlib>
 
 #include "support/printing.h"
-#include "webhook/endpointpolicy.h"
+#include "webhook/endpoint/endpointpolicy.h"
 
 namespace TestSupport {
 

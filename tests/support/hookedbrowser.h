@@ -5,11 +5,11 @@
 #include <memory>
 
 #include "support/testserver.h"
-#include "webhook/browsersession.h"
-#include "webhook/browserwindows.h"
-#include "webhook/endpoint.h"
-#include "webhook/webmodel.h"
-#include "wrappers/web/wrapperconfig.h"
+#include "webhook/browser/browsersession.h"
+#include "webhook/endpoint/endpoint.h"
+#include "webhook/pages/browserwindows.h"
+#include "webhook/pages/webmodel.h"
+#include "wrappers/web/setup/wrapperconfig.h"
 
 namespace TestSupport {
 

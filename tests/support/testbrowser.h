@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "webhook/browsersession.h"
+#include "webhook/browser/browsersession.h"
 
 namespace TestSupport {
 

@@ -3,9 +3,9 @@
 #include "corvexhook/inspector.h"
 #include "support/fakecomponent.h"
 #include "support/printing.h"
-#include "wrappers/web/sharedobjectmodelfunctions.h"
-#include "wrappers/web/webobject_init.h"
-#include "wrappers/web/wraphtmlobject.h"
+#include "wrappers/web/catalogue/webobject_init.h"
+#include "wrappers/web/input/sharedobjectmodelfunctions.h"
+#include "wrappers/web/object/wraphtmlobject.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,109 @@
+#include "webhook/backends/bidi/bidievaluation.h"
+
+#include "webhook/browser/pageerrors.h"
+
+namespace Corvex::Webhook {
+
+namespace {
+
+/// What one evaluation gave; lets go of the object behind it with its end.
+class Held {
+public:
+  Held(PageCall& call, const Reply& reply) : m_call(call), m_outcome(Bidi::readOutcome(reply.result)) {}
+  ~Held() {
+    if (!m_outcome.handle.isEmpty()) {
+      m_call.post(Bidi::release(m_outcome.realm, m_outcome.handle));
+    }
+  }
+  Held(const Held&) = delete;
+  Held& operator=(const Held&) = delete;
+
+  const Bidi::Outcome* operator->() const { return &m_outcome; }
+
+private:
+  PageCall& m_call;
+  const Bidi::Outcome m_outcome;
+};
+
+Evaluation abortedBy(const PageCall& call, const Reply& reply) { return {call.errorOf(reply), false, true}; }
+
+bool isAboutTheElement(const QString& refusal) {
+  for (const char* code : {"unable to set file input", "no such element", "no such node", "invalid argument"}) {
+    if (refusal.startsWith(QLatin1String(code))) {
+      return true;
+    }
+  }
+  return false;
+}
+
+Reply askToEvaluate(PageCall& call, const Bidi::Place& place, const QString& code) {
+  const Reply reply = call.ask(Bidi::evaluate(place, code));
+  const bool isGone = reply.status == Reply::Refused && reply.error.startsWith(QLatin1String("no such"));
+  return isGone && !place.realm.isEmpty() ? call.ask(Bidi::evaluate({place.context, {}}, code)) : reply;
+}
+
+/// An element as it can be named to the browser; without an id if it is none.
+struct NamedElement {
+  QString context;  ///< The page or the frame that it belongs to.
+  QString sharedId;
+};
+
+NamedElement nameElement(PageCall& call, const QString& page, const Held& element) {
+  const Reply owner = call.ask(Bidi::handOverElement(element->realm, element->handle));
+  const QString context = owner.isAnswered() ? Bidi::readOutcome(owner.result).window : QString();
+  if (context.isEmpty() || context == page) {
+    return {page, element->sharedId};
+  }
+  const Reply reply = call.ask(Bidi::handedOverElement(context));
+  if (!reply.isAnswered()) {
+    return {};
+  }
+  const Held handedOver(call, reply);
+  return {context, handedOver->sharedId};
+}
+
+}  // namespace
+
+Evaluation evaluateInPage(PageCall& call, const Bidi::Place& place, const QString& code) {
+  const Reply reply = askToEvaluate(call, place, code);
+  if (!reply.isAnswered()) {
+    return abortedBy(call, reply);
+  }
+  const Held value(call, reply);
+  if (value->thrown || value->handle.isEmpty()) {
+    return {value->text, value->thrown, false};
+  }
+  const Reply textReply = call.ask(Bidi::textOfObject(value->realm, value->handle));
+  if (!textReply.isAnswered()) {
+    return abortedBy(call, textReply);
+  }
+  const Bidi::Outcome text = Bidi::readOutcome(textReply.result);
+  return {text.text, text.thrown, false};
+}
+
+QString putFilesInto(PageCall& call, const Bidi::Place& place, const QString& referenceExpression,
+                     const QStringList& paths) {
+  const Reply reference = askToEvaluate(call, place, referenceExpression);
+  if (!reference.isAnswered()) {
+    return call.errorOf(reference);
+  }
+  const Held element(call, reference);
+  if (element->thrown) {
+    return element->text.section(QLatin1Char('\n'), 0, 0);
+  }
+  const NamedElement named = element->handle.isEmpty() ? NamedElement() : nameElement(call, place.context, element);
+  if (named.sharedId.isEmpty()) {
+    return PageErrors::noFileInput(referenceExpression);
+  }
+  const Reply reply = call.ask(Bidi::setFiles(named.context, named.sharedId, paths));
+  if (reply.isAnswered()) {
+    return {};
+  }
+  if (reply.status != Reply::Refused) {
+    return call.errorOf(reply);
+  }
+  return isAboutTheElement(reply.error) ? PageErrors::noFileInput(referenceExpression)
+                                        : PageErrors::filesRefused(paths, reply.error);
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,264 @@
+#include "webhook/backends/bidi/bidipage.h"
+
+#include "webhook/backends/bidi/bidievaluation.h"
+#include "webhook/backends/bidi/bidisession.h"
+#include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/devtools.h"
+#include "webhook/protocol/startscript.h"
+
+#include <QFileInfo>
+
+namespace Corvex::Webhook {
+
+BidiPage::BidiPage(Channel& channel, BidiSession& session, const Bidi::Context& context)
+    : ProtocolPage(channel, session, context.id, context.url), m_bidiSession(session), m_context(context.id) {
+  channel.subscribe(m_context, this,
+                    [this](const QString& method, const QJsonObject& parameters) { takeEvent(method, parameters); });
+  m_devTools = channel.start({}, Bidi::devToolsSession(m_context));
+}
+
+BidiPage::~BidiPage() { m_realmThere->complete(); }
+
+void BidiPage::watchFrame(const QString& frame) {
+  channel().subscribe(frame, this, [this](const QString& method, const QJsonObject& parameters) {
+    if (method.startsWith(QLatin1String("browsingContext.userPrompt"))) {
+      takeEvent(method, parameters);
+    }
+  });
+}
+
+Bidi::Place BidiPage::place() const {
+  // Browsers that know DevTools sessions hold code for a page back while a document of it is on its way, and for ever
+  // in a window that a page opened; but not code for a certain document.
+  return {m_context, Bidi::readDevToolsSession(m_devTools->reply.result).isEmpty() ? QString() : m_realm};
+}
+
+QString BidiPage::awaitPlace(PageCall& call) {
+  const QPointer<BidiPage> self(this);
+  if (!devToolsSession(call).isEmpty() && self) {
+    const std::shared_ptr<Pending> there = m_realmThere;
+    waitFor(*there, call.deadline());
+  }
+  return self ? whyUnavailable() : PageErrors::pageClosed();
+}
+
+Evaluation BidiPage::evaluate(const QString& code, int timeoutMs) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return {obstacle, false, true};
+  }
+  PageCall call = makeCall(timeoutMs);
+  const QPointer<BidiPage> self(this);
+  const QString newObstacle = awaitPlace(call);
+  if (!newObstacle.isEmpty()) {
+    return {newObstacle, false, true};
+  }
+  const Evaluation evaluation = evaluateInPage(call, place(), code);
+  if (self && evaluation.aborted && isAvailable() && call.deadline().hasExpired()) {
+    endRunningCode();
+  }
+  return evaluation;
+}
+
+void BidiPage::endRunningCode() {
+  const QString devTools = Bidi::readDevToolsSession(m_devTools->reply.result);
+  if (devTools.isEmpty()) {
+    return;
+  }
+  // When the code has just ended by itself, the next code is ended in its place, so there must be some.
+  start(Bidi::throughDevTools(devTools, DevTools::terminate()));
+  start(Bidi::throughDevTools(devTools, DevTools::evaluate(QStringLiteral("0"), {}, 1000)));
+}
+
+Reply BidiPage::loadAndWait(PageCall& call, const QString& url, PageLoading& loading) {
+  Reply reply = call.ask(Bidi::navigate(m_context, url));
+  if (reply.status == Reply::Refused) {
+    reply.error = Bidi::readNavigationError(reply.error);
+  }
+  if (!reply.isAnswered()) {
+    return reply;
+  }
+  loading.expect(Bidi::readNavigation(reply.result));
+  if (waitFor(loading, call.deadline()) != WaitResult::Complete) {
+    reply.status = Reply::TimeOver;
+  }
+  return reply;
+}
+
+void BidiPage::stopLoading() {
+  // Browsers that know DevTools sessions wait for ever for a document that is stopped this way, and give it up by
+  // themselves as soon as they are told to load another.
+  if (Bidi::readDevToolsSession(m_devTools->reply.result).isEmpty()) {
+    start(Bidi::evaluate({m_context, {}}, QStringLiteral("window.stop()")));
+  }
+}
+
+QString BidiPage::devToolsSession(PageCall& call) const {
+  const std::shared_ptr<Request> asked = m_devTools;
+  waitFor(*asked, call.deadline());
+  return Bidi::readDevToolsSession(asked->reply.result);
+}
+
+QString BidiPage::addStartScript(const QString& text) {
+  if (!isOpen()) {
+    return whyClosed();
+  }
+  PageCall call = makeCall(0);
+  if (!m_framesGuarded) {
+    m_framesGuarded = true;
+    start(Bidi::addStartScript(m_context, StartScript::frameGuard()));
+  }
+  return call.errorOf(call.ask(Bidi::addStartScript(m_context, StartScript::forTopPage(text))));
+}
+
+Screenshot BidiPage::screenshot(bool wholePage) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return {{}, obstacle};
+  }
+  PageCall call = makeCall(0);
+  const Reply reply = call.ask(Bidi::screenshot(m_context, wholePage));
+  if (!reply.isAnswered()) {
+    return {{}, call.errorOf(reply)};
+  }
+  const QImage image = QImage::fromData(Bidi::readScreenshot(reply.result), "PNG");
+  return {image, image.isNull() ? PageErrors::noScreenshot() : QString()};
+}
+
+ZoomFactor BidiPage::zoomFactor() {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return {1.0, obstacle};
+  }
+  PageCall call = makeCall(0);
+  const QPointer<BidiPage> self(this);
+  const QString devTools = devToolsSession(call);
+  if (!devTools.isEmpty()) {
+    const Reply reply = call.ask(Bidi::throughDevTools(devTools, DevTools::metrics()));
+    return {reply.isAnswered() ? DevTools::readZoom(Bidi::readThroughDevTools(reply.result)) : 1.0,
+            call.errorOf(reply)};
+  }
+  const Evaluation ratio = evaluateInPage(call, place(), QStringLiteral("window.devicePixelRatio"));
+  const double value = ratio.text.toDouble();
+  if (!self || !ratio.isOk() || value <= 0) {
+    return {1.0, ratio.isOk() ? PageErrors::pageReplaced() : ratio.text};
+  }
+  if (!m_plainPixelRatio) {
+    m_plainPixelRatio = value;
+  }
+  return {value / *m_plainPixelRatio, {}};
+}
+
+QString BidiPage::setFiles(const QString& referenceExpression, const QStringList& paths) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return obstacle;
+  }
+  const bool sameMachine = m_bidiSession.browserProcess() != 0;
+  QStringList fullPaths;
+  for (const QString& path : paths) {
+    const QFileInfo file(path);
+    if (sameMachine && (!file.isFile() || !file.isReadable())) {
+      return PageErrors::noSuchFile(path);
+    }
+    fullPaths.append(sameMachine ? file.absoluteFilePath() : path);
+  }
+  PageCall call = makeCall(0);
+  return putFilesInto(call, place(), referenceExpression, fullPaths);
+}
+
+Command BidiPage::dialogAnswer(bool accept, const QString& text) const {
+  const std::optional<Dialog> dialog = openDialog();
+  const bool isPrompt = dialog && dialog->kind == QLatin1String("prompt");
+  return Bidi::answerDialog(m_context, accept, isPrompt ? text : QString());
+}
+
+void BidiPage::prepareClosing(PageCall& call) { m_bidiSession.keepBrowserOpenWithout(*this, call); }
+
+bool BidiPage::hasDevToolsSession(const QString& session) const {
+  return !session.isEmpty() && Bidi::readDevToolsSession(m_devTools->reply.result) == session;
+}
+
+void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
+  using Handler = void (BidiPage::*)(const QJsonObject&);
+  static const QHash<QString, Handler> handlers{
+      {QStringLiteral("browsingContext.navigationCommitted"), &BidiPage::onNavigationCommitted},
+      {QStringLiteral("browsingContext.fragmentNavigated"), &BidiPage::onNavigatedWithinDocument},
+      {QStringLiteral("browsingContext.historyUpdated"), &BidiPage::onNavigatedWithinDocument},
+      {QStringLiteral("browsingContext.load"), &BidiPage::onLoad},
+      {QStringLiteral("script.realmCreated"), &BidiPage::onRealmCreated},
+      {QStringLiteral("browsingContext.userPromptOpened"), &BidiPage::onDialogOpened},
+      {QStringLiteral("browsingContext.userPromptClosed"), &BidiPage::onDialogClosed},
+  };
+  if (const Handler handler = handlers.value(method)) {
+    (this->*handler)(parameters);
+  }
+}
+
+void BidiPage::onNavigationCommitted(const QJsonObject& parameters) {
+  const Bidi::Document document = Bidi::readDocument(parameters);
+  m_document = document.navigation;
+  takeDocument(document.navigation, document.url);
+}
+
+void BidiPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
+  const Bidi::Document document = Bidi::readDocument(parameters);
+  takeUrl(document.url);
+  if (document.navigation.isEmpty()) {
+    return;
+  }
+  for (const auto& loading : loadings()) {
+    loading->noteDocument(document.navigation);
+    loading->noteLoaded(document.navigation);
+  }
+}
+
+void BidiPage::onLoad(const QJsonObject& parameters) {
+  const Bidi::Document document = Bidi::readDocument(parameters);
+  const QPointer<BidiPage> self(this);
+  // Browsers built on Chromium put an error page in without telling.
+  if (!document.navigation.isEmpty() && document.navigation != m_document) {
+    onNavigationCommitted(parameters);
+  }
+  if (!self) {
+    return;
+  }
+  for (const auto& loading : loadings()) {
+    loading->noteLoaded(document.navigation);
+  }
+}
+
+void BidiPage::onRealmCreated(const QJsonObject& parameters) {
+  const QString realm = Bidi::readNewRealm(parameters);
+  if (realm.isEmpty()) {
+    return;
+  }
+  m_realm = realm;
+  m_realmThere->complete();
+}
+
+void BidiPage::noteRealmGone(const QString& realm) {
+  if (realm != m_realm) {
+    return;
+  }
+  m_realm.clear();
+  m_realmThere = std::make_shared<Pending>();
+}
+
+void BidiPage::onDialogOpened(const QJsonObject& parameters) {
+  Dialog dialog = Bidi::readDialog(parameters);
+  dialog.url = url();
+  takeDialog(dialog);
+}
+
+void BidiPage::onDialogClosed(const QJsonObject&) { forgetDialog(); }
+
+void BidiPage::endOpenCalls(const QString& error) {
+  ProtocolPage::endOpenCalls(error);
+  m_realmThere->complete();
+  if (m_realm.isEmpty()) {
+    m_realmThere = std::make_shared<Pending>();
+  }
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "webhook/browser/protocolpage.h"
+#include "webhook/protocol/bidi.h"
+
+namespace Corvex::Webhook {
+
+class BidiSession;
+
+/// A page driven over WebDriver BiDi.
+///
+/// The protocol cannot end a script that runs. Where the browser lets DevTools requests through, code whose time is
+/// over is ended all the same; elsewhere it goes on in the page, and only its answer is lost.
+class BidiPage : public ProtocolPage {
+  Q_OBJECT
+
+public:
+  /// The channel and the session outlive the page.
+  BidiPage(Channel& channel, BidiSession& session, const Bidi::Context& context);
+  ~BidiPage() override;
+
+  Evaluation evaluate(const QString& code, int timeoutMs) override;
+  QString addStartScript(const QString& text) override;
+  Screenshot screenshot(bool wholePage) override;
+
+  /// Where the browser does not tell its zoom: how many device pixels a CSS pixel has, compared with the first call.
+  ZoomFactor zoomFactor() override;
+
+  /// The paths of a visited browser are those of its own machine; they are not looked at before.
+  QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
+
+  const QString& contextId() const { return m_context; }
+
+  /// Has the dialogs of a frame reported here, too.
+  void watchFrame(const QString& frame);
+
+  /// Whether the browser knows it by this DevTools session.
+  bool hasDevToolsSession(const QString& session) const;
+  void noteRealmGone(const QString& realm);
+
+private:
+  Bidi::Place place() const;
+  /// Waits until code can be given its place. Gives the obstacle that came up, or "".
+  QString awaitPlace(PageCall& call);
+  Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
+  void stopLoading() override;
+  Command dialogAnswer(bool accept, const QString& text) const override;
+  Command closing() const override { return Bidi::closePage(m_context); }
+  void prepareClosing(PageCall& call) override;
+  void endOpenCalls(const QString& error) override;
+  QString devToolsSession(PageCall& call) const;
+  void endRunningCode();
+
+  void takeEvent(const QString& method, const QJsonObject& parameters);
+  void onNavigationCommitted(const QJsonObject& parameters);
+  void onNavigatedWithinDocument(const QJsonObject& parameters);
+  void onLoad(const QJsonObject& parameters);
+  void onRealmCreated(const QJsonObject& parameters);
+  void onDialogOpened(const QJsonObject& parameters);
+  void onDialogClosed(const QJsonObject& parameters);
+
+  BidiSession& m_bidiSession;
+  const QString m_context;
+  QString m_realm;  ///< Of the document that is there, if it is known.
+  std::shared_ptr<Pending> m_realmThere = std::make_shared<Pending>();
+  QString m_document;  ///< The navigation that brought it.
+  bool m_framesGuarded = false;
+  std::optional<double> m_plainPixelRatio;
+  std::shared_ptr<Request> m_devTools;  ///< Asks for the page's DevTools session; other browsers refuse it.
+};
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,169 @@
+#include "webhook/backends/bidi/firefox.h"
+
+#include "webhook/browser/browserprogram.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+#include <QRegularExpression>
+#include <algorithm>
+
+#include "shared/wait.h"
+
+namespace Corvex::Webhook::Firefox {
+
+namespace {
+
+const BrowserProgram::Family& family() {
+  static const BrowserProgram::Family family{QStringLiteral("firefox"),
+                                             QStringLiteral("Firefox's program"),
+                                             QStringLiteral("firefox-esr"),
+                                             QStringLiteral("CORVEX_FIREFOX"),
+                                             {QStringLiteral("firefox-esr"), QStringLiteral("firefox")}};
+  return family;
+}
+
+// On top of those that the browser sets by itself when it is driven.
+const char* const preferences = R"(user_pref("remote.active-protocols", 1);
+user_pref("app.normandy.enabled", false);
+user_pref("app.update.disabledForTesting", true);
+user_pref("browser.aboutwelcome.enabled", false);
+user_pref("browser.newtab.preload", false);
+user_pref("browser.newtabpage.enabled", false);
+user_pref("browser.sessionstore.enabled", false);
+user_pref("browser.sessionstore.resume_from_crash", false);
+user_pref("browser.shell.checkDefaultBrowser", false);
+user_pref("browser.startup.homepage", "about:blank");
+user_pref("browser.startup.page", 0);
+user_pref("datareporting.policy.dataSubmissionEnabled", false);
+user_pref("dom.disable_open_during_load", false);
+user_pref("dom.min_background_timeout_value", 4);
+user_pref("dom.require_user_interaction_for_beforeunload", false);
+user_pref("dom.timeout.enable_budget_timer_throttling", false);
+user_pref("extensions.update.enabled", false);
+user_pref("fission.bfcacheInParent", false);
+user_pref("media.volume_scale", "0.0");
+user_pref("network.captive-portal-service.enabled", false);
+user_pref("network.connectivity-service.enabled", false);
+user_pref("network.proxy.allow_hijacking_localhost", false);
+user_pref("browser.sessionhistory.max_total_viewers", 0);
+user_pref("services.settings.server", "data:,#remote-settings-dummy/v1");
+user_pref("termsofuse.bypassNotification", true);
+user_pref("toolkit.telemetry.enabled", false);
+user_pref("toolkit.telemetry.reportingpolicy.firstRun", false);
+user_pref("toolkit.telemetry.server", "data:,");
+)";
+
+QString profile(const QString& directory) { return directory + QStringLiteral("/profile"); }
+
+/// Keeps the browser from writing outside of its directory.
+QMap<QString, QString> environment(const QString& directory) {
+  QMap<QString, QString> variables{{BrowserProgram::markName(), directory},
+                                   {QStringLiteral("HOME"), directory + QStringLiteral("/home")},
+                                   {QStringLiteral("XDG_CACHE_HOME"), directory + QStringLiteral("/home/.cache")},
+                                   {QStringLiteral("XDG_CONFIG_HOME"), directory + QStringLiteral("/home/.config")},
+                                   {QStringLiteral("TMPDIR"), directory + QStringLiteral("/tmp")},
+                                   {QStringLiteral("MOZ_CRASHREPORTER_DISABLE"), QStringLiteral("1")},
+                                   {QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory")}};
+  const QString authority = QDir::homePath() + QStringLiteral("/.Xauthority");
+  if (!qEnvironmentVariableIsSet("XAUTHORITY") && QFileInfo::exists(authority)) {
+    variables.insert(QStringLiteral("XAUTHORITY"), authority);
+  }
+  return variables;
+}
+
+bool prepare(const QString& directory) {
+  const QDir root(directory);
+  for (const char* folder : {"tmp", "home", "profile"}) {
+    if (directory.isEmpty() || !root.mkdir(QLatin1String(folder))) {
+      return false;
+    }
+  }
+  QFile file(profile(directory) + QStringLiteral("/user.js"));
+  return file.open(QIODevice::WriteOnly) && file.write(preferences) > 0 && file.flush();
+}
+
+QString announcedAddress(const QString& directory) {
+  static const QRegularExpression line(QStringLiteral("WebDriver BiDi listening on (ws://[^\\s/]+)[^\\n]*\\n"));
+  QFile file(BrowserProgram::outputFile(directory));
+  if (!file.open(QIODevice::ReadOnly)) {
+    return {};
+  }
+  return line.match(QString::fromLocal8Bit(file.readAll())).captured(1);
+}
+
+/// Waits for the address that the browser writes to its output. Gives "" when it ended or took too long.
+QString waitForAddress(const ChildProcess& process, const QString& directory, const QDeadlineTimer& deadline) {
+  Pending settled;
+  QString address;
+  const auto look = [&] {
+    address = announcedAddress(directory);
+    if (!address.isEmpty()) {
+      settled.complete();
+    }
+  };
+  QFileSystemWatcher watcher({BrowserProgram::outputFile(directory)});
+  QObject::connect(&watcher, &QFileSystemWatcher::fileChanged, &watcher, look);
+  QObject::connect(&process, &ChildProcess::ended, &watcher, [&] { settled.complete(); });
+  look();
+  waitFor(settled, deadline);
+  return address;
+}
+
+}  // namespace
+
+bool isMeant(const QString& browser) {
+  return QFileInfo(browser).fileName().startsWith(QLatin1String("firefox"), Qt::CaseInsensitive);
+}
+
+BrowserProgram::Program find(const QString& wanted) { return BrowserProgram::find(family(), wanted); }
+
+QStringList arguments(const QString& directory, const SessionOptions& options) {
+  QStringList list{QStringLiteral("--remote-debugging-port"), QStringLiteral("0"), QStringLiteral("--profile"),
+                   profile(directory), QStringLiteral("--no-remote")};
+  if (!options.headed) {
+    list.append(QStringLiteral("--headless"));
+  }
+  return list + options.extraArguments + QStringList{QStringLiteral("about:blank")};
+}
+
+Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline) {
+  Instance instance;
+  const BrowserProgram::Program program = find(options.browser);
+  instance.error = program.error;
+  if (program.path.isEmpty()) {
+    return instance;
+  }
+  instance.directory = std::make_unique<TemporaryDirectory>();
+  const QString directory = instance.directory->path();
+  QFile output(BrowserProgram::outputFile(directory));
+  if (!prepare(directory) || !output.open(QIODevice::WriteOnly)) {
+    instance.error = BrowserProgram::noRoom();
+    return instance;
+  }
+  ChildCommand command;
+  command.program = program.path;
+  command.arguments = arguments(directory, options);
+  command.environment = environment(directory);
+  command.markName = BrowserProgram::markName();
+  command.outputFile = output.fileName();
+  ChildProcess::Start start = ChildProcess::start(command);
+  instance.process = std::move(start.process);
+  instance.error = start.error;
+  if (!instance.process) {
+    return instance;
+  }
+  instance.address = waitForAddress(*instance.process, directory, deadline);
+  if (instance.address.isEmpty()) {
+    instance.error = deadline.hasExpired()
+                         ? QStringLiteral(
+                               "The browser started but took no connection in time. Try again, or allow "
+                               "more time.")
+                         : QStringLiteral("The browser ended before it was ready. Its last words: %1")
+                               .arg(BrowserProgram::lastWords(directory));
+  }
+  return instance;
+}
+
+}  // namespace Corvex::Webhook::Firefox

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QString>
+#include <QStringList>
+#include <memory>
+
+#include "webhook/browser/browserprogram.h"
+#include "webhook/browser/browsersession.h"
+#include "webhook/process/childprocess.h"
+#include "webhook/process/temporarydirectory.h"
+
+/// Finding and starting Firefox.
+namespace Corvex::Webhook::Firefox {
+
+/// Whether `browser`, as it was asked for, is Firefox: by its name, or by the name of the program at that path.
+bool isMeant(const QString& browser);
+
+/// `wanted` is a path or a program's name; "firefox" takes what CORVEX_FIREFOX names, or the first one that is
+/// installed.
+BrowserProgram::Program find(const QString& wanted);
+
+/// The command line for a profile in `directory`.
+QStringList arguments(const QString& directory, const SessionOptions& options);
+
+/// A started browser. Its files, temporary ones and its output lie in the directory.
+struct Instance {
+  std::unique_ptr<TemporaryDirectory> directory;
+  std::unique_ptr<ChildProcess> process;
+  QString address;  ///< ws://... where it takes connections from this machine.
+  QString error;
+};
+
+/// Waits until the browser takes connections, until `deadline` at the most.
+Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline);
+
+}  // namespace Corvex::Webhook::Firefox

@@ -1,0 +1,111 @@
+#include "webhook/backends/devtools/chromium.h"
+
+#include "webhook/browser/browserprogram.h"
+
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace Corvex::Webhook::Chromium {
+
+namespace {
+
+const BrowserProgram::Family& family() {
+  static const BrowserProgram::Family family{
+      QStringLiteral("chromium"),
+      QStringLiteral("a browser built on Chromium"),
+      QStringLiteral("chromium"),
+      QStringLiteral("CORVEX_CHROMIUM"),
+      {QStringLiteral("chromium"), QStringLiteral("chromium-browser"), QStringLiteral("google-chrome"),
+       QStringLiteral("google-chrome-stable"), QStringLiteral("chrome")}};
+  return family;
+}
+
+const char* const fixedArguments[] = {
+    "--remote-debugging-pipe",
+    "--no-first-run",
+    "--no-default-browser-check",
+    "--no-service-autorun",
+    "--disable-background-networking",
+    "--disable-component-update",
+    "--disable-default-apps",
+    "--disable-sync",
+    "--disable-quic",
+    "--disable-breakpad",
+    "--disable-crash-reporter",
+    "--disable-dev-shm-usage",
+    "--disable-hang-monitor",
+    "--disable-ipc-flooding-protection",
+    "--disable-popup-blocking",
+    "--disable-prompt-on-repost",
+    "--disable-search-engine-choice-screen",
+    // A page in the background must go on like one in front.
+    "--disable-background-timer-throttling",
+    "--disable-backgrounding-occluded-windows",
+    "--disable-renderer-backgrounding",
+    // Documents that come back or are made ahead would not meet the start scripts.
+    "--disable-features=BackForwardCache,Prerender2,Translate,MediaRouter,OptimizationHints",
+    "--force-color-profile=srgb",
+    "--metrics-recording-only",
+    "--mute-audio",
+    "--password-store=basic",
+};
+
+/// Keeps the browser from writing outside of its directory.
+QMap<QString, QString> environment(const QString& directory) {
+  return {{BrowserProgram::markName(), directory},
+          {QStringLiteral("TMPDIR"), directory + QStringLiteral("/tmp")},
+          {QStringLiteral("BREAKPAD_DUMP_LOCATION"), directory + QStringLiteral("/crashes")},
+          {QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory")}};
+}
+
+}  // namespace
+
+BrowserProgram::Program find(const QString& wanted) { return BrowserProgram::find(family(), wanted); }
+
+QStringList arguments(const QString& directory, const SessionOptions& options) {
+  QStringList list;
+  for (const char* argument : fixedArguments) {
+    list.append(QString::fromLatin1(argument));
+  }
+  list.append(QStringLiteral("--user-data-dir=%1/profile").arg(directory));
+  if (!options.headed) {
+    list << QStringLiteral("--headless=new") << QStringLiteral("--disable-gpu");
+  }
+  if (geteuid() == 0) {
+    list.append(QStringLiteral("--no-sandbox"));  // its sandbox does not work for root
+  }
+  return list + options.extraArguments + QStringList{QStringLiteral("about:blank")};
+}
+
+Instance launch(const SessionOptions& options) {
+  Instance instance;
+  const BrowserProgram::Program program = find(options.browser);
+  instance.error = program.error;
+  if (program.path.isEmpty()) {
+    return instance;
+  }
+  instance.directory = std::make_unique<TemporaryDirectory>();
+  const QString directory = instance.directory->path();
+  PipeTransport::ChildEnds ends;
+  instance.transport = PipeTransport::create(&ends);
+  if (directory.isEmpty() || !QDir(directory).mkdir(QStringLiteral("tmp")) || !instance.transport) {
+    instance.error = BrowserProgram::noRoom();
+    return instance;
+  }
+  ChildCommand command;
+  command.program = program.path;
+  command.arguments = arguments(directory, options);
+  command.environment = environment(directory);
+  command.markName = BrowserProgram::markName();
+  command.outputFile = BrowserProgram::outputFile(directory);
+  command.descriptors = {{ends.input.get(), 3}, {ends.output.get(), 4}};
+  ChildProcess::Start start = ChildProcess::start(command);
+  instance.process = std::move(start.process);
+  instance.error = start.error;
+  return instance;
+}
+
+}  // namespace Corvex::Webhook::Chromium

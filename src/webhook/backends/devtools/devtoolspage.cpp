@@ -1,0 +1,165 @@
+#include "webhook/backends/devtools/devtoolspage.h"
+
+#include "webhook/backends/devtools/devtoolsevaluation.h"
+#include "webhook/browser/browsersession.h"
+#include "webhook/browser/pageerrors.h"
+
+#include <QFileInfo>
+
+namespace Corvex::Webhook {
+
+DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
+                           const QStringList& startScripts)
+    : ProtocolPage(channel, session, target.session, target.url), m_sessionId(target.session), m_target(target.id) {
+  channel.subscribe(m_sessionId, this,
+                    [this](const QString& method, const QJsonObject& parameters) { takeEvent(method, parameters); });
+  for (const Command& command : DevTools::watchPage()) {
+    m_watched = start(command);
+  }
+  for (const QString& script : startScripts) {
+    m_watched = start(DevTools::addStartScript(script));
+  }
+  start(DevTools::resumePage());
+}
+
+Evaluation DevToolsPage::evaluate(const QString& code, int timeoutMs) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return {obstacle, false, true};
+  }
+  PageCall call = makeCall(timeoutMs);
+  return evaluateCode(call, code);
+}
+
+Reply DevToolsPage::loadAndWait(PageCall& call, const QString& url, PageLoading& loading) {
+  // A young page may take the next document in before it takes in what is to be watched.
+  const std::shared_ptr<Request> watched = m_watched;
+  if (waitFor(*watched, call.deadline()) != WaitResult::Complete) {
+    return {Reply::TimeOver, {}, {}};
+  }
+  Reply reply = call.ask(DevTools::navigate(url));
+  if (!reply.isAnswered()) {
+    return reply;
+  }
+  const DevTools::Navigation navigation = DevTools::readNavigation(reply.result);
+  const bool oldDocumentStays = navigation.errorCode == QLatin1String("net::ERR_ABORTED");
+  loading.expect(navigation.document);
+  if (!oldDocumentStays && waitFor(loading, call.deadline()) != WaitResult::Complete) {
+    reply.status = Reply::TimeOver;
+  } else if (!navigation.errorCode.isEmpty()) {
+    reply = {Reply::Refused, {}, navigation.errorCode};
+  }
+  return reply;
+}
+
+QString DevToolsPage::addStartScript(const QString& text) {
+  if (!isOpen()) {
+    return whyClosed();
+  }
+  PageCall call = makeCall(0);
+  return call.errorOf(call.ask(DevTools::addStartScript(text)));
+}
+
+Screenshot DevToolsPage::screenshot(bool wholePage) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return {{}, obstacle};
+  }
+  PageCall call = makeCall(0);
+  std::optional<QJsonObject> contents;
+  if (wholePage) {
+    const Reply metrics = call.ask(DevTools::metrics());
+    if (!metrics.isAnswered()) {
+      return {{}, call.errorOf(metrics)};
+    }
+    contents = metrics.result;
+  }
+  const Reply reply = call.ask(DevTools::screenshot(contents));
+  if (!reply.isAnswered()) {
+    return {{}, call.errorOf(reply)};
+  }
+  const QImage image = QImage::fromData(DevTools::readScreenshot(reply.result), "PNG");
+  return {image, image.isNull() ? PageErrors::noScreenshot() : QString()};
+}
+
+ZoomFactor DevToolsPage::zoomFactor() {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return {1.0, obstacle};
+  }
+  PageCall call = makeCall(0);
+  const Reply reply = call.ask(DevTools::metrics());
+  if (!reply.isAnswered()) {
+    return {1.0, call.errorOf(reply)};
+  }
+  return {DevTools::readZoom(reply.result), {}};
+}
+
+QString DevToolsPage::setFiles(const QString& referenceExpression, const QStringList& paths) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return obstacle;
+  }
+  QStringList fullPaths;
+  for (const QString& path : paths) {
+    const QFileInfo file(path);
+    if (!file.isFile() || !file.isReadable()) {
+      return PageErrors::noSuchFile(path);
+    }
+    fullPaths.append(file.absoluteFilePath());
+  }
+  PageCall call = makeCall(0);
+  return setFilesOfInput(call, referenceExpression, fullPaths);
+}
+
+void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameters) {
+  using Handler = void (DevToolsPage::*)(const QJsonObject&);
+  static const QHash<QString, Handler> handlers{
+      {QStringLiteral("Page.frameNavigated"), &DevToolsPage::onFrameNavigated},
+      {QStringLiteral("Page.navigatedWithinDocument"), &DevToolsPage::onNavigatedWithinDocument},
+      {QStringLiteral("Page.lifecycleEvent"), &DevToolsPage::onLifecycleEvent},
+      {QStringLiteral("Page.javascriptDialogOpening"), &DevToolsPage::onDialogOpening},
+      {QStringLiteral("Page.javascriptDialogClosed"), &DevToolsPage::onDialogClosed},
+      {QStringLiteral("Inspector.targetCrashed"), &DevToolsPage::onCrashed},
+  };
+  if (const Handler handler = handlers.value(method)) {
+    (this->*handler)(parameters);
+  }
+}
+
+void DevToolsPage::onFrameNavigated(const QJsonObject& parameters) {
+  const std::optional<DevTools::NewDocument> document = DevTools::readNewDocument(parameters);
+  if (!document) {
+    return;
+  }
+  takeDocument(document->document, document->url);
+}
+
+void DevToolsPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
+  // The top frame has the id of its page.
+  if (parameters.value(QLatin1String("frameId")).toString() != m_target) {
+    return;
+  }
+  takeUrl(parameters.value(QLatin1String("url")).toString());
+  for (const auto& loading : loadings()) {
+    loading->noteSameDocument();
+  }
+}
+
+void DevToolsPage::onLifecycleEvent(const QJsonObject& parameters) {
+  if (parameters.value(QLatin1String("name")).toString() != QLatin1String("load")) {
+    return;
+  }
+  const QString document = parameters.value(QLatin1String("loaderId")).toString();
+  for (const auto& loading : loadings()) {
+    loading->noteLoaded(document);
+  }
+}
+
+void DevToolsPage::onDialogOpening(const QJsonObject& parameters) { takeDialog(DevTools::readDialog(parameters)); }
+
+void DevToolsPage::onDialogClosed(const QJsonObject&) { forgetDialog(); }
+
+void DevToolsPage::onCrashed(const QJsonObject&) { noteCrashed(); }
+
+}  // namespace Corvex::Webhook

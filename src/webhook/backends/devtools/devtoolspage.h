@@ -1,0 +1,45 @@
+#pragma once
+
+#include "webhook/browser/protocolpage.h"
+#include "webhook/protocol/devtools.h"
+
+namespace Corvex::Webhook {
+
+/// A page driven over the DevTools protocol.
+class DevToolsPage : public ProtocolPage {
+  Q_OBJECT
+
+public:
+  /// Begins to watch the page, gives it its start scripts and lets it go on. Channel and session outlive the page.
+  DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
+               const QStringList& startScripts);
+
+  Evaluation evaluate(const QString& code, int timeoutMs) override;
+  QString addStartScript(const QString& text) override;
+  Screenshot screenshot(bool wholePage) override;
+  ZoomFactor zoomFactor() override;
+  QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
+
+  const QString& targetId() const { return m_target; }
+  const QString& sessionId() const { return m_sessionId; }
+
+private:
+  Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
+  void stopLoading() override { start(DevTools::stopLoading()); }
+  Command dialogAnswer(bool accept, const QString& text) const override { return DevTools::answerDialog(accept, text); }
+  Command closing() const override { return DevTools::closePage(m_target); }
+
+  void takeEvent(const QString& method, const QJsonObject& parameters);
+  void onFrameNavigated(const QJsonObject& parameters);
+  void onNavigatedWithinDocument(const QJsonObject& parameters);
+  void onLifecycleEvent(const QJsonObject& parameters);
+  void onDialogOpening(const QJsonObject& parameters);
+  void onDialogClosed(const QJsonObject& parameters);
+  void onCrashed(const QJsonObject& parameters);
+
+  const QString m_sessionId;
+  const QString m_target;
+  std::shared_ptr<Request> m_watched;  ///< Complete when events come and start scripts take effect.
+};
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "webhook/protocol/dialog.h"
+
+#include <QImage>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace Corvex::Webhook {
+
+/// What came of evaluating code in a page.
+struct Evaluation {
+  QString text;          ///< String(value) on success, else a sentence or the exception's text.
+  bool failed = false;   ///< The code threw, or could not be read as code.
+  bool aborted = false;  ///< The code did not run to its end, or its answer did not come; `text` says why.
+
+  bool isOk() const { return !failed && !aborted; }
+};
+
+/// An image, or the reason why there is none.
+struct Screenshot {
+  QImage image;
+  QString error;
+};
+
+/// A number, or the reason why there is none.
+struct ZoomFactor {
+  double value = 1.0;
+  QString error;
+};
+
+/// One page (tab) of a browser. No caller needs to know by which protocol it is driven.
+///
+/// Every call returns within its time, whatever becomes of page and browser. While it waits, events are served: signals
+/// come, other calls may be made from them, and the session may be closed. Errors are sentences; "" is success.
+class BrowserPage : public QObject {
+  Q_OBJECT
+
+public:
+  ~BrowserPage() override;
+
+  /// Evaluates `code` as a script of the top document: global sloppy scope, several statements allowed, also where the
+  /// page's security policy forbids evaluation. The answer is the completion value, as String() gives it.
+  ///
+  /// `timeoutMs` 0 stands for the session's default. When it is over, the code is ended in the page and its answer is
+  /// lost. A dialog that opens meanwhile, a new document, the page's end, its crash and the browser's end abort the
+  /// call at once.
+  virtual Evaluation evaluate(const QString& code, int timeoutMs = 0) = 0;
+
+  /// Loads `url` and waits for its load event. A question of the old page whether to leave it is answered with yes.
+  virtual QString navigate(const QString& url, int timeoutMs = 0) = 0;
+
+  /// Has `text` run at document start of every top document from the next one on, before the page's own scripts and
+  /// behind those that were added before. It runs in the global scope, and in no frame.
+  virtual QString addStartScript(const QString& text) = 0;
+
+  /// The page as it is in view, or its whole length.
+  virtual Screenshot screenshot(bool wholePage) = 0;
+
+  /// CSS pixels to device-independent pixels: 1.0 unless the page was zoomed.
+  virtual ZoomFactor zoomFactor() = 0;
+
+  /// Puts files into the file input that `referenceExpression` names; the page gets the events of a user's choice.
+  virtual QString setFiles(const QString& referenceExpression, const QStringList& paths) = 0;
+
+  virtual std::optional<Dialog> openDialog() const = 0;
+
+  /// Ends the open dialog. `text` goes into a prompt's field; a null text leaves what is there.
+  virtual QString answerDialog(bool accept, const QString& text = {}) = 0;
+
+  /// Closes the page without a question, and waits until it is closed.
+  virtual QString close() = 0;
+
+  virtual QString url() const = 0;
+
+  /// Whether the page could be asked something now: it is there, did not crash, and shows no dialog.
+  virtual bool isAvailable() const = 0;
+
+  /// Whether the page is there at all. A closed page stays a valid object until its session goes.
+  virtual bool isOpen() const = 0;
+
+Q_SIGNALS:
+  /// Another document took the place of the top document; whatever was known of the old one is void.
+  void navigated(const QString& url);
+  void dialogOpened();
+  /// The page is gone, by itself, by close(), or with its browser.
+  void closed(const QString& reason);
+  /// The page's process ended. The page stays and can be navigated again.
+  void crashed();
+};
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,73 @@
+#include "webhook/browser/browserprogram.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+namespace Corvex::Webhook::BrowserProgram {
+
+namespace {
+
+QString pathOf(const QString& name) {
+  if (!name.contains(QLatin1Char('/'))) {
+    return QStandardPaths::findExecutable(name);
+  }
+  const QFileInfo file(name);
+  return file.isFile() && file.isExecutable() ? file.absoluteFilePath() : QString();
+}
+
+Program programAt(const QString& name, const QString& errorWithoutOne) {
+  const QString path = pathOf(name);
+  return path.isEmpty() ? Program{{}, errorWithoutOne} : Program{path, {}};
+}
+
+}  // namespace
+
+Program find(const Family& family, const QString& wanted) {
+  if (!wanted.isEmpty() && wanted != family.word) {
+    return programAt(wanted, QStringLiteral("There is no browser '%1'. Give chromium, firefox, or the path of %2.")
+                                 .arg(wanted, family.description));
+  }
+  const QString fromEnvironment = QString::fromLocal8Bit(qgetenv(family.variable.toLatin1().constData()));
+  if (!fromEnvironment.isEmpty()) {
+    return programAt(fromEnvironment,
+                     QStringLiteral("%1 is set to '%2', which is no program. Set it to the path of %3, or unset it.")
+                         .arg(family.variable, fromEnvironment, family.description));
+  }
+  for (const QString& name : family.names) {
+    const QString path = pathOf(name);
+    if (!path.isEmpty()) {
+      return {path, {}};
+    }
+  }
+  return {{},
+          QStringLiteral("There is no %1 on this machine. Install it (on Debian: apt-get install %2), or set %3 to the "
+                         "path of %4.")
+              .arg(family.word.left(1).toUpper() + family.word.mid(1), family.package, family.variable,
+                   family.description)};
+}
+
+QString markName() { return QStringLiteral("CORVEX_BROWSER_DIRECTORY"); }
+
+QString outputFile(const QString& directory) { return directory + QStringLiteral("/output.log"); }
+
+QString lastWords(const QString& directory) {
+  QFile file(outputFile(directory));
+  if (!file.open(QIODevice::ReadOnly)) {
+    return {};
+  }
+  constexpr qint64 tail = 2000;
+  file.seek(std::max<qint64>(0, file.size() - tail));
+  return QString::fromLocal8Bit(file.readAll()).simplified().right(300);
+}
+
+QString noRoom() {
+  return QStringLiteral(
+             "No room for the browser's profile in '%1'. Make room there, or set TMPDIR to another directory.")
+      .arg(QDir::tempPath());
+}
+
+}  // namespace Corvex::Webhook::BrowserProgram

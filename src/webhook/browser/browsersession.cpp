@@ -1,0 +1,9 @@
+#include "webhook/browser/browsersession.h"
+
+namespace Corvex::Webhook {
+
+BrowserPage::~BrowserPage() = default;
+
+BrowserSession::~BrowserSession() = default;
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,107 @@
+#include "webhook/browser/pageerrors.h"
+
+namespace Corvex::Webhook::PageErrors {
+
+namespace {
+
+struct LoadHint {
+  const char* code;
+  const char* hint;
+};
+
+const LoadHint loadHints[] = {
+    {"net::ERR_CONNECTION_REFUSED", "Nothing listens at that address; start the server or correct the port."},
+    {"net::ERR_NAME_NOT_RESOLVED", "The host name is not known; correct it or check the network."},
+    {"net::ERR_ADDRESS_UNREACHABLE", "The host cannot be reached; check the network."},
+    {"net::ERR_INTERNET_DISCONNECTED", "This machine has no network; connect it."},
+    {"net::ERR_CONNECTION_TIMED_OUT", "The host did not answer; check the address and the network."},
+    {"net::ERR_CONNECTION_RESET", "The server broke the connection; look at the server."},
+    {"net::ERR_EMPTY_RESPONSE", "The server closed the connection without an answer; look at the server."},
+    {"net::ERR_FILE_NOT_FOUND", "There is no such file; correct the path."},
+    {"net::ERR_UNSAFE_PORT", "The browser refuses this port; use another one."},
+    {"net::ERR_ABORTED", "The address gave no page: a download, or an answer without content."},
+    {"net::ERR_CERT_AUTHORITY_INVALID", "The browser does not trust the server's certificate."},
+    {"net::ERR_SSL_PROTOCOL_ERROR", "The server does not speak HTTPS at this port; try http://."},
+    {"net::ERR_TOO_MANY_REDIRECTS", "The server redirects in a circle; look at the server."},
+    {"net::ERR_HTTP_RESPONSE_CODE_FAILURE", "The server answered with an error and no page."},
+    {"Cannot navigate to invalid URL", "Give the whole address, such as http://localhost:8080/page.html."},
+    {"NS_ERROR_CONNECTION_REFUSED", "Nothing listens at that address; start the server or correct the port."},
+    {"NS_ERROR_UNKNOWN_HOST", "The host name is not known; correct it or check the network."},
+    {"NS_ERROR_NET_TIMEOUT", "The host did not answer; check the address and the network."},
+    {"NS_ERROR_NET_RESET", "The server broke the connection; look at the server."},
+    {"NS_ERROR_NET_EMPTY_RESPONSE", "The server closed the connection without an answer; look at the server."},
+    {"NS_ERROR_FILE_NOT_FOUND", "There is no such file; correct the path."},
+    {"NS_ERROR_REDIRECT_LOOP", "The server redirects in a circle; look at the server."},
+    {"NS_ERROR_OFFLINE", "This machine has no network; connect it."},
+    {"NS_BINDING_ABORTED", "The address gave no page: a download, or an answer without content."},
+    {"deniedPortAccess", "The browser refuses this port; use another one."},
+    {"SEC_ERROR_UNKNOWN_ISSUER", "The browser does not trust the server's certificate."},
+    {"SSL_ERROR_RX_RECORD_TOO_LONG", "The server does not speak HTTPS at this port; try http://."},
+};
+
+QString hintFor(const QString& errorCode) {
+  for (const LoadHint& row : loadHints) {
+    if (errorCode.startsWith(QLatin1String(row.code))) {
+      return QLatin1Char(' ') + QString::fromLatin1(row.hint);
+    }
+  }
+  return {};
+}
+
+}  // namespace
+
+QString browserLost(const QString& reason) {
+  return QStringLiteral("The browser was lost: %1. Start it again.").arg(reason);
+}
+
+QString pageClosed() { return QStringLiteral("The page was closed in the browser. Open it again."); }
+
+QString pageCrashed() { return QStringLiteral("The page crashed in the browser. Load it again."); }
+
+QString pageReplaced() { return QStringLiteral("The page was replaced by another one before it answered. Ask again."); }
+
+QString noAnswerWithin(int milliseconds) {
+  return QStringLiteral(
+             "The page did not answer within %1 ms. A script may keep it busy; allow more time or load it again.")
+      .arg(milliseconds);
+}
+
+QString dialogOpen(const Dialog& dialog) {
+  return QStringLiteral(
+             "The page shows a dialog (%1) with the text '%2' and does not answer before the dialog is closed.")
+      .arg(dialog.kind, dialog.text);
+}
+
+QString noDialogOpen() { return QStringLiteral("The page shows no dialog that could be answered."); }
+
+QString refused(const QString& browsersWords) {
+  return QStringLiteral("The browser could not do it: %1.").arg(browsersWords);
+}
+
+QString notLoaded(const QString& url, const QString& errorCode) {
+  return QStringLiteral("The page '%1' could not be loaded: %2.").arg(url, errorCode) + hintFor(errorCode);
+}
+
+QString notLoadedWithin(const QString& url, int milliseconds) {
+  return QStringLiteral("The page '%1' was not loaded within %2 ms. Check the server or allow more time.")
+      .arg(url, QString::number(milliseconds));
+}
+
+QString noSuchFile(const QString& path) {
+  return QStringLiteral("The file '%1' does not exist or cannot be read. Correct the path.").arg(path);
+}
+
+QString noFileInput(const QString& referenceExpression) {
+  return QStringLiteral("'%1' is no file input of the page. Name an <input type=\"file\">.").arg(referenceExpression);
+}
+
+QString filesRefused(const QStringList& paths, const QString& browsersWords) {
+  return QStringLiteral(
+             "The browser could not take the file '%1': %2. A browser on another machine needs the path of a file "
+             "there.")
+      .arg(paths.join(QStringLiteral("', '")), browsersWords);
+}
+
+QString noScreenshot() { return QStringLiteral("The browser sent no readable image of the page. Try again."); }
+
+}  // namespace Corvex::Webhook::PageErrors

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "webhook/browser/browserpage.h"
+
+/// The sentences by which a page's calls fail, the same for every back end.
+namespace Corvex::Webhook::PageErrors {
+
+QString browserLost(const QString& reason);
+QString pageClosed();
+QString pageCrashed();
+QString pageReplaced();
+QString noAnswerWithin(int milliseconds);
+QString dialogOpen(const Dialog& dialog);
+QString noDialogOpen();
+QString refused(const QString& browsersWords);
+
+/// `errorCode` in the browser's words, such as "net::ERR_CONNECTION_REFUSED" or "NS_ERROR_CONNECTION_REFUSED".
+QString notLoaded(const QString& url, const QString& errorCode);
+QString notLoadedWithin(const QString& url, int milliseconds);
+
+QString noSuchFile(const QString& path);
+QString noFileInput(const QString& referenceExpression);
+/// `paths` are those of another machine.
+QString filesRefused(const QStringList& paths, const QString& browsersWords);
+QString noScreenshot();
+
+}  // namespace Corvex::Webhook::PageErrors

@@ -1,0 +1,152 @@
+#include "webhook/browser/protocolpage.h"
+
+#include "webhook/browser/browsersession.h"
+#include "webhook/browser/counted.h"
+#include "webhook/browser/pageerrors.h"
+
+#include <algorithm>
+
+namespace Corvex::Webhook {
+
+ProtocolPage::ProtocolPage(Channel& channel, const BrowserSession& session, const QString& address, const QString& url)
+    : m_channel(channel), m_session(session), m_address(address), m_url(url) {}
+
+ProtocolPage::~ProtocolPage() {
+  ProtocolPage::endOpenCalls(PageErrors::pageClosed());
+  m_closing->complete();
+}
+
+PageCall ProtocolPage::makeCall(int timeoutMs) const {
+  return PageCall(&m_channel, m_address, timeoutMs > 0 ? timeoutMs : m_session.defaultTimeout());
+}
+
+std::shared_ptr<Request> ProtocolPage::start(const Command& command) { return m_channel.start(m_address, command); }
+
+QString ProtocolPage::whyUnavailable() const {
+  if (!m_whyClosed.isEmpty()) {
+    return m_whyClosed;
+  }
+  if (m_crashed) {
+    return PageErrors::pageCrashed();
+  }
+  return m_dialog ? PageErrors::dialogOpen(*m_dialog) : QString();
+}
+
+QString ProtocolPage::navigate(const QString& url, int timeoutMs) {
+  if (!m_whyClosed.isEmpty()) {
+    return m_whyClosed;
+  }
+  if (m_dialog) {
+    return PageErrors::dialogOpen(*m_dialog);
+  }
+  PageCall call = makeCall(timeoutMs);
+  const Counted leaving(this, m_leaving);
+  const QPointer<ProtocolPage> self(this);
+  const auto loading = std::make_shared<PageLoading>();
+  m_loadings.push_back(loading);
+  const Reply reply = loadAndWait(call, url, *loading);
+  if (self) {
+    m_loadings.erase(std::find(m_loadings.begin(), m_loadings.end(), loading));
+  }
+  if (reply.status == Reply::TimeOver) {
+    if (self) {
+      stopLoading();
+    }
+    return PageErrors::notLoadedWithin(url, call.milliseconds());
+  }
+  if (!loading->error().isEmpty()) {
+    return loading->error();
+  }
+  return reply.status == Reply::Refused ? PageErrors::notLoaded(url, reply.error) : call.errorOf(reply);
+}
+
+QString ProtocolPage::answerDialog(bool accept, const QString& text) {
+  if (!m_whyClosed.isEmpty()) {
+    return m_whyClosed;
+  }
+  if (!m_dialog) {
+    return PageErrors::noDialogOpen();
+  }
+  const int number = m_dialogCount;
+  const QPointer<ProtocolPage> self(this);
+  PageCall call = makeCall(0);
+  const Reply reply = call.ask(dialogAnswer(accept, text.isNull() ? m_dialog->defaultText : text));
+  const bool nextDialogCameFirst = self && reply.status == Reply::Cancelled && m_dialogCount != number;
+  if (nextDialogCameFirst) {
+    return {};
+  }
+  if (reply.isAnswered() && self && m_dialogCount == number) {
+    m_dialog.reset();
+  }
+  return call.errorOf(reply);
+}
+
+QString ProtocolPage::close() {
+  if (!isOpen()) {
+    return {};
+  }
+  if (m_dialog) {
+    start(dialogAnswer(false, {}));
+  }
+  PageCall call = makeCall(0);
+  const Counted leaving(this, m_leaving);
+  const std::shared_ptr<Pending> closed = m_closing;
+  const Command command = closing();
+  prepareClosing(call);
+  const Reply reply = call.askBrowser(command);
+  if (closed->isComplete()) {
+    return {};
+  }
+  if (!reply.isAnswered()) {
+    return call.errorOf(reply);
+  }
+  return waitFor(*closed, call.deadline()) == WaitResult::Complete ? QString()
+                                                                   : PageErrors::noAnswerWithin(call.milliseconds());
+}
+
+void ProtocolPage::noteClosed(const QString& sentence) {
+  if (!isOpen()) {
+    return;
+  }
+  m_whyClosed = sentence;
+  m_dialog.reset();
+  endOpenCalls(sentence);
+  m_closing->complete();
+  Q_EMIT closed(sentence);
+}
+
+void ProtocolPage::noteCrashed() {
+  m_crashed = true;
+  m_dialog.reset();
+  endOpenCalls(PageErrors::pageCrashed());
+  Q_EMIT crashed();
+}
+
+void ProtocolPage::takeDocument(const QString& document, const QString& url) {
+  m_url = url;
+  m_crashed = false;
+  for (const auto& loading : m_loadings) {
+    loading->noteDocument(document);
+  }
+  Q_EMIT navigated(url);
+}
+
+void ProtocolPage::takeDialog(const Dialog& dialog) {
+  if (m_leaving > 0 && dialog.kind == QLatin1String("beforeunload")) {
+    start(dialogAnswer(true, {}));
+    return;
+  }
+  m_dialog = dialog;
+  ++m_dialogCount;
+  endOpenCalls(PageErrors::dialogOpen(dialog));
+  Q_EMIT dialogOpened();
+}
+
+void ProtocolPage::endOpenCalls(const QString& error) {
+  m_channel.cancelSession(m_address, error);
+  for (const auto& loading : m_loadings) {
+    loading->fail(error);
+  }
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "webhook/browser/browserpage.h"
+#include "webhook/browser/pagecall.h"
+#include "webhook/browser/pageloading.h"
+
+#include <memory>
+#include <vector>
+
+namespace Corvex::Webhook {
+
+class BrowserSession;
+
+/// What pages have in common whose browser is driven by requests and events of a channel: the dialog that is open, the
+/// loads and calls under way, and how they end.
+class ProtocolPage : public BrowserPage {
+  Q_OBJECT
+
+public:
+  ~ProtocolPage() override;
+
+  QString navigate(const QString& url, int timeoutMs) override;
+  std::optional<Dialog> openDialog() const override { return m_dialog; }
+  QString answerDialog(bool accept, const QString& text) override;
+  QString close() override;
+  QString url() const override { return m_url; }
+  bool isAvailable() const override { return whyUnavailable().isEmpty(); }
+  bool isOpen() const override { return m_whyClosed.isEmpty(); }
+
+  /// The page is gone: ends what is open in it and tells so. `sentence` is what later calls answer.
+  void noteClosed(const QString& sentence);
+  void noteCrashed();
+
+protected:
+  /// Channel and session outlive the page. `address` is what the channel knows the page by.
+  ProtocolPage(Channel& channel, const BrowserSession& session, const QString& address, const QString& url);
+
+  /// Asks the browser to load `url` and waits for it. A load that the browser refused gives Reply::Refused and the
+  /// browser's code for the reason. The page may be gone when it returns.
+  virtual Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) = 0;
+  /// The load that was asked for took too long.
+  virtual void stopLoading() = 0;
+  virtual Command dialogAnswer(bool accept, const QString& text) const = 0;
+  virtual Command closing() const = 0;
+  virtual void prepareClosing(PageCall&) {}
+  virtual void endOpenCalls(const QString& error);
+
+  PageCall makeCall(int timeoutMs) const;
+  /// Why the page cannot be asked anything now, or "".
+  QString whyUnavailable() const;
+  QString whyClosed() const { return m_whyClosed; }
+  std::shared_ptr<Request> start(const Command& command);
+  Channel& channel() const { return m_channel; }
+
+  void takeUrl(const QString& url) { m_url = url; }
+  /// Another document is there. A listener may delete the page.
+  void takeDocument(const QString& document, const QString& url);
+  /// A dialog opened; the question whether to leave a page that is being left is answered here.
+  void takeDialog(const Dialog& dialog);
+  void forgetDialog() { m_dialog.reset(); }
+  const std::vector<std::shared_ptr<PageLoading>>& loadings() const { return m_loadings; }
+
+private:
+  Channel& m_channel;
+  const BrowserSession& m_session;
+  const QString m_address;
+  QString m_url;
+  QString m_whyClosed;
+  bool m_crashed = false;
+  int m_leaving = 0;  ///< Calls under way that leave the document.
+  std::optional<Dialog> m_dialog;
+  int m_dialogCount = 0;
+  std::vector<std::shared_ptr<PageLoading>> m_loadings;
+  std::shared_ptr<Pending> m_closing = std::make_shared<Pending>();
+};
+
+}  // namespace Corvex::Webhook

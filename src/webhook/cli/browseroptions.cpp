@@ -1,0 +1,60 @@
+#include "webhook/cli/browseroptions.h"
+
+namespace Corvex::Webhook {
+
+namespace {
+
+const double secondsOfADay = 86400;
+
+const QCommandLineOption browserOption(QStringLiteral("browser"),
+                                       QStringLiteral("The browser: chromium, firefox, or the path of its program."),
+                                       QStringLiteral("name"), QStringLiteral("chromium"));
+const QCommandLineOption headedOption(QStringLiteral("headed"), QStringLiteral("Show the browser's windows."));
+const QCommandLineOption attachOption(QStringLiteral("attach"),
+                                      QStringLiteral("Use a running browser, by the address of its debugging socket."),
+                                      QStringLiteral("ws://..."));
+const QCommandLineOption remoteOption(QStringLiteral("remote"),
+                                      QStringLiteral("Ask this WebDriver server for a browser."),
+                                      QStringLiteral("http://host:port"));
+const QCommandLineOption capabilitiesOption(
+    QStringLiteral("capabilities"), QStringLiteral("What to ask the server for: JSON, or @ and a file of JSON."),
+    QStringLiteral("json"));
+const QCommandLineOption timeoutOption(
+    QStringLiteral("timeout"),
+    QStringLiteral("How long a page may take to load or answer, and waitForObject waits: 20 at first."),
+    QStringLiteral("seconds"), QStringLiteral("20"));
+
+}  // namespace
+
+void addBrowserOptions(QCommandLineParser& parser) {
+  parser.addOptions({browserOption, headedOption, attachOption, remoteOption, capabilitiesOption, timeoutOption});
+}
+
+QString readBrowserOptions(const QCommandLineParser& parser, SessionOptions* options) {
+  const QString error = readSeconds(parser, timeoutOption, &options->defaultTimeoutMs);
+  if (!error.isEmpty()) {
+    return error;
+  }
+  options->browser = parser.value(browserOption);
+  options->attachTo = parser.value(attachOption);
+  options->remoteUrl = parser.value(remoteOption);
+  options->capabilities = parser.value(capabilitiesOption);
+  options->headed = parser.isSet(headedOption);
+  if (parser.isSet(remoteOption) && (parser.isSet(attachOption) || parser.isSet(headedOption))) {
+    return QStringLiteral("--remote cannot stand beside --attach or --headed: the server decides on its browser.");
+  }
+  return QString();
+}
+
+QString readSeconds(const QCommandLineParser& parser, const QCommandLineOption& option, int* milliseconds) {
+  bool isNumber = false;
+  const double seconds = parser.value(option).toDouble(&isNumber);
+  if (!isNumber || seconds <= 0 || seconds > secondsOfADay) {
+    return QStringLiteral("--%1 takes a number of seconds above 0, not '%2'.")
+        .arg(option.names().constLast(), parser.value(option));
+  }
+  *milliseconds = static_cast<int>(seconds * 1000);
+  return QString();
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,270 @@
+#include "webhook/inspect/tree.h"
+
+#include "corvexhook/delegate.h"
+#include "corvexhook/functioncallresult.h"
+#include "corvexhook/inspector.h"
+#include "webhook/pages/connection.h"
+#include "webhook/pages/contexts.h"
+#include "wrappers/web/lookup/webobjectdelegate.h"
+#include "wrappers/web/object/wraphtmlobject.h"
+#include "wrappers/web/page/escaping.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+#include <set>
+#include <vector>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+// A call of the page for so many objects takes a fraction of a second.
+const std::size_t objectsPerCall = 250;
+const unsigned int callTimeoutMs = 60000;
+
+// A line for each object: pages replace what JSON needs. What follows "!" is an error.
+const char* const askInPage = R"JS(__corvex__whilePageStays(function () {
+  var lines = "";
+  function ask(object) { %1 }
+  function add(object) {
+    try { lines += ask(object()) + "\n"; } catch (e) { lines += "!" + escape(e) + "\n"; }
+  }
+  %2
+  return lines;
+}))JS";
+
+const char* const nameInPage = "return escape(__corvex__nameOf(object));";
+
+const char* const hasChildrenInPage =
+    "return !!(object.qx_Widget || __corvexDOMAPI.firstChild(object) || __corvex__node.shadowRoot(object));";
+
+// Objects of these classes have no other children than those that the page knows.
+const char* const plainClasses[] = {"HTML_Object", "HTML_Anchor", "HTML_Button", "HTML_CheckableButton",
+                                    "HTML_Image",  "HTML_Option", "HTML_Text"};
+
+bool isPlain(const Object& object) {
+  const QString name = object.objectClass()->name();
+  return std::any_of(std::begin(plainClasses), std::end(plainClasses),
+                     [&name](const char* plain) { return name == QLatin1String(plain); });
+}
+
+/// Undoes the page's `escape`, and nothing more.
+QString textOfLine(const QString& line) {
+  return WebWrapper::unescape(line).replace(QLatin1String("&amp;"), QLatin1String("&"));
+}
+
+/// What the page answers for each of some objects, or why it answers nothing.
+FunctionCallResult<QStringList> askPage(Connection& page, const char* question, const ObjectList& objects) {
+  QString calls;
+  for (const SharedPtr<Object>& object : objects) {
+    calls += QStringLiteral("add(function () { return %1; });\n").arg(WebWrapper::retrieveObject(object)->reference);
+  }
+  const QString code = QString::fromLatin1(askInPage).arg(QLatin1String(question), calls);
+  const WebWrapper::JavaScriptAnswer answer = page.evaluateJS(code, callTimeoutMs);
+  QStringList lines = answer.text.split(QLatin1Char('\n'));
+  if (!answer.succeeded() || lines.size() != static_cast<int>(objects.size()) + 1) {
+    return FunctionCallResult<QStringList>::failure(answer.text);
+  }
+  lines.removeLast();
+  return FunctionCallResult<QStringList>::success(lines);
+}
+
+/// The one walk over the documents of a page and what is below them.
+class TreeReader {
+public:
+  explicit TreeReader(std::optional<int> maxDepth) : m_maxDepth(maxDepth) {}
+
+  void read(const Context& context);
+  const PageTree& tree() const { return m_tree; }
+
+private:
+  struct Found {
+    SharedPtr<Object> object;
+    int depth = 0;
+    std::vector<std::size_t> children = {};
+  };
+
+  std::vector<Found> find(Connection& page, const SharedPtr<Object>& document);
+  void addChildren(std::vector<Found>* found, std::size_t place);
+  void addNodes(const std::vector<Found>& found);
+  void nameAll(Connection& page, int from);
+  void name(Connection& page, const std::vector<int>& places);
+  void fail(const QString& error);
+
+  std::optional<int> m_maxDepth;
+  PageTree m_tree;
+  std::vector<SharedPtr<Object>> m_objects;  // Of the nodes of the tree.
+};
+
+/// Which of the objects from `begin` to `end` need not be asked for their children, as they have none.
+template <typename Items>
+std::set<std::size_t> childless(Connection& page, const Items& found, std::size_t begin, std::size_t end) {
+  std::set<std::size_t> leaves;
+  std::vector<std::size_t> places;
+  ObjectList objects;
+  for (std::size_t i = begin; i < end; ++i) {
+    if (isPlain(*found[i].object)) {
+      places.push_back(i);
+      objects.push_back(found[i].object);
+    }
+    const bool isFull = objects.size() == static_cast<int>(objectsPerCall) || i + 1 == end;
+    if (!isFull || objects.size() < 2) {
+      continue;
+    }
+    const QStringList answers = askPage(page, hasChildrenInPage, objects).value;
+    for (int k = 0; k < answers.size(); ++k) {
+      if (answers.at(k) == QLatin1String("false")) {
+        leaves.insert(places[k]);
+      }
+    }
+    places.clear();
+    objects = ObjectList();
+  }
+  return leaves;
+}
+
+SharedPtr<Object> rootOf(const Connection* page) {
+  for (const SharedPtr<Object>& root : Inspector::self()->rootObjects()) {
+    void* data = nullptr;
+    if (root->get(&data) && data == page) {
+      return root;
+    }
+  }
+  return nullptr;
+}
+
+SharedPtr<Object> documentOf(const Context& context) {
+  const SharedPtr<Object> root = rootOf(context.connection);
+  const ObjectHierarchyDelegate* const delegate = hierarchyDelegate(root);
+  if (!delegate) {
+    return nullptr;
+  }
+  QString name = context.localName;
+  const SharedPtr<Object> document =
+      delegate->childByName(root, QStringLiteral("DOCUMENT[%1]").arg(name.replace(QLatin1Char('.'), QLatin1Char('|'))));
+  const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(document);
+  if (!native) {
+    return nullptr;
+  }
+  // Where a name leads to no window, the answer is another document.
+  const WebWrapper::JavaScriptAnswer shown =
+      native->evaluateJS(QStringLiteral("__corvex__contextOf(%1.defaultView)").arg(native->reference));
+  return shown.succeeded() && shown.text == context.localName ? document : SharedPtr<Object>();
+}
+
+void TreeReader::read(const Context& context) {
+  const SharedPtr<Object> document = documentOf(context);
+  const QString error = Inspector::self()->takeScriptError();
+  if (!document) {
+    fail(QStringLiteral("The document of '%1' could not be reached. %2").arg(context.name, error).trimmed());
+    return;
+  }
+  const int from = m_tree.nodes.size();
+  addNodes(find(*context.connection, document));
+  m_tree.nodes[from].context = context.name;
+  nameAll(*context.connection, from);
+}
+
+void TreeReader::addChildren(std::vector<Found>* found, std::size_t place) {
+  const Found parent = found->at(place);
+  const ObjectHierarchyDelegate* const delegate = hierarchyDelegate(parent.object);
+  if (!delegate) {
+    return;
+  }
+  for (const SharedPtr<Object>& child : delegate->children(parent.object)) {
+    found->at(place).children.push_back(found->size());
+    found->push_back({child, parent.depth + 1});
+  }
+}
+
+/// Level by level, so that the page can be asked about many objects at once.
+std::vector<TreeReader::Found> TreeReader::find(Connection& page, const SharedPtr<Object>& document) {
+  std::vector<Found> found = {{document}};
+  std::size_t begin = 0;
+  for (int depth = 0; begin < found.size() && (!m_maxDepth || depth < *m_maxDepth); ++depth) {
+    const std::size_t end = found.size();
+    const std::set<std::size_t> leaves = childless(page, found, begin, end);
+    for (std::size_t i = begin; i < end; ++i) {
+      if (leaves.count(i) == 0) {
+        addChildren(&found, i);
+      }
+    }
+    begin = end;
+  }
+  return found;
+}
+
+/// Each object is followed by what is below it.
+void TreeReader::addNodes(const std::vector<Found>& found) {
+  std::vector<std::size_t> left = {0};
+  while (!left.empty()) {
+    const Found& next = found[left.back()];
+    left.pop_back();
+    const ObjectHierarchyDelegate* const delegate = hierarchyDelegate(next.object);
+    TreeNode node;
+    node.depth = next.depth;
+    node.className = next.object->objectClass()->name();
+    node.name = delegate ? delegate->name(next.object) : QString();
+    m_tree.nodes.append(node);
+    m_objects.push_back(next.object);
+    left.insert(left.end(), next.children.rbegin(), next.children.rend());
+  }
+}
+
+void TreeReader::nameAll(Connection& page, int from) {
+  std::vector<int> places;
+  for (int i = from; i < m_tree.nodes.size(); ++i) {
+    const ObjectHierarchyDelegate* const delegate = hierarchyDelegate(m_objects[i]);
+    if (dynamic_cast<const WebWrapper::HTMLObjectHierarchyDelegate*>(delegate)) {
+      places.push_back(i);
+    } else if (delegate) {
+      m_tree.nodes[i].qualifiedName = delegate->qualifiedName(m_objects[i]);
+    }
+    if (places.size() == objectsPerCall) {
+      name(page, places);
+      places.clear();
+    }
+  }
+  name(page, places);
+}
+
+/// The same question as the delegate's `qualifiedName`, for many objects at once.
+void TreeReader::name(Connection& page, const std::vector<int>& places) {
+  ObjectList objects;
+  for (const int place : places) {
+    objects.push_back(m_objects[place]);
+  }
+  const FunctionCallResult<QStringList> names = askPage(page, nameInPage, objects);
+  if (names.failed()) {
+    fail(QStringLiteral("The page gave no names: %1").arg(names.error));
+    return;
+  }
+  for (int i = 0; i < names.value.size(); ++i) {
+    const QString& line = names.value.at(i);
+    if (line.startsWith(QLatin1Char('!'))) {
+      // No failure of the walk: the rules of naming have none for a form whose fields hide what takes part in it.
+      continue;
+    }
+    m_tree.nodes[places[i]].qualifiedName = WebWrapper::unescape(textOfLine(line));
+  }
+}
+
+void TreeReader::fail(const QString& error) {
+  if (m_tree.error.isEmpty()) {
+    m_tree.error = error;
+  }
+}
+
+}  // namespace
+
+PageTree readTree(const BrowserWindows& windows, std::optional<int> maxDepth) {
+  TreeReader reader(maxDepth);
+  for (const Context& context : allContexts(windows)) {
+    reader.read(context);
+  }
+  return reader.tree();
+}
+
+}  // namespace Corvex::Webhook

@@ -1,7 +1,0 @@
-#include "webhook/log.h"
-
-namespace Corvex::Webhook {
-
-Q_LOGGING_CATEGORY(webhookLog, "Webhook", QtWarningMsg)
-
-}  // namespace Corvex::Webhook

@@ -1,0 +1,78 @@
+#include "webhook/pages/browserwindows.h"
+
+#include "wrappers/web/setup/wrapperconfig.h"
+
+namespace Corvex::Webhook {
+
+namespace {
+
+BrowserIdentity identify(const BrowserSession& session) {
+  BrowserIdentity identity;
+  const QString name = session.browserName().toLower();
+  identity.family = name.contains(QLatin1String("firefox"))  ? BrowserIdentity::Firefox
+                    : name.contains(QLatin1String("google")) ? BrowserIdentity::Chrome
+                                                             : BrowserIdentity::Chromium;
+  identity.majorVersion = session.browserVersion().section(QLatin1Char('.'), 0, 0).toInt();
+  return identity;
+}
+
+}  // namespace
+
+BrowserWindows::BrowserWindows(BrowserSession& session, const WebWrapper::WrapperConfig& config, WebModel& model,
+                               int messagePort)
+    : m_session(session), m_config(config), m_model(model), m_identity(identify(session)) {
+  m_identity.messagePort = messagePort;
+}
+
+BrowserWindows::~BrowserWindows() {
+  for (const auto& connection : m_connections) {
+    m_model.removeConnection(connection.get());
+  }
+}
+
+QString BrowserWindows::open() {
+  addPage(m_session.firstPage());
+  const QString error = m_connections.front()->install();
+  if (!error.isEmpty() || !m_config.improvedTabAndWindowSupport()) {
+    return error;
+  }
+  connect(&m_session, &BrowserSession::pageOpened, this, &BrowserWindows::addPage);
+  return m_session.addStartScriptOfNewPages(hookText(m_config, m_identity));
+}
+
+void BrowserWindows::addPage(BrowserPage* page) {
+  const QString tabId = QString::number(m_connections.size() + 1);
+  m_connections.push_back(std::make_unique<Connection>(page, &m_config, m_identity, tabId));
+  Connection* connection = m_connections.back().get();
+  m_model.addConnection(connection);
+  connect(connection, &Connection::documentGone, this, [this, connection] { m_model.invalidateObjects(connection); });
+  connect(connection, &Connection::navigating, this, &BrowserWindows::documentExpected);
+  connect(page, &BrowserPage::navigated, this, &BrowserWindows::documentExpected);
+  connect(page, &BrowserPage::closed, connection, [this, connection] { noteClosed(connection); });
+  Q_EMIT documentExpected(page->url());
+}
+
+void BrowserWindows::noteClosed(Connection* connection) {
+  const bool wasCurrent = current() == connection;
+  m_model.removeConnection(connection);
+  const QVector<Connection*> left = connections();
+  if (wasCurrent && !left.isEmpty()) {
+    setCurrent(left.last());
+  }
+}
+
+Connection* BrowserWindows::current() const { return m_model.current(); }
+
+void BrowserWindows::setCurrent(Connection* connection) { m_model.setCurrent(connection); }
+
+QVector<Connection*> BrowserWindows::connections() const {
+  QVector<Connection*> open;
+  for (const auto& connection : m_connections) {
+    if (connection->isOpen()) {
+      open << connection.get();
+    }
+  }
+  return open;
+}
+
+}  // namespace Corvex::Webhook

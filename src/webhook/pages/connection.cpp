@@ -1,0 +1,203 @@
+#include "webhook/pages/connection.h"
+
+#include "webhook/browser/pageerrors.h"
+#include "webhook/pages/extensioncheck.h"
+#include "wrappers/web/elements/html_text.h"
+#include "wrappers/web/page/escaping.h"
+#include "wrappers/web/widgets/widgetclasses.h"
+
+#include <QFileInfo>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+// Other numbers than the wrapper's two special ones; what they stand for is only known here.
+struct BrowserKindRow {
+  BrowserIdentity::Family family;
+  int kind;
+};
+
+const BrowserKindRow browserKinds[] = {
+    {BrowserIdentity::Firefox, 1},
+    {BrowserIdentity::Chrome, 3},
+    {BrowserIdentity::Chromium, 4},
+};
+
+/// What code needs to be safe in a page that is not ours; all other code goes as it is, to the global scope.
+///
+/// What a page made of its JSON would spoil the answers that are written with it. And a reference into the store of one
+/// document may name anything in the next one, which can be there before the browser tells of it.
+QString guarded(const QString& code, int document) {
+  QString text = code;
+  if (code.contains(QLatin1String("JSON."))) {
+    text = QStringLiteral("{ let JSON = window.__corvex && window.__corvex.JSON || window.JSON;\n%1\n}").arg(text);
+  }
+  if (code.contains(QLatin1String("__corvex__globalObjectRefStore["))) {
+    text = QStringLiteral("if ((window.__corvex || {}).documentNumber !== %1) throw new Error('%2');\n")
+               .arg(QString::number(document), PageErrors::pageReplaced()) +
+           text;
+  }
+  return text;
+}
+
+QString closedPage() { return QStringLiteral("The browser window is closed. Call startBrowser(url) to open another."); }
+
+}  // namespace
+
+Connection::Connection(BrowserPage* page, const WebWrapper::WrapperConfig* config, const BrowserIdentity& browser,
+                       const QString& tabId, QObject* parent)
+    : QObject(parent), m_page(page), m_config(config), m_browser(browser), m_tabId(tabId) {
+  connect(page, &BrowserPage::crashed, this, &Connection::documentGone);
+  connect(page, &BrowserPage::navigated, this, &Connection::documentGone);
+  connect(page, &BrowserPage::closed, this, &Connection::documentGone);
+  connect(this, &Connection::documentGone, this, [this] { m_greeted = false; });
+  connect(page, &BrowserPage::dialogOpened, this, [this] {
+    if (const std::optional<Dialog> dialog = openDialog()) {
+      m_lastDialogs[dialog->kind] = *dialog;
+    }
+  });
+}
+
+QString Connection::install() {
+  const QString error = greetDocument();
+  if (!error.isEmpty()) {
+    return error;
+  }
+  return m_page ? m_page->addStartScript(hookText(*m_config, m_browser)) : closedPage();
+}
+
+QString Connection::greetDocument() {
+  m_greeted = true;
+  const QString greeting =
+      QStringLiteral(
+          "typeof __corvex__isHooked === 'function' && __corvex__isHooked() ? "
+          "(window.__corvex__browsertabid = '%1', window.__corvex.documentNumber = %2, true) : false")
+          .arg(m_tabId)
+          .arg(++m_document);
+  WebWrapper::JavaScriptAnswer answer = ask(greeting, 0);
+  if (answer.succeeded() && answer.text != QLatin1String("true")) {
+    answer = ask(hookText(*m_config, m_browser), 0);
+    if (answer.failed) {
+      m_greeted = false;
+      return extensionError(*this, answer.text);
+    }
+    answer = ask(greeting, 0);
+  }
+  const bool there = answer.text == QLatin1String("true");
+  // The document that answered may have been replaced while its answer was waited for.
+  m_greeted = m_greeted && there;
+  if (m_greeted && !m_contextName.isEmpty()) {
+    setContext(m_contextName);
+  }
+  return there ? QString() : answer.text;
+}
+
+QString Connection::navigate(const QString& url, int timeoutMs) {
+  if (!m_page) {
+    return closedPage();
+  }
+  m_contextName.clear();
+  Q_EMIT navigating(url);
+  const QString error = m_page->navigate(url, timeoutMs);
+  if (!error.isEmpty()) {
+    return error;
+  }
+  const QString why = m_greeted ? QString() : greetDocument();
+  return why.isEmpty()
+             ? QString()
+             : QStringLiteral("The page '%1' was loaded, but its scripts could not be reached: %2").arg(url, why);
+}
+
+bool Connection::setContext(const QString& name) {
+  m_contextName = name;
+  const QString code = QStringLiteral("__corvex__setContext('%1')").arg(WebWrapper::escapeQuoteWithBackslash(name));
+  return evaluateJS(code, 0).text == QLatin1String("true");
+}
+
+QString Connection::close() { return m_page ? m_page->close() : QString(); }
+
+bool Connection::isOpen() const { return m_page && m_page->isOpen(); }
+
+std::optional<Dialog> Connection::openDialog() const { return m_page ? m_page->openDialog() : std::nullopt; }
+
+QString Connection::answerDialog(bool accept, const QString& text) {
+  return m_page ? m_page->answerDialog(accept, text) : closedPage();
+}
+
+WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigned int timeoutMs) {
+  if (!m_greeted) {
+    // Whether it worked shows in what the code itself gives.
+    greetDocument();
+  }
+  return ask(guarded(code, m_document), timeoutMs);
+}
+
+WebWrapper::JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {
+  WebWrapper::JavaScriptAnswer answer;
+  if (!m_page) {
+    answer.text = closedPage();
+    answer.aborted = true;
+    return answer;
+  }
+  ++m_questions;
+  const Evaluation evaluation = m_page->evaluate(code, static_cast<int>(timeoutMs));
+  --m_questions;
+  answer.text = evaluation.text;
+  answer.failed = evaluation.failed;
+  answer.aborted = evaluation.aborted;
+  return answer;
+}
+
+int Connection::browserKind() {
+  for (const BrowserKindRow& row : browserKinds) {
+    if (row.family == m_browser.family) {
+      return row.kind;
+    }
+  }
+  return 0;
+}
+
+bool Connection::isAvailable() { return m_page && m_page->isAvailable(); }
+
+const WebWrapper::WrapperConfig* Connection::config() { return m_config; }
+
+bool Connection::supportsPageScreenshot() { return true; }
+
+FunctionCallResult<QImage> Connection::grabPageScreenshot() {
+  if (!m_page) {
+    return FunctionCallResult<QImage>::failure(closedPage());
+  }
+  const Screenshot screenshot = m_page->screenshot(true);
+  return {screenshot.image, screenshot.error};
+}
+
+FunctionCallResult<double> Connection::zoomFactor() {
+  if (!m_page) {
+    return FunctionCallResult<double>::failure(closedPage());
+  }
+  const ZoomFactor zoom = m_page->zoomFactor();
+  return {zoom.value, zoom.error};
+}
+
+QString Connection::selectFileToUpload(WebWrapper::HTML_TextBase* field, const QString& path) {
+  return upload(field->reference, path);
+}
+
+QString Connection::selectFileToUpload(WebWrapper::HTML_CustomText* field, const QString& path) {
+  return upload(field->reference, path);
+}
+
+QString Connection::upload(const QString& reference, const QString& path) {
+  const QFileInfo file(path);
+  // A browser on another machine looks for the file there.
+  if (m_browser.messagePort == 0) {
+    return m_page ? m_page->setFiles(reference, {path}) : closedPage();
+  }
+  if (!file.isFile()) {
+    return QStringLiteral("Cannot choose the file '%1': there is no such file. Give a path that exists.").arg(path);
+  }
+  return m_page ? m_page->setFiles(reference, {file.absoluteFilePath()}) : closedPage();
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "webhook/browser/browserpage.h"
+#include "webhook/pages/hookinjector.h"
+#include "wrappers/web/page/htmlcomponent.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+
+#include <optional>
+
+namespace Corvex::Webhook {
+
+/// One page of a browser as the wrapper's page objects see it.
+class Connection : public QObject, public WebWrapper::HTMLComponent {
+  Q_OBJECT
+
+public:
+  /// Borrows page and configuration; the configuration outlives the connection, the page may go at any time. `tabId` is
+  /// what the page knows itself by.
+  Connection(BrowserPage* page, const WebWrapper::WrapperConfig* config, const BrowserIdentity& browser,
+             const QString& tabId, QObject* parent = nullptr);
+
+  /// Has every top document from now on hooked, and the present one too. An error names the extension script to blame,
+  /// if any.
+  QString install();
+  /// Loads a page and sees to it that it is hooked.
+  QString navigate(const QString& url, int timeoutMs = 0);
+  /// Closes the page.
+  QString close();
+  bool isOpen() const;
+  BrowserPage* page() const { return m_page; }
+
+  /// Selects a context of this page, by its name inside the page; after a reload it is selected again. False where
+  /// there is none of that name: a window that gets the name later is then selected.
+  bool setContext(const QString& name);
+
+  /// Whether a question to the page is under way.
+  bool isBusy() const { return m_questions > 0; }
+
+  /// The dialog that keeps the page's scripts from going on.
+  std::optional<Dialog> openDialog() const;
+  /// A null text leaves a prompt's field as it is.
+  QString answerDialog(bool accept, const QString& text);
+  /// The last dialog of a kind that the browser showed; one without a kind before there was one.
+  Dialog lastDialog(const QString& kind) const { return m_lastDialogs.value(kind); }
+
+  WebWrapper::JavaScriptAnswer evaluateJS(const QString& code, unsigned int timeoutMs) override;
+  int browserKind() override;
+  bool isAvailable() override;
+  const WebWrapper::WrapperConfig* config() override;
+  bool supportsPageScreenshot() override;
+  FunctionCallResult<QImage> grabPageScreenshot() override;
+  FunctionCallResult<double> zoomFactor() override;
+  QString selectFileToUpload(WebWrapper::HTML_TextBase* field, const QString& path) override;
+  QString selectFileToUpload(WebWrapper::HTML_CustomText* field, const QString& path) override;
+
+Q_SIGNALS:
+  /// The top document went away: what was known of its objects is void.
+  void documentGone();
+  /// The connection's own `navigate` begins.
+  void navigating(const QString& url);
+
+private:
+  WebWrapper::JavaScriptAnswer ask(const QString& code, unsigned int timeoutMs);
+  /// Makes a document that was not asked anything yet ready for questions. Answers why it is not, or an empty text.
+  QString greetDocument();
+  QString upload(const QString& reference, const QString& path);
+
+  QPointer<BrowserPage> m_page;
+  const WebWrapper::WrapperConfig* m_config;
+  BrowserIdentity m_browser;
+  QString m_tabId;
+  QString m_contextName;
+  QHash<QString, Dialog> m_lastDialogs;
+  bool m_greeted = false;
+  int m_document = 0;  ///< Counts the documents that were greeted; each knows its number.
+  int m_questions = 0;
+};
+
+}  // namespace Corvex::Webhook

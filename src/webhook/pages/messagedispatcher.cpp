@@ -1,0 +1,103 @@
+#include "webhook/pages/messagedispatcher.h"
+
+#include "corvexhook/inspector.h"
+#include "webhook/endpoint/endpointpolicy.h"
+#include "webhook/pages/browserwindows.h"
+#include "webhook/pages/dialogs.h"
+#include "webhook/protocol/log.h"
+
+namespace Corvex::Webhook {
+
+namespace {
+
+const int drainIntervalMs = 1000;
+const int drainTimeoutMs = 1000;
+const std::size_t recordedLimit = 100000;
+
+const char* const queueOfPage =
+    "window.__corvex && window.__corvex.useSessionStorageForEvents === true ? "
+    "__corvex__queueText(__corvex__getSessionStorageEvents()) : ''";
+
+}  // namespace
+
+MessageDispatcher::MessageDispatcher(MessageEndpoint& endpoint, BrowserWindows& windows, Dialogs& dialogs)
+    : m_endpoint(endpoint), m_windows(windows), m_dialogs(dialogs) {
+  connect(&endpoint, &MessageEndpoint::messageReceived, this, &MessageDispatcher::dispatch);
+  connect(&endpoint, &MessageEndpoint::waitUnanswered, &dialogs, &Dialogs::noteWaitEnded);
+  connect(&windows, &BrowserWindows::documentExpected, this, &MessageDispatcher::letIn);
+  connect(&m_drainTimer, &QTimer::timeout, this, &MessageDispatcher::drainQueues);
+  m_drainTimer.start(drainIntervalMs);
+}
+
+void MessageDispatcher::dispatch(const PageMessage& message) {
+  switch (message.kind()) {
+    case MessageKind::EventHandler:
+    case MessageKind::WaitForConfirm:
+    case MessageKind::WaitForPrompt:
+      m_dialogs.noteMessage(message);
+      break;
+    case MessageKind::LogEvent:
+      takeLogEvent(message);
+      break;
+    case MessageKind::DebugLog:
+      qCDebug(webhookLog) << "page:" << message.value(QStringLiteral("text"));
+      break;
+    case MessageKind::HighlightWidget:
+      keep(message);
+      break;
+    case MessageKind::Unknown:
+      qCDebug(webhookLog) << "a page sent an unknown message:" << message.text().left(200);
+      break;
+  }
+}
+
+void MessageDispatcher::takeLogEvent(const PageMessage& message) {
+  const QString event = message.value(QStringLiteral("event"));
+  const QString name = message.value(QStringLiteral("name"));
+  if (event == QLatin1String("addUnmatchedProperty")) {
+    Inspector::self()->addUnmatchedProperty(name, message.value(QStringLiteral("property")));
+  } else if (event == QLatin1String("removeUnmatchedProperties")) {
+    Inspector::self()->removeUnmatchedProperties(name);
+  } else {
+    keep(message);
+  }
+}
+
+void MessageDispatcher::keep(const PageMessage& message) {
+  m_recorded.push_back(message);
+  if (m_recorded.size() > recordedLimit) {
+    m_recorded.pop_front();
+  }
+}
+
+void MessageDispatcher::drainQueues() {
+  if (m_draining) {
+    return;
+  }
+  m_draining = true;
+  for (Connection* connection : m_windows.connections()) {
+    if (connection->isAvailable() && !connection->isBusy()) {
+      drain(*connection);
+    }
+  }
+  m_draining = false;
+}
+
+void MessageDispatcher::drain(Connection& connection) {
+  const auto answer = connection.evaluateJS(QString::fromLatin1(queueOfPage), drainTimeoutMs);
+  if (answer.succeeded() && !answer.text.isEmpty()) {
+    for (const PageMessage& message : PageMessage::fromSessionQueue(answer.text)) {
+      dispatch(message);
+    }
+  }
+}
+
+void MessageDispatcher::letIn(const QString& url) {
+  const QString origin = originOf(url);
+  if (!origin.isEmpty() && !m_origins.contains(origin)) {
+    m_origins << origin;
+    m_endpoint.setAllowedOrigins(m_origins);
+  }
+}
+
+}  // namespace Corvex::Webhook

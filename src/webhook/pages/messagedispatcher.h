@@ -1,0 +1,48 @@
+#pragma once
+
+#include "webhook/endpoint/endpoint.h"
+#include "webhook/endpoint/pagemessage.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <deque>
+
+namespace Corvex::Webhook {
+
+class BrowserWindows;
+class Connection;
+class Dialogs;
+
+/// Takes what pages say of their own accord, by whichever way it comes, to the one that it is for: dialogs, the
+/// framework's list of unmatched properties, the log, or the recorder.
+class MessageDispatcher : public QObject {
+  Q_OBJECT
+
+public:
+  /// All three outlive this object. Pages that cannot reach the endpoint leave their messages in the queue of their
+  /// session, which is read about once a second while events are served.
+  MessageDispatcher(MessageEndpoint& endpoint, BrowserWindows& windows, Dialogs& dialogs);
+
+  /// What waits for the recorder, oldest first; of very many the oldest are dropped.
+  const std::deque<PageMessage>& recorded() const { return m_recorded; }
+
+private:
+  void dispatch(const PageMessage& message);
+  void takeLogEvent(const PageMessage& message);
+  void keep(const PageMessage& message);
+  void drainQueues();
+  void drain(Connection& connection);
+  void letIn(const QString& url);
+
+  MessageEndpoint& m_endpoint;
+  BrowserWindows& m_windows;
+  Dialogs& m_dialogs;
+  QTimer m_drainTimer;
+  bool m_draining = false;
+  // Those of documents that went away too: their last messages come behind the news of the next document.
+  QStringList m_origins;
+  std::deque<PageMessage> m_recorded;
+};
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,203 @@
+#include "webhook/pages/searchexplanation.h"
+
+#include "corvexhook/delegate.h"
+#include "corvexhook/inspector.h"
+#include "wrappers/web/lookup/containers.h"
+#include "wrappers/web/lookup/findallobjects.h"
+#include "wrappers/web/lookup/webobjectdelegate.h"
+#include "wrappers/web/object/wraphtmlobject.h"
+#include "wrappers/web/page/escaping.h"
+#include "wrappers/web/page/htmlcomponent.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <utility>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+const unsigned int explanationTimeoutMs = 2000;
+
+// What the names begin with that are places in the tree.
+const QLatin1String treeRoot("DOCUMENT");
+
+/// `where` has a blank in front.
+QString elements(const QString& tag, int count, const QString& where) {
+  if (count == 0) {
+    return QStringLiteral("No element%1 has the tag %2").arg(where, tag);
+  }
+  return count == 1 ? QStringLiteral("1 element%1 has the tag %2").arg(where, tag)
+                    : QStringLiteral("%1 elements%2 have the tag %3").arg(QString::number(count), where, tag);
+}
+
+QString missingProperties(const QJsonArray& missing) {
+  QStringList names;
+  for (const QJsonValue& name : missing) {
+    names << name.toString();
+  }
+  return names.join(QLatin1String(" or "));
+}
+
+QString missingContext(const QString& context) { return QStringLiteral("There is no context '%1'.").arg(context); }
+
+/// Calls a function of the page with a name, and below an object where a reference of one is given.
+WebWrapper::JavaScriptAnswer askPage(WebWrapper::HTMLComponent& page, const char* function, const QString& name,
+                                     const QString& reference) {
+  const QString below = reference.isEmpty() ? QString() : QLatin1String(", ") + reference;
+  const QString code =
+      QStringLiteral("JSON.stringify(window.top.__corvex.%1(\"%2\"%3) || {})")
+          .arg(QLatin1String(function), WebWrapper::escapeObjectNameForUseAsStringLiteral(name), below);
+  return page.evaluateJS(code, explanationTimeoutMs);
+}
+
+/// What is known of the elements of the tag; `where` tells where they were looked for.
+QString explainElements(const QJsonObject& why, const ObjectName& name, const QString& where) {
+  const int count = why.value(QLatin1String("count")).toInt();
+  const QString found = elements(why.value(QLatin1String("tag")).toString(), count, where);
+  const QString missing = missingProperties(why.value(QLatin1String("missing")).toArray());
+  const int most = why.value(QLatin1String("most")).toInt();
+  const QString error = why.value(QLatin1String("error")).toString();
+  if (count == 0) {
+    return found + QLatin1Char('.');
+  }
+  if (most > 0) {
+    const QString occurrence = WebWrapper::occurrenceOf(name).value();
+    return found + QStringLiteral(", but the name fits %1 of one document at most: there is no occurrence %2.")
+                       .arg(QString::number(most), occurrence);
+  }
+  if (missing.isEmpty()) {
+    return found + QStringLiteral(", but none has all the properties together.");
+  }
+  return found + QStringLiteral(", but none has this %1%2.")
+                     .arg(missing, error.isEmpty() ? QString() : QLatin1String(": ") + error);
+}
+
+QString explainFailedStep(WebWrapper::HTMLComponent& page, const ObjectName& name, const QString& reference) {
+  const WebWrapper::JavaScriptAnswer answer = askPage(page, "explainFailedSearch", name.qualifiedName(), reference);
+  const QJsonObject why = QJsonDocument::fromJson(answer.text.toUtf8()).object();
+  if (why.contains(QLatin1String("context"))) {
+    return missingContext(why.value(QLatin1String("context")).toString());
+  }
+  if (!answer.succeeded() || !why.contains(QLatin1String("tag"))) {
+    return QString();
+  }
+  const bool hasContext = !name.property(QStringLiteral("context")).value().isEmpty();
+  const QString where = hasContext ? QStringLiteral(" in its context") : QString();
+  return explainElements(why, name, reference.isEmpty() ? where : QStringLiteral(" in its container"));
+}
+
+QString missingContainer(const QString& container) {
+  QString problem = QStringLiteral("was not found");
+  if (container.startsWith(QLatin1Char(':'))) {
+    problem = QStringLiteral("is not in the object map");
+  } else if (container.startsWith(treeRoot)) {
+    problem = QStringLiteral("is a place in the tree, which finds no container. Name it by its properties");
+  }
+  return QStringLiteral("Its container '%1' %2.").arg(container, problem);
+}
+
+SharedPtr<Object> lookUp(const QString& name) {
+  const SharedPtr<Object> object = Inspector::self()->lookup(name);
+  Inspector::self()->takeScriptError();
+  return object;
+}
+
+/// As look-ups below a container find it: a place in the tree is no name for one.
+SharedPtr<Object> lookUpContainer(const ObjectName& name) {
+  if (name.isMultiProperty()) {
+    return lookUp(name.qualifiedName());
+  }
+  SharedPtr<Object> found;
+  for (const SharedPtr<Object>& root : Inspector::self()->rootObjects()) {
+    const ObjectHierarchyDelegate* delegate = hierarchyDelegate(root);
+    found = found || !delegate ? found : delegate->objectByQualifiedName(root, name);
+  }
+  Inspector::self()->takeScriptError();
+  return found;
+}
+
+/// For a name that is a place in the tree: the first step that leads nowhere.
+QString explainPath(const QString& name) {
+  const QStringList steps = name.split(QLatin1Char('.'));
+  if (!steps.first().startsWith(treeRoot)) {
+    return QString();
+  }
+  QString path = steps.first();
+  if (!lookUp(path)) {
+    const QString context = path.section(QLatin1Char('['), 1).section(QLatin1Char(']'), 0, 0);
+    return context.isEmpty() ? QString() : missingContext(QString(context).replace(QLatin1Char('|'), QLatin1Char('.')));
+  }
+  for (const QString& step : steps.mid(1)) {
+    const QString parent = std::exchange(path, path + QLatin1Char('.') + step);
+    if (!lookUp(path)) {
+      return QStringLiteral("'%1' has no child '%2'.").arg(parent, step);
+    }
+  }
+  return QString();
+}
+
+bool hasPattern(const ObjectName& name) {
+  const QMap<QString, PropertyValue> properties = name.properties();
+  return std::any_of(properties.begin(), properties.end(),
+                     [](const PropertyValue& value) { return value.modifiers() != PropertyValue::StrictMatch; });
+}
+
+QString faultOfPart(WebWrapper::HTMLComponent& page, const ObjectName& part) {
+  if (!part.isMultiProperty()) {
+    return QString();
+  }
+  if (!part.parseError().isEmpty()) {
+    return part.parseError();
+  }
+  const PropertyValue tagName = part.property(QStringLiteral("tagName"));
+  if (tagName.modifiers() == PropertyValue::StrictMatch && tagName.value().isEmpty()) {
+    return QStringLiteral("it has no tagName; add one, the search needs it");
+  }
+  const WebWrapper::JavaScriptAnswer answer =
+      hasPattern(part) ? askPage(page, "faultOfName", part.qualifiedName(), QString()) : WebWrapper::JavaScriptAnswer();
+  return QJsonDocument::fromJson(answer.text.toUtf8()).object().value(QLatin1String("fault")).toString();
+}
+
+}  // namespace
+
+QString explainFailedSearch(WebWrapper::HTMLComponent& page, const QString& name) {
+  std::list<ObjectName> parts = WebWrapper::splitByContainer(ObjectName(name));
+  const ObjectName last = parts.back();
+  parts.pop_back();
+  std::list<ObjectName> outer;
+  WebWrapper::HTMLComponent* searched = &page;
+  QString reference;
+  for (const ObjectName& part : parts) {
+    outer.push_back(part);
+    const QString containerName = WebWrapper::joinByContainer(outer).qualifiedName();
+    const SharedPtr<Object> container = lookUpContainer(WebWrapper::joinByContainer(outer));
+    const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(container);
+    if (!native) {
+      return missingContainer(containerName);
+    }
+    if (!dynamic_cast<const WebWrapper::HTMLObjectHierarchyDelegate*>(hierarchyDelegate(container))) {
+      return QStringLiteral("Nothing can be looked up below its container '%1', which is of the class %2.")
+          .arg(containerName, container->objectClass()->name());
+    }
+    searched = native->component;
+    reference = native->reference;
+  }
+  return last.isMultiProperty() ? explainFailedStep(*searched, last, reference) : explainPath(name);
+}
+
+QString faultOfName(WebWrapper::HTMLComponent& page, const QString& name) {
+  const std::list<ObjectName> parts = WebWrapper::splitByContainer(ObjectName(name));
+  for (const ObjectName& part : parts) {
+    const QString fault = faultOfPart(page, part);
+    if (!fault.isEmpty()) {
+      return parts.size() == 1 ? fault : QStringLiteral("in the part '%1', %2").arg(part.qualifiedName(), fault);
+    }
+  }
+  return QString();
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,63 @@
+#include "webhook/protocol/websockettransport.h"
+
+#include <QPointer>
+#include <QWebSocket>
+
+#include "shared/wait.h"
+
+namespace Corvex::Webhook {
+
+WebSocketTransport::WebSocketTransport() : m_socket(new QWebSocket) {
+  connect(m_socket, &QWebSocket::textMessageReceived, this, [this](const QString& text) {
+    // The socket reads its next frame only after this returns, so no receiver may run, and perhaps wait, in here.
+    enqueue(text.toUtf8());
+    QMetaObject::invokeMethod(this, &WebSocketTransport::deliver, Qt::QueuedConnection);
+  });
+}
+
+WebSocketTransport::~WebSocketTransport() {
+  m_socket->disconnect(this);
+  m_socket->close();
+  m_socket->deleteLater();
+}
+
+QString WebSocketTransport::open(const QUrl& url, const QDeadlineTimer& deadline) {
+  auto settled = std::make_shared<Pending>();
+  connect(m_socket, &QWebSocket::connected, this, [settled] { settled->complete(); });
+  connect(m_socket, &QWebSocket::disconnected, this, [this, settled] {
+    settled->complete();
+    noteClosed(reasonOfEnd());
+    QMetaObject::invokeMethod(this, &WebSocketTransport::deliver, Qt::QueuedConnection);
+  });
+  const QPointer<WebSocketTransport> self(this);
+  m_socket->open(url);
+  const WaitResult result = waitFor(*settled, deadline);
+  if (!self || result == WaitResult::Interrupted) {
+    return QStringLiteral("the program is ending");
+  }
+  if (m_socket->isValid()) {
+    return {};
+  }
+  return result == WaitResult::TimeOver ? QStringLiteral("there was no answer in time") : reasonOfEnd();
+}
+
+void WebSocketTransport::send(const QByteArray& message) {
+  if (m_socket->isValid()) {
+    m_socket->sendTextMessage(QString::fromUtf8(message));
+  }
+}
+
+void WebSocketTransport::close() {
+  m_socket->disconnect(this);
+  m_socket->close();
+  discardInbox();
+}
+
+QString WebSocketTransport::reasonOfEnd() const {
+  if (m_socket->error() == QAbstractSocket::UnknownSocketError) {
+    return QStringLiteral("the connection was closed");
+  }
+  return m_socket->errorString();
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,149 @@
+#include "webhook/run/browsercontrol.h"
+
+#include "corvexhook/inspector.h"
+#include "shared/wait.h"
+#include "webhook/pages/searchexplanation.h"
+#include "wrappers/web/object/references.h"
+#include "wrappers/web/object/wraphtmlobject.h"
+#include "wrappers/web/page/escaping.h"
+#include "wrappers/web/readiness/readiness.h"
+
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QUrl>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+// How soon a sleeping script learns that its browser is gone.
+const int sleepSliceMs = 100;
+
+}  // namespace
+
+BrowserControl::BrowserControl(const SessionOptions& options) : m_options(options) {
+  HostServices services;
+  services.isReady = [](const SharedPtr<Object>& object) {
+    return WebWrapper::isObjectReady(WebWrapper::retrieveObject(object));
+  };
+  services.sleep = [this](int milliseconds) { sleep(milliseconds); };
+  services.trouble = [this] { return trouble(); };
+  services.explain = [this](const QString& name) {
+    return trouble().isEmpty() ? explainFailedSearch(*m_windows->current(), name) : QString();
+  };
+  services.nameFault = [this](const QString& name) {
+    return trouble().isEmpty() ? faultOfName(*m_windows->current(), name) : QString();
+  };
+  services.findAll = [this](const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) {
+    return m_model.findAll(roots, name);
+  };
+  services.objectTrouble = [](const SharedPtr<Object>& object) {
+    const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(object);
+    return native && !native->hasValidReference() ? WebWrapper::deadObjectReferenceError() : QString();
+  };
+  Inspector::self()->setHostServices(services);
+}
+
+BrowserControl::~BrowserControl() {
+  closeBrowser();
+  Inspector::self()->setHostServices(HostServices());
+}
+
+QString BrowserControl::startBrowser(const QString& address) {
+  closeBrowser();
+  const QString error = openSession();
+  if (!error.isEmpty()) {
+    m_browserFailure = true;
+    closeBrowser();
+    return error;
+  }
+  return m_windows->current()->navigate(resolveAddress(address));
+}
+
+QString BrowserControl::openSession() {
+  BrowserSession::Start start = BrowserSession::start(m_options);
+  if (!start.error.isEmpty()) {
+    return start.error;
+  }
+  m_session = std::move(start.session);
+  m_endpoint = std::make_unique<MessageEndpoint>();
+  QString error;
+  if (!m_endpoint->start(&error)) {
+    return error;
+  }
+  // A page on another machine cannot reach this one's loopback interface.
+  const int port = m_options.remoteUrl.isEmpty() ? m_endpoint->port() : 0;
+  m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, port);
+  m_dialogs = std::make_unique<Dialogs>(*m_windows, *m_endpoint, [this](int milliseconds) { sleep(milliseconds); });
+  m_dispatcher = std::make_unique<MessageDispatcher>(*m_endpoint, *m_windows, *m_dialogs);
+  QObject::connect(m_session.get(), &BrowserSession::lost, m_windows.get(), [this](const QString& reason) {
+    m_lossReason = reason;
+    m_browserFailure = true;
+  });
+  return m_windows->open();
+}
+
+QString BrowserControl::closeWindow() {
+  const QString error = windowTrouble();
+  return error.isEmpty() ? m_windows->current()->close() : error;
+}
+
+void BrowserControl::closeBrowser() {
+  m_dispatcher.reset();
+  m_dialogs.reset();
+  // The pages may speak until they are gone.
+  m_session.reset();
+  m_windows.reset();
+  m_endpoint.reset();
+  m_lossReason.clear();
+}
+
+QString BrowserControl::windowTrouble() const {
+  if (!m_lossReason.isEmpty()) {
+    return QStringLiteral("The browser was lost: %1").arg(m_lossReason);
+  }
+  if (!m_windows) {
+    return QStringLiteral("No browser is running. Call startBrowser(url) first.");
+  }
+  return m_windows->current() ? QString()
+                              : QStringLiteral("The browser window is closed. Call startBrowser(url) to open another.");
+}
+
+QString BrowserControl::trouble() const {
+  const QString error = windowTrouble();
+  return error.isEmpty() ? m_dialogs->obstacle() : error;
+}
+
+void BrowserControl::scriptStarted(const QString& path) { m_scriptFolder = QFileInfo(path).absolutePath(); }
+
+void BrowserControl::scriptFinished(const Scripting::ScriptResult&) { closeBrowser(); }
+
+QString BrowserControl::resolvePath(const QString& path) const {
+  return QFileInfo(path).isAbsolute() ? path : m_scriptFolder + QLatin1Char('/') + path;
+}
+
+QString BrowserControl::resolveAddress(const QString& address) const {
+  const QFileInfo file(resolvePath(address));
+  if (file.isFile()) {
+    return QUrl::fromLocalFile(file.absoluteFilePath()).toString(QUrl::FullyEncoded);
+  }
+  static const QRegularExpression scheme(QStringLiteral("^([a-z][a-z0-9+.-]*://|about:|data:)"),
+                                         QRegularExpression::CaseInsensitiveOption);
+  return scheme.match(address).hasMatch() ? address : WebWrapper::addSchemeIfMissing(address);
+}
+
+void BrowserControl::sleep(int milliseconds) {
+  QElapsedTimer timer;
+  timer.start();
+  int left = milliseconds;
+  while (left > 0 && m_lossReason.isEmpty()) {
+    gentleSleep(qMin(left, sleepSliceMs));
+    left = milliseconds - static_cast<int>(timer.elapsed());
+  }
+  if (!m_lossReason.isEmpty()) {
+    Inspector::self()->reportScriptError(windowTrouble());
+  }
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "scripting/scriptlistener.h"
+#include "webhook/browser/browsersession.h"
+#include "webhook/endpoint/endpoint.h"
+#include "webhook/pages/browserwindows.h"
+#include "webhook/pages/dialogs.h"
+#include "webhook/pages/messagedispatcher.h"
+#include "webhook/pages/webmodel.h"
+#include "wrappers/web/setup/wrapperconfig.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace Corvex::Webhook {
+
+/// The browser of a run of test scripts: started by the script's `startBrowser`, gone when the script has ended.
+class BrowserControl : public Scripting::ScriptListener {
+public:
+  explicit BrowserControl(const SessionOptions& options);
+  ~BrowserControl() override;
+
+  /// Starts a browser, in place of one that runs, and opens a page in it.
+  QString startBrowser(const QString& address);
+  /// Closes the current window.
+  QString closeWindow();
+  void closeBrowser();
+
+  /// Null when no browser runs.
+  BrowserWindows* windows() const { return m_windows.get(); }
+  Dialogs* dialogs() const { return m_dialogs.get(); }
+
+  /// Why no window can be used now; empty when all is well.
+  QString windowTrouble() const;
+  /// The same, and why the current window cannot be asked anything.
+  QString trouble() const;
+  /// Whether, at any time, a browser could not be started or was lost.
+  bool hadBrowserFailure() const { return m_browserFailure; }
+
+  /// A path as the running script means it: relative to its own folder.
+  QString resolvePath(const QString& path) const;
+  /// Sleeps that long, or less when the browser is lost, which is then the error of the script.
+  void sleep(int milliseconds);
+
+  void scriptStarted(const QString& path) override;
+  void scriptFinished(const Scripting::ScriptResult& result) override;
+
+private:
+  QString openSession();
+  QString resolveAddress(const QString& address) const;
+
+  SessionOptions m_options;
+  WebWrapper::FileSystemBasedConfig m_config;
+  WebModel m_model;
+  std::unique_ptr<BrowserSession> m_session;
+  std::unique_ptr<MessageEndpoint> m_endpoint;
+  std::unique_ptr<BrowserWindows> m_windows;
+  std::unique_ptr<Dialogs> m_dialogs;
+  std::unique_ptr<MessageDispatcher> m_dispatcher;
+  QString m_scriptFolder;
+  QString m_lossReason;
+  bool m_browserFailure = false;
+};
+
+}  // namespace Corvex::Webhook

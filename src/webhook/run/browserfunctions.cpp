@@ -1,0 +1,148 @@
+#include "webhook/run/browserfunctions.h"
+
+#include "corvexhook/arrayclass.h"
+#include "corvexhook/inspector.h"
+#include "webhook/pages/contexts.h"
+#include "webhook/run/browsercontrol.h"
+
+#include <QElapsedTimer>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+using ScriptValue = FunctionCallResult<SharedPtr<Object>>;
+
+const int attemptIntervalMs = 50;
+
+ScriptValue nothing(const QString& error) { return {nullptr, error}; }
+
+ScriptValue text(const FunctionCallResult<QString>& result) {
+  return {Inspector::self()->wrapString(result.value), result.error};
+}
+
+ScriptValue texts(const QStringList& values) {
+  std::vector<SharedPtr<Object>> objects;
+  for (const QString& value : values) {
+    objects.push_back(Inspector::self()->wrapString(value));
+  }
+  return ScriptValue::success(ArrayClass::wrapObject(objects));
+}
+
+ScriptValue truth(bool value) { return ScriptValue::success(Inspector::self()->wrapBool(value)); }
+
+int timeoutOf(const ObjectList& arguments, int index) {
+  const SharedPtr<Object> argument = arguments.at(index);
+  return argument ? argument->toInt() : Inspector::self()->defaultTimeout();
+}
+
+/// A window with an open dialog has no contexts, so the dialog belongs to the explanation.
+QString withTrouble(const BrowserControl& control, const QString& error) {
+  const QString trouble = error.isEmpty() ? QString() : control.trouble();
+  return trouble.isEmpty() ? error : error + QLatin1Char(' ') + trouble;
+}
+
+ScriptValue waitForContext(BrowserControl& control, const QString& name, int timeoutMs) {
+  QElapsedTimer timer;
+  timer.start();
+  for (;;) {
+    const QString error = control.windowTrouble();
+    if (!error.isEmpty()) {
+      return nothing(error);
+    }
+    if (hasContext(*control.windows(), name)) {
+      return truth(true);
+    }
+    if (timer.elapsed() >= timeoutMs) {
+      return nothing(
+          withTrouble(control, QStringLiteral("The context '%1' did not exist within %2 ms. There are: '%3'.")
+                                   .arg(name)
+                                   .arg(timeoutMs)
+                                   .arg(contextNames(*control.windows()).join(QLatin1String("', '")))));
+    }
+    control.sleep(attemptIntervalMs);
+  }
+}
+
+ScriptValue lastText(BrowserControl& control, const char* kind) {
+  return text(control.dialogs()->lastText(QString::fromLatin1(kind)));
+}
+
+struct Row {
+  const char* name;
+  const char* usage;
+  int minArguments;
+  int maxArguments;
+  bool needsWindow;
+  ScriptValue (*call)(BrowserControl& control, const ObjectList& arguments);
+};
+
+const Row rows[] = {
+    {"startBrowser", "startBrowser(url)", 1, 1, false,
+     [](BrowserControl& c, const ObjectList& a) { return nothing(c.startBrowser(a[0]->toString())); }},
+    {"scriptPath", "scriptPath(file)", 1, 1, false,
+     [](BrowserControl& c, const ObjectList& a) {
+       return text(FunctionCallResult<QString>::success(c.resolvePath(a[0]->toString())));
+     }},
+    {"closeWindow", "closeWindow()", 0, 0, true,
+     [](BrowserControl& c, const ObjectList&) { return nothing(c.closeWindow()); }},
+    {"windows", "windows()", 0, 0, true,
+     [](BrowserControl& c, const ObjectList&) { return texts(windowNames(*c.windows())); }},
+    {"contextNames", "contextNames()", 0, 0, true,
+     [](BrowserControl& c, const ObjectList&) { return texts(contextNames(*c.windows())); }},
+    {"hasContext", "hasContext(name)", 1, 1, true,
+     [](BrowserControl& c, const ObjectList& a) { return truth(hasContext(*c.windows(), a[0]->toString())); }},
+    {"setContext", "setContext(name)", 1, 1, true,
+     [](BrowserControl& c, const ObjectList& a) {
+       return nothing(withTrouble(c, selectContext(*c.windows(), a[0]->toString())));
+     }},
+    {"waitForContextExists", "waitForContextExists(name[, ms])", 1, 2, true,
+     [](BrowserControl& c, const ObjectList& a) { return waitForContext(c, a[0]->toString(), timeoutOf(a, 1)); }},
+    {"setFrameContext", "setFrameContext(path)", 1, 1, true,
+     [](BrowserControl& c, const ObjectList& a) { return nothing(selectFrame(*c.windows(), a[0]->toString())); }},
+    {"closeAlert", "closeAlert([ms])", 0, 1, true,
+     [](BrowserControl& c, const ObjectList& a) { return nothing(c.dialogs()->closeAlert(timeoutOf(a, 0))); }},
+    {"closeConfirm", "closeConfirm(accept[, ms])", 1, 2, true,
+     [](BrowserControl& c, const ObjectList& a) {
+       return nothing(c.dialogs()->closeConfirm(a[0] && a[0]->toBool(), timeoutOf(a, 1)));
+     }},
+    {"closePrompt", "closePrompt(text or null[, ms])", 1, 2, true,
+     [](BrowserControl& c, const ObjectList& a) {
+       // An empty answer is one; only a null cancels.
+       const QString answer = a[0] ? QStringLiteral("") + a[0]->toString() : QString();
+       return nothing(c.dialogs()->closePrompt(answer, timeoutOf(a, 1)));
+     }},
+    {"lastAlertText", "lastAlertText()", 0, 0, true,
+     [](BrowserControl& c, const ObjectList&) { return lastText(c, "alert"); }},
+    {"lastConfirmText", "lastConfirmText()", 0, 0, true,
+     [](BrowserControl& c, const ObjectList&) { return lastText(c, "confirm"); }},
+    {"lastPromptText", "lastPromptText()", 0, 0, true,
+     [](BrowserControl& c, const ObjectList&) { return lastText(c, "prompt"); }},
+    {"lastPromptDefault", "lastPromptDefault()", 0, 0, true,
+     [](BrowserControl& c, const ObjectList&) { return text(c.dialogs()->lastPromptDefault()); }},
+};
+
+ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& arguments) {
+  const QString before = row.needsWindow ? control.windowTrouble() : QString();
+  if (!before.isEmpty()) {
+    return nothing(before);
+  }
+  const ScriptValue result = row.call(control, arguments);
+  // A browser or window that went meanwhile says more than what then failed.
+  const QString after = row.needsWindow && result.failed() ? control.windowTrouble() : QString();
+  return after.isEmpty() ? result : nothing(after);
+}
+
+}  // namespace
+
+Scripting::ScriptHost browserFunctions(BrowserControl& control) {
+  Scripting::ScriptHost host;
+  for (const Row& row : rows) {
+    host.functions.push_back({QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments,
+                              row.maxArguments,
+                              [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }});
+  }
+  return host;
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,163 @@
+#include "wrappers/web/glue/scriptclass.h"
+
+#include "corvexhook/inspector.h"
+#include "wrappers/web/object/references.h"
+#include "wrappers/web/object/wraphtmlobject.h"
+
+namespace Corvex::WebWrapper {
+
+namespace {
+
+QString describeValue(const SharedPtr<Object>& value) {
+  if (!value || value->isNull()) {
+    return QStringLiteral("nothing");
+  }
+  return dynamic_cast<const PrimitiveObject*>(value.get())
+             ? QLatin1Char('\'') + value->toString() + QLatin1Char('\'')
+             : QStringLiteral("an object of type %1").arg(value->objectClass()->name());
+}
+
+bool valueFits(const SharedPtr<Object>& value, const Class* type, const QString& what) {
+  if (isAcceptable(value, type)) {
+    return true;
+  }
+  Inspector::self()->reportScriptError(
+      QStringLiteral("%1 must be of type %2, but got %3.").arg(what, type->name(), describeValue(value)));
+  return false;
+}
+
+bool argumentsFit(const ObjectList& arguments, const Method* method, const QString& className) {
+  for (int i = 0; i < arguments.size(); ++i) {
+    const Argument& argument = method->signature().at(i);
+    const QString what = QStringLiteral("%1.%2: argument '%3'").arg(className, method->name(), argument.name());
+    if (!valueFits(arguments[i], argument.type(), what)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+/// The native object behind a live reference; otherwise null, and the script has been told.
+HTML_Object* liveObject(const SharedPtr<Object>& object, const QString& member) {
+  HTML_Object* native = retrieveObject(object);
+  if (!native) {
+    Inspector::self()->reportScriptError(
+        QStringLiteral("Cannot use %1 of a null object. Check that the object was found.").arg(member));
+    return nullptr;
+  }
+  if (!native->hasValidReference()) {
+    Inspector::self()->reportScriptError(HTML_ObjectBase_Class::referenceIsUndefinedError());
+    return nullptr;
+  }
+  return native;
+}
+
+SharedPtr<Object> valueOrReport(const ScriptResult& result) {
+  if (result.failed()) {
+    Inspector::self()->reportScriptError(result.error);
+    return nullptr;
+  }
+  return result.value;
+}
+
+}  // namespace
+
+ScriptResult Binding::wrongNativeClass(const char* expected) {
+  return ScriptResult::failure(
+      QStringLiteral("The object is not of type %1 any more. Look it up again.").arg(QLatin1String(expected)));
+}
+
+HTML_ObjectBase_Class::HTML_ObjectBase_Class(const char* name, Namespace* ns) : Class(name, ns, true) {}
+
+void HTML_ObjectBase_Class::deleteObjectData(void* data, const ObjectAttribute&) const {
+  delete static_cast<HTML_Object*>(data);
+}
+
+const QString& HTML_ObjectBase_Class::referenceIsUndefinedError() { return deadObjectReferenceError(); }
+
+ScriptClass::ScriptClass(const ClassRows& rows, Namespace* ns)
+    : HTML_ObjectBase_Class(rows.name, ns),
+      m_rows(rows),
+      m_methods(static_cast<std::size_t>(rows.methodCount)),
+      m_properties(static_cast<std::size_t>(rows.propertyCount)) {
+  setMemberCounts(rows.methodCount, rows.propertyCount, 0);
+}
+
+void ScriptClass::initSuperClass() {
+  setSuperClass(m_rows.superClass ? Inspector::self()->classByName(QString::fromLatin1(m_rows.superClass)) : nullptr);
+}
+
+std::unique_ptr<const Method> ScriptClass::describeMethod(const MethodRow& row) const {
+  std::vector<Argument> arguments;
+  for (std::size_t i = 0; i < row.argumentCount; ++i) {
+    arguments.emplace_back(QString::fromLatin1(row.argumentNames[i]), row.argumentTypes[i]());
+  }
+  return std::make_unique<const Method>(this, Argument(row.returnType(), ObjectAttribute()),
+                                        QString::fromLatin1(row.name), Signature(arguments), false);
+}
+
+const Method* ScriptClass::createMethod(int id) const {
+  const int own = id - superClassOffset(MethodOffset);
+  if (own < 0 || own >= m_rows.methodCount) {
+    return nullptr;
+  }
+  std::unique_ptr<const Method>& method = m_methods[static_cast<std::size_t>(own)];
+  if (!method) {
+    method = describeMethod(m_rows.methods[own]);
+  }
+  return method.get();
+}
+
+const Property* ScriptClass::createProperty(int id) const {
+  const int own = id - superClassOffset(PropertyOffset);
+  if (own < 0 || own >= m_rows.propertyCount) {
+    return nullptr;
+  }
+  std::unique_ptr<const Property>& property = m_properties[static_cast<std::size_t>(own)];
+  if (!property) {
+    const PropertyRow& row = m_rows.properties[own];
+    property =
+        std::make_unique<const Property>(this, Argument(row.type(), ObjectAttribute()), QString::fromLatin1(row.name),
+                                         row.write ? Property::ReadWrite : Property::ReadOnly, own);
+  }
+  return property.get();
+}
+
+SharedPtr<Object> ScriptClass::invoke(int id, SharedPtr<Object> object, const ObjectList& arguments,
+                                      const Method* method) const {
+  if (!verifyMethodInvocation(object, method) || !verifyMethodArgumentCount(name(), method, arguments)) {
+    return nullptr;
+  }
+  const int own = id - superClassOffset(MethodOffset);
+  HTML_Object* native = liveObject(object, method->name());
+  if (!native || own < 0 || own >= m_rows.methodCount || !argumentsFit(arguments, method, name())) {
+    return nullptr;
+  }
+  return valueOrReport(m_rows.methods[own].call(native, arguments));
+}
+
+const PropertyRow* ScriptClass::propertyRow(const Property* property) const {
+  const bool known = property->owner() == this && property->index() < m_rows.propertyCount;
+  return known ? &m_rows.properties[property->index()] : nullptr;
+}
+
+SharedPtr<Object> ScriptClass::getProperty(SharedPtr<Object> object, const Property* property) const {
+  if (property->owner() != this) {
+    return property->owner()->getProperty(object, property);
+  }
+  const PropertyRow* row = propertyRow(property);
+  HTML_Object* native = row ? liveObject(object, property->name()) : nullptr;
+  return native ? valueOrReport(row->read(native)) : SharedPtr<Object>();
+}
+
+bool ScriptClass::setProperty(SharedPtr<Object> object, const Property* property, SharedPtr<Object> value) const {
+  if (property->owner() != this) {
+    return property->owner()->setProperty(object, property, value);
+  }
+  const PropertyRow* row = propertyRow(property);
+  HTML_Object* native = row && row->write ? liveObject(object, property->name()) : nullptr;
+  const QString what = QStringLiteral("%1.%2").arg(name(), property->name());
+  return native && valueFits(value, property->type().type(), what) && valueOrReport(row->write(native, value));
+}
+
+}  // namespace Corvex::WebWrapper

@@ -1,0 +1,182 @@
+#pragma once
+
+#include "corvexhook/functioncallresult.h"
+#include "corvexhook/geometry.h"
+#include "corvexhook/object.h"
+#include "wrappers/web/object/webobject.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace Corvex::WebWrapper {
+
+/// The script class of a native type, found when it is first needed.
+using ScriptType = const Class* (*)();
+using ScriptResult = FunctionCallResult<SharedPtr<Object>>;
+
+const Class* scriptInt();
+const Class* scriptBool();
+const Class* scriptDouble();
+const Class* scriptString();
+const Class* scriptVoid();
+const Class* scriptClassByName(const char* name);
+
+SharedPtr<Object> wrapVoid();
+
+template <typename T>
+constexpr bool unsupported = false;
+
+/// How an argument of type `T` comes from a script value that fits its script class.
+template <typename T>
+struct ScriptArgument {
+  static_assert(unsupported<T>,
+                "a script method cannot take an argument of this type: specialise ScriptArgument for it");
+};
+
+/// How a value of type `T` goes to a script.
+template <typename T>
+struct ScriptValue {
+  static_assert(unsupported<T>, "a script method cannot give a value of this type: specialise ScriptValue for it");
+};
+
+template <>
+struct ScriptArgument<int> {
+  static constexpr ScriptType type = scriptInt;
+  static int from(const SharedPtr<Object>& value) { return value->toInt(); }
+};
+
+template <>
+struct ScriptArgument<bool> {
+  static constexpr ScriptType type = scriptBool;
+  static bool from(const SharedPtr<Object>& value) { return value->toBool(); }
+};
+
+template <>
+struct ScriptArgument<double> {
+  static constexpr ScriptType type = scriptDouble;
+  static double from(const SharedPtr<Object>& value) { return value->toDouble(); }
+};
+
+template <>
+struct ScriptArgument<QString> {
+  static constexpr ScriptType type = scriptString;
+  static QString from(const SharedPtr<Object>& value) { return value->toString(); }
+};
+
+/// UTF-8 that lives as long as the call.
+template <>
+struct ScriptArgument<const char*> {
+  struct Text {
+    QByteArray utf8;
+    operator const char*() const { return utf8.constData(); }
+  };
+  static constexpr ScriptType type = scriptString;
+  static Text from(const SharedPtr<Object>& value) { return {value->toString().toUtf8()}; }
+};
+
+template <>
+struct ScriptArgument<QStringList> {
+  static const Class* type();
+  static QStringList from(const SharedPtr<Object>& value);
+};
+
+HTML_Object* nativeObject(const SharedPtr<Object>& value);
+
+/// A page object, which stays the script's; null for the script's null.
+template <typename T>
+struct ScriptArgument<T*> {
+  static_assert(std::is_base_of_v<HTML_Object, T>, "only pointers to page objects can be arguments");
+  static const Class* type() { return scriptClassByName(T::ScriptName); }
+  static T* from(const SharedPtr<Object>& value) { return dynamic_cast<T*>(nativeObject(value)); }
+};
+
+template <>
+struct ScriptValue<int> {
+  static constexpr ScriptType type = scriptInt;
+  static SharedPtr<Object> wrap(int value);
+};
+
+template <>
+struct ScriptValue<bool> {
+  static constexpr ScriptType type = scriptBool;
+  static SharedPtr<Object> wrap(bool value);
+};
+
+template <>
+struct ScriptValue<double> {
+  static constexpr ScriptType type = scriptDouble;
+  static SharedPtr<Object> wrap(double value);
+};
+
+template <>
+struct ScriptValue<QString> {
+  static constexpr ScriptType type = scriptString;
+  static SharedPtr<Object> wrap(const QString& value);
+};
+
+template <>
+struct ScriptValue<const char*> {
+  static constexpr ScriptType type = scriptString;
+  static SharedPtr<Object> wrap(const char* value);
+};
+
+template <>
+struct ScriptValue<ScreenRectangle> {
+  static const Class* type();
+  static SharedPtr<Object> wrap(const ScreenRectangle& value);
+};
+
+template <>
+struct ScriptValue<std::vector<int>> {
+  static const Class* type();
+  static SharedPtr<Object> wrap(const std::vector<int>& values);
+};
+
+template <>
+struct ScriptValue<std::vector<std::string>> {
+  static const Class* type();
+  static SharedPtr<Object> wrap(const std::vector<std::string>& values);
+};
+
+SharedPtr<Object> wrapPageObject(HTML_Object* object);
+
+/// The script owns the page object from then on.
+template <typename T>
+struct ScriptValue<T*> {
+  static_assert(std::is_base_of_v<HTML_Object, T>, "only pointers to page objects can be values");
+  static const Class* type() { return scriptClassByName(T::ScriptName); }
+  static SharedPtr<Object> wrap(T* value) { return wrapPageObject(value); }
+};
+
+/// What a native member's result means: a value that cannot fail ...
+template <typename T>
+struct ScriptReturn {
+  static constexpr ScriptType type = ScriptValue<T>::type;
+  static ScriptResult take(const T& value) { return ScriptResult::success(ScriptValue<T>::wrap(value)); }
+};
+
+/// ... a value or an error ...
+template <typename T>
+struct ScriptReturn<FunctionCallResult<T>> {
+  static constexpr ScriptType type = ScriptValue<T>::type;
+  static ScriptResult take(const FunctionCallResult<T>& result) {
+    return result.failed() ? ScriptResult::failure(result.error)
+                           : ScriptResult::success(ScriptValue<T>::wrap(result.value));
+  }
+};
+
+/// ... or nothing but an error text.
+template <>
+struct ScriptReturn<QString> {
+  static constexpr ScriptType type = scriptVoid;
+  static ScriptResult take(const QString& error) {
+    return error.isEmpty() ? ScriptResult::success(wrapVoid()) : ScriptResult::failure(error);
+  }
+};
+
+}  // namespace Corvex::WebWrapper

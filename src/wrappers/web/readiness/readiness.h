@@ -1,0 +1,24 @@
+#pragma once
+
+#include "corvexhook/functioncallresult.h"
+#include "corvexhook/geometry.h"
+#include "wrappers/web/export.h"
+#include "wrappers/web/page/javascriptanswer.h"
+
+#include <QImage>
+
+namespace Corvex::WebWrapper {
+
+class HTMLComponent;
+class HTML_Object;
+
+/// The page's answer: "true", "false", or the message of an error that was raised there.
+JavaScriptAnswer isVisible(const HTML_Object* object);
+
+/// Whether the object can take input now: it is visible, and not disabled. No object at all counts as ready.
+CORVEX_WEBWRAPPER_EXPORT FunctionCallResult<bool> isObjectReady(HTML_Object* object);
+
+/// The part of the page's image at the rectangle. Where that is outside of the page the content is arbitrary.
+FunctionCallResult<QImage> grabObjectScreenshotInPage(HTMLComponent* component, const ScreenRectangle& rect);
+
+}  // namespace Corvex::WebWrapper

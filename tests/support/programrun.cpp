@@ -1,0 +1,109 @@
+#include "support/programrun.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QTimer>
+
+namespace TestSupport {
+
+namespace {
+
+const int runTimeoutMs = 90000;
+const int checkIntervalMs = 20;
+
+}  // namespace
+
+ProgramRun::ProgramRun() : m_environment(QProcessEnvironment::systemEnvironment()) {
+  m_environment.insert(QStringLiteral("TMPDIR"), m_temporary.path());
+  m_environment.insert(QStringLiteral("CORVEX_USER_SETTINGS_DIR"), m_folder.path());
+  m_process.setWorkingDirectory(m_folder.path());
+}
+
+QString ProgramRun::write(const QString& name, const QString& text) {
+  const QString path = m_folder.filePath(name);
+  QDir().mkpath(QFileInfo(path).path());
+  QFile file(path);
+  if (file.open(QIODevice::WriteOnly)) {
+    file.write(text.toUtf8());
+  }
+  return path;
+}
+
+void ProgramRun::start(const QStringList& arguments) {
+  const QString browser = m_environment.value(QStringLiteral("CORVEX_TEST_BROWSER"));
+  QStringList whole = arguments;
+  const QStringList browserCommands = {QStringLiteral("run"), QStringLiteral("names"), QStringLiteral("tree")};
+  if (browserCommands.contains(arguments.value(0)) && !browser.isEmpty() &&
+      !arguments.contains(QStringLiteral("--browser"))) {
+    whole = QStringList{arguments.first(), QStringLiteral("--browser"), browser} + arguments.mid(1);
+  }
+  m_process.setProcessEnvironment(m_environment);
+  m_process.start(QStringLiteral(CORVEX_PROGRAM), whole);
+}
+
+void ProgramRun::serveUntil(const std::function<bool()>& isDone) {
+  QEventLoop loop;
+  QTimer limit;
+  QTimer check;
+  QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+  QObject::connect(&check, &QTimer::timeout, &loop, [&] {
+    m_output += QString::fromUtf8(m_process.readAllStandardOutput());
+    if (isDone() || hasEnded()) {
+      loop.quit();
+    }
+  });
+  limit.start(runTimeoutMs);
+  check.start(checkIntervalMs);
+  loop.exec();
+  m_output += QString::fromUtf8(m_process.readAllStandardOutput());
+}
+
+bool ProgramRun::waitForOutput(const QString& text) {
+  return waitUntil([&] { return m_output.contains(text); });
+}
+
+bool ProgramRun::waitUntil(const std::function<bool()>& condition) {
+  serveUntil(condition);
+  return condition();
+}
+
+ProgramResult ProgramRun::finish() {
+  ProgramResult result;
+  serveUntil([] { return false; });
+  if (hasEnded()) {
+    result.exitCode = m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -2;
+  } else {
+    m_process.kill();
+    m_process.waitForFinished();
+  }
+  result.output = m_output + QString::fromUtf8(m_process.readAllStandardOutput());
+  result.errors = QString::fromUtf8(m_process.readAllStandardError());
+  m_output.clear();
+  return result;
+}
+
+ProgramResult ProgramRun::run(const QStringList& arguments) {
+  start(arguments);
+  return finish();
+}
+
+QStringList ProgramRun::leftovers() const {
+  return QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+QList<qint64> ProgramRun::browserProcesses() const {
+  QList<qint64> processes;
+  for (const QString& entry : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+    QFile commandLine(QStringLiteral("/proc/%1/cmdline").arg(entry));
+    bool isNumber = false;
+    const qint64 id = entry.toLongLong(&isNumber);
+    if (isNumber && commandLine.open(QIODevice::ReadOnly) &&
+        commandLine.readAll().contains(m_temporary.path().toUtf8())) {
+      processes << id;
+    }
+  }
+  return processes;
+}
+
+}  // namespace TestSupport

@@ -1,0 +1,29 @@
+// Starts a browser, says where, and goes the way that its argument names: it exits as soon as it is told to by a line,
+// or is stuck.
+
+#include <QCoreApplication>
+#include <cstdio>
+#include <cstdlib>
+
+#include "support/testbrowser.h"
+#include "webhook/process/cleanup.h"
+
+int main(int argc, char** argv) {
+  Corvex::Webhook::Cleanup::install();
+  QCoreApplication application(argc, argv);
+  const QString way = application.arguments().value(1);
+  using Corvex::Webhook::BrowserSession;
+  auto* const start = new BrowserSession::Start(BrowserSession::start(TestSupport::testBrowser()));
+  if (!start->session) {
+    return 3;
+  }
+  std::printf("%lld %s\n", start->session->browserProcess(), start->session->browserDirectory().toUtf8().constData());
+  std::fflush(stdout);
+  if (way == QLatin1String("exit")) {
+    std::getchar();
+    std::exit(7);
+  }
+  volatile bool stuck = true;
+  while (stuck) {
+  }
+}

@@ -1,0 +1,228 @@
+#include "wrappers/web/object/references.h"
+
+#include "corvexhook/delegate.h"
+#include "wrappers/web/elements/html_select.h"
+#include "wrappers/web/lookup/webobjectdelegate.h"
+#include "wrappers/web/object/retrievehtmlobject.h"
+#include "wrappers/web/style/html_style.h"
+#include "wrappers/web/toolkits/toolkitclasses.h"
+#include "wrappers/web/webtest.h"
+#include "wrappers/web/widgets/widgetclasses.h"
+#include "wrappers/web/xpath/html_xpathresult.h"
+
+using namespace Corvex;
+using namespace Corvex::WebWrapper;
+using namespace TestSupport;
+
+namespace {
+
+class References : public WebTest {
+protected:
+  std::unique_ptr<HTML_Object> fromType(const QString& type, const QString& name = QString()) {
+    return std::unique_ptr<HTML_Object>(htmlObjectFromReferenceInfo(&page, type, "ref", name));
+  }
+  QString retrievalError(const QString& answer) {
+    page.answer(QString(), answer);
+    const FunctionCallResult<HTML_Object*> result = htmlObjectFromJavaScriptResult(&page, "f();", "name", 7);
+    EXPECT_FALSE(result.value);
+    return result.error;
+  }
+};
+
+}  // namespace
+
+TEST_F(References, ThePagesTypeTextGivesTheClass) {
+  struct Row {
+    const char* types;
+    const char* className;
+  };
+  const Row rows[] = {
+      {"button submit SUBMIT", "HTML_Button"},
+      {"radio", "HTML_RadioButton"},
+      {"checkbox", "HTML_CheckBox"},
+      {"image", "HTML_ImageButton"},
+      {"email password text file search number tel url", "HTML_Text"},
+      {"textarea", "HTML_TextArea"},
+      {"select select-one select-multiple Selection", "HTML_Select"},
+      {"form", "HTML_Form"},
+      {"a area", "HTML_Anchor"},
+      {"option", "HTML_Option"},
+      {"document", "HTML_Document"},
+      {"img", "HTML_Image"},
+      {"shadowroot", "HTML_ShadowRoot"},
+      {"kiwi_choice", "HTML_KiwiChoice"},
+      {"kiwi_tree", "HTML_KiwiTree"},
+      {"kiwi_table", "HTML_KiwiTable"},
+      {"kiwi_treetable", "HTML_KiwiTreeTable"},
+      {"kiwi_more_menu", "HTML_KiwiMoreMenu"},
+      {"kiwi_more_menu_item", "HTML_KiwiMoreMenuItem"},
+      {"kiwi_table_item", "HTML_KiwiTableCell"},
+      {"kiwi_treetable_item", "HTML_KiwiTreeTableCell"},
+      {"kiwi_matrixtable", "HTML_KiwiMatrixTable"},
+      {"kiwi_matrix", "HTML_KiwiMatrix"},
+      {"kiwi_matrixcell", "HTML_KiwiMatrixCell"},
+      {"dojo_tree", "HTML_DojoTree"},
+      {"dojo_splitpane", "HTML_DojoSplitPane"},
+      {"bb_button bb_menucell bb_toolbaritem bb_tabselector bb_sidebarselector bb_navpanelhead bb_navhead bb_treeleaf "
+       "bb_tree bb_treehandle bb_accordeon bb_spinnerupbutton bb_spinnerdownbutton bb_card",
+       "HTML_BackBaseButton"},
+      {"bb_combobox", "HTML_BackBaseComboBox"},
+      {"bb_spinner", "HTML_BackBaseSpinner"},
+      {"bb_listview", "HTML_BackBaseListView"},
+      {"gwc_formfieldbox", "HTML_GWCFormFieldBox"},
+      {"gwc_table", "HTML_GWCTable"},
+      {"qx_widget_container", "HTML_QxWidgetElement"},
+      {"qx_widget", "HTML_QxWidget"},
+      {"custom_itemview_Ext", "HTML_CustomItemView"},
+      {"custom_item_Ext", "HTML_CustomItem"},
+      {"custom_combobox_Ext", "HTML_CustomComboBox"},
+      {"custom_selectlist_Ext", "HTML_CustomSelectList"},
+      {"custom_text_Ext", "HTML_CustomText"},
+      {"custom_button_Ext", "HTML_CustomButton"},
+      {"custom_checkbox_Ext", "HTML_CustomCheckbox"},
+      {"custom_radiobutton_Ext", "HTML_CustomRadioButton"},
+      {"tabwidget_Ext", "HTML_TabWidget"},
+      {"tabitem_Ext", "HTML_Tab"},
+      {"colorfield_Ext", "HTML_ColorField"},
+      {"expandablesectionheader_Ext", "HTML_ExpandableSectionHeader"},
+      {"progressbar_Ext", "HTML_ProgressBar"},
+      {"menu_Ext", "HTML_Menu"},
+      {"menuitem_Ext", "HTML_MenuItem"},
+      {"menubutton_Ext", "HTML_MenuButton"},
+      {"datechooser_Ext", "HTML_DateChooser"},
+      {"calendarview_Ext", "HTML_CalendarView"},
+      {"calendarevent_Ext", "HTML_CalendarEvent"},
+      {"htmltable_Ext", "HTML_Table"},
+      {"htmlarray", "HTML_Array"},
+      {"div window custom_unknown_x datetime-local", "HTML_Object"},
+  };
+  for (const Row& row : rows) {
+    for (const QString& type : QString::fromLatin1(row.types).split(' ')) {
+      const std::unique_ptr<HTML_Object> object = fromType(type);
+      ASSERT_TRUE(object) << type.toStdString();
+      EXPECT_STREQ(object->className(), row.className) << type.toStdString();
+      // Each of them must be known to scripts, with the inheritance of the native side.
+      const Class* cls = Inspector::self()->classByName(row.className);
+      ASSERT_TRUE(cls) << row.className;
+      EXPECT_EQ(bool(dynamic_cast<HTML_FormElement*>(object.get())),
+                cls->derivesFrom(Inspector::self()->classByName("HTML_FormElement")))
+          << row.className;
+    }
+  }
+  for (const char* type : {"undefined", "[unknown]", "true", "", "TRUE"}) {
+    EXPECT_FALSE(fromType(type)) << type;
+  }
+}
+
+TEST_F(References, TypeTextsCarryMoreThanTheClass) {
+  EXPECT_TRUE(dynamic_cast<HTML_Select*>(fromType("Select-Multiple").get())->multiple);
+  EXPECT_FALSE(dynamic_cast<HTML_Select*>(fromType("select-one").get())->multiple);
+  EXPECT_FALSE(dynamic_cast<HTML_Select*>(fromType("bb_combobox").get())->multiple);
+  EXPECT_EQ(dynamic_cast<HTML_CustomText*>(fromType("CUSTOM_text_MyKit").get())->extension, QString("MyKit"));
+  EXPECT_EQ(dynamic_cast<HTML_CustomButtonBase*>(fromType("menubutton_a_B").get())->extension, QString("a_B"));
+  const std::unique_ptr<HTML_Object> cell = fromType("kiwi_table_item");
+  EXPECT_EQ(cell->knownName(), QString("null"));
+  EXPECT_EQ(dynamic_cast<HTML_KiwiTableCell*>(cell.get())->text, QString("null"));
+  EXPECT_EQ(dynamic_cast<HTML_KiwiMatrixCell*>(fromType("kiwi_matrixcell", "c").get())->text, QString("c"));
+}
+
+TEST_F(References, AnExpressionGivesAnObject) {
+  page.answerObject("var dummy = f();;", "button", "top.store[3]");
+  const FunctionCallResult<HTML_Object*> result = htmlObjectFromJavaScriptResult(&page, "f();", "the name", 5);
+  const std::unique_ptr<HTML_Object> object(result.value);
+  ASSERT_TRUE(object);
+  EXPECT_EQ(object->reference, QString("top.store[3]"));
+  EXPECT_EQ(object->knownName(), QString("the name"));
+  EXPECT_EQ(object->component, &page);
+  EXPECT_EQ(page.calls[0].timeoutMs, 5U);
+
+  const auto array = typeCheckedHtmlObjectFromJavaScriptResult<HTML_Array>(&page, "f();");
+  EXPECT_FALSE(array.value);
+  EXPECT_EQ(array.error, QString());
+}
+
+TEST_F(References, RetrievalFailuresSayWhatHappened) {
+  EXPECT_EQ(retrievalError(R"({"refName":null,"type":"[unknown]"})"), QString());
+  EXPECT_EQ(retrievalError("[1]"),
+            QString("Failed to parse JSON return value '[1]': expected an object, got 6 instead."));
+  EXPECT_TRUE(retrievalError("<").startsWith("Failed to parse JSON return value '<':* Line 1"));
+  EXPECT_EQ(retrievalError(R"({"type":"a"})"),
+            QString(R"(JSON return value '{"type":"a"}' is missing the refName member.)"));
+  EXPECT_EQ(retrievalError(R"({"refName":"a"})"),
+            QString(R"(JSON return value '{"refName":"a"}' is missing the type member.)"));
+  EXPECT_EQ(retrievalError(R"({"error":{"name":"E","message":"m","file":"f","line":3,"stack":"s"}})"),
+            QString("Error evaluating JavaScript to retrieve HTML Object: E: m at f:3. Stacktrace: s"));
+  EXPECT_TRUE(retrievalError(R"({"refName":{},"type":"a"})")
+                  .startsWith(R"(Failed to parse JSON return value '{"refName":{},"type":"a"}': )"));
+  page.abort(QString(), "late");
+  EXPECT_EQ(htmlObjectFromJavaScriptResult(&page, "f();", "", 0).error, QString("late"));
+}
+
+TEST_F(References, AWrapperOwnsItsObject) {
+  const std::size_t before = referencedObjects.size();
+  SharedPtr<Object> object = wrapped<HTML_Select>(false);
+  EXPECT_EQ(object->objectClass()->name(), QString("HTML_Select"));
+  EXPECT_EQ(referencedObjects.size(), before + 1);
+  EXPECT_EQ(retrieveObject(object)->className(), std::string("HTML_Select"));
+  object = nullptr;
+  EXPECT_EQ(referencedObjects.size(), before);
+
+  const SharedPtr<Object> null = wrapObject(nullptr);
+  ASSERT_TRUE(null);
+  EXPECT_TRUE(null->isNull());
+  EXPECT_EQ(null->objectClass()->name(), QString("HTML_Object"));
+  EXPECT_FALSE(retrieveObject(null));
+}
+
+TEST_F(References, ClearingAConnectionPassesOverTheEntryBehindEachDeadOne) {
+  const HTMLObjectHierarchyDelegate delegate;
+  FakeComponent other;
+  invalidateReferences();
+  const HTML_Object first("", "a", &page), second("", "b", &page), third("", "c", &page), foreign("", "d", &other);
+  const HTML_Style style("e", &page);
+  delegate.clearAllJSReferences(&page);
+  EXPECT_FALSE(first.hasValidReference());
+  EXPECT_TRUE(second.hasValidReference());
+  EXPECT_FALSE(third.hasValidReference());
+  EXPECT_TRUE(foreign.hasValidReference());
+  EXPECT_FALSE(style.hasValidReference());
+  delegate.clearAllJSReferences(&page);
+  EXPECT_FALSE(second.hasValidReference());
+  EXPECT_EQ(referencedObjects.size(), 1U);
+}
+
+TEST_F(References, InvalidatingAllEmptiesTheRegistries) {
+  const HTMLObjectHierarchyDelegate delegate;
+  const HTML_Object empty("", "", &page);
+  const HTML_XPathResult result("x", &page);
+  EXPECT_TRUE(empty.hasValidReference());
+  delegate.invalidateAllReferencedObjects();
+  EXPECT_EQ(empty.reference, QString("undefined"));
+  EXPECT_FALSE(result.hasValidReference());
+  EXPECT_EQ(referencedObjects.size() + referencedStyles.size() + referencedXPathResults.size(), 0U);
+}
+
+TEST_F(References, ObjectsAreTheSameByReferenceOrByThePagesWord) {
+  HTML_Object a("", "a", &page), alsoA("", "a", &page), b("", "b", &page);
+  EXPECT_TRUE(a.sameAs(&alsoA).value);
+  EXPECT_TRUE(page.calls.empty());
+  page.answer("a === b", "true");
+  EXPECT_TRUE(a.sameAs(&b).value);
+  page.answer("a === b", "truer");
+  EXPECT_FALSE(a.sameAs(&b).value);
+  page.fail("a === b", "gone");
+  EXPECT_EQ(a.sameAs(&b).error, QString("Error comparing javascript reference 'a' to 'b': gone"));
+}
+
+TEST_F(References, ScriptsCompareAndPrintPageObjects) {
+  const SharedPtr<Object> a = wrapObject(new HTML_Object("", "a", &page));
+  const SharedPtr<Object> alsoA = wrapObject(new HTML_Select("", "a", &page, false));
+  EXPECT_EQ(alsoA->toString(), QString("a"));
+  EXPECT_TRUE(a->objectClass()->sameObjects(a, alsoA));
+  EXPECT_FALSE(a->objectClass()->sameObjects(a, wrapObject(nullptr)));
+  EXPECT_FALSE(a->objectClass()->sameObjects(a, wrapScreenRectangle(ScreenRectangle())));
+  FakeComponent otherPage;
+  const SharedPtr<Object> elsewhere = wrapObject(new HTML_Object("", retrieveObject(a)->reference, &otherPage));
+  EXPECT_FALSE(a->objectClass()->sameObjects(a, elsewhere));
+  EXPECT_FALSE(a->objectClass()->canCastTo(Inspector::self()->primitiveType(PrimitiveType::Int), true));
+}
