@@ -6,10 +6,10 @@ using namespace Corvex::Webhook;
 
 QString HookedPage::start(const SessionOptions& options) {
   BrowserSession::Start started = BrowserSession::start(options);
-  if (!started.session) {
+  if (!started.value) {
     return started.error;
   }
-  m_session = std::move(started.session);
+  m_session = std::move(started.value);
   QString error;
   m_endpoint.start(&error);
   if (!error.isEmpty()) {

@@ -20,7 +20,7 @@ double bareStartMs(const SessionOptions& options) {
   QElapsedTimer timer;
   timer.start();
   const Webhook::BrowserSession::Start start = Webhook::BrowserSession::start(options);
-  if (!start.session || !start.session->firstPage()->evaluate(QStringLiteral("1")).isOk()) {
+  if (!start.value || !start.value->firstPage()->evaluate(QStringLiteral("1")).succeeded()) {
     return -1;
   }
   return static_cast<double>(timer.nsecsElapsed()) / 1e6;

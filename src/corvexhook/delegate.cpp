@@ -1,6 +1,7 @@
 #include "corvexhook/delegate.h"
 
 #include "corvexhook/inspector.h"
+#include "corvexhook/primitives.h"
 
 namespace Corvex {
 

@@ -1,12 +1,14 @@
 #include "corvexhook/inspector.h"
 
 #include "corvexhook/arrayclass.h"
+#include "corvexhook/class.h"
 #include "corvexhook/delegate.h"
+#include "corvexhook/hostservices.h"
 #include "corvexhook/objectmap.h"
 #include "corvexhook/objectname.h"
+#include "corvexhook/primitives.h"
 #include "corvexhook/valueclasses.h"
-
-#include <QElapsedTimer>
+#include "shared/wait.h"
 
 #include <algorithm>
 
@@ -30,11 +32,7 @@ const PrimitiveRow primitiveRows[] = {
     {PrimitiveType::String, "string"}, {PrimitiveType::Double, "double"},     {PrimitiveType::Void, "void"},
 };
 
-std::function<qint64()> machineClock() {
-  QElapsedTimer timer;
-  timer.start();
-  return [timer] { return timer.elapsed(); };
-}
+const HostServices knowsNothing;
 
 }  // namespace
 
@@ -49,7 +47,7 @@ Inspector* Inspector::self() {
   return inspector;
 }
 
-Inspector::Inspector() : m_namespace(new Namespace) {
+Inspector::Inspector() : m_namespace(new Namespace), m_services(&knowsNothing) {
   m_globalClass = new GlobalClass(m_namespace.get());
   for (const PrimitiveRow& row : primitiveRows) {
     new PrimitiveClass(row.name, m_namespace.get(), row.id);
@@ -124,12 +122,19 @@ void Inspector::reportScriptError(const QString& text) {
 
 QString Inspector::takeScriptError() { return std::exchange(m_scriptError, QString()); }
 
-bool Inspector::reportTrouble() {
-  const QString trouble = m_services.trouble ? m_services.trouble() : QString();
-  if (!trouble.isEmpty()) {
-    reportScriptError(trouble);
+void Inspector::setHostServices(const HostServices* services) { m_services = services ? services : &knowsNothing; }
+
+QString Inspector::whyNotGoOn() const {
+  return m_interruption && *m_interruption ? QStringLiteral("interrupted") : m_services->whyNotGoOn();
+}
+
+bool Inspector::reportWhyNotLookUp() {
+  const QString end = whyNotGoOn();
+  const QString why = end.isEmpty() ? m_services->whyNotLookUp() : end;
+  if (!why.isEmpty()) {
+    reportScriptError(why);
   }
-  return !trouble.isEmpty();
+  return !why.isEmpty();
 }
 
 QString Inspector::usableName(const QString& name) {
@@ -149,22 +154,22 @@ QString Inspector::usableName(const QString& name) {
   return realName;
 }
 
-bool Inspector::reportFault(const QString& realName) {
-  const QString fault = m_services.nameFault ? m_services.nameFault(realName) : QString();
-  if (!fault.isEmpty()) {
-    reportScriptError(QStringLiteral("Invalid object name '%1': %2.").arg(realName, fault));
+bool Inspector::reportWhyNeverFound(const QString& realName) {
+  const QString why = m_services->whyNeverFound(realName);
+  if (!why.isEmpty()) {
+    reportScriptError(QStringLiteral("Invalid object name '%1': %2.").arg(realName, why));
   }
-  return !fault.isEmpty();
+  return !why.isEmpty();
 }
 
 SharedPtr<Object> Inspector::lookup(const QString& name) {
-  const QString realName = reportTrouble() ? QString() : usableName(name);
+  const QString realName = reportWhyNotLookUp() ? QString() : usableName(name);
   if (realName.isEmpty()) {
     return nullptr;
   }
   const SharedPtr<Object> found = lookupOnce(realName);
   if (!found && !hasScriptError()) {
-    reportFault(realName);
+    reportWhyNeverFound(realName);
   }
   return found;
 }
@@ -177,13 +182,13 @@ static QString withAmpersands(const QString& realName) {
 }
 
 SharedPtr<Object> Inspector::lookupOnce(const QString& realName) const {
-  const SharedPtr<Object> found = lookupInRoots(realName);
+  const SharedPtr<Object> found = lookupInRoots(m_roots, realName);
   const QString second = withAmpersands(realName);
-  return found || hasScriptError() || second.isEmpty() ? found : lookupInRoots(second);
+  return found || hasScriptError() || second.isEmpty() ? found : lookupInRoots(m_roots, second);
 }
 
 ObjectList Inspector::lookupAll(const QString& name) {
-  const QString realName = reportTrouble() ? QString() : usableName(name);
+  const QString realName = reportWhyNotLookUp() ? QString() : usableName(name);
   if (realName.isEmpty()) {
     return {};
   }
@@ -193,17 +198,18 @@ ObjectList Inspector::lookupAll(const QString& name) {
     found = allInRoots(second);
   }
   if (found.isEmpty() && !hasScriptError()) {
-    reportFault(realName);
+    reportWhyNeverFound(realName);
   }
   return found;
 }
 
 ObjectList Inspector::allInRoots(const QString& realName) const {
   const ObjectName name(realName);
-  if (name.isMultiProperty() && m_services.findAll) {
-    return m_services.findAll(m_roots, name);
-  }
-  const SharedPtr<Object> found = lookupInRoots(realName);
+  return name.isMultiProperty() ? m_services->findAll(m_roots, name) : firstInRoots(m_roots, name);
+}
+
+ObjectList Inspector::firstInRoots(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) const {
+  const SharedPtr<Object> found = lookupInRoots(roots, name.qualifiedName());
   return found ? ObjectList{found} : ObjectList();
 }
 
@@ -229,10 +235,11 @@ static SharedPtr<Object> descend(const SharedPtr<Object>& root, const QString& n
   return object;
 }
 
-SharedPtr<Object> Inspector::lookupInRoots(const QString& realName) const {
+SharedPtr<Object> Inspector::lookupInRoots(const std::vector<SharedPtr<Object>>& roots, const QString& realName) const {
   const ObjectName name(realName);
-  const std::vector<SharedPtr<Object>> roots = m_roots;
-  for (const SharedPtr<Object>& root : roots) {
+  // A copy: a lookup waits, and windows may come and go meanwhile.
+  const std::vector<SharedPtr<Object>> asked = roots;
+  for (const SharedPtr<Object>& root : asked) {
     const ObjectHierarchyDelegate* delegate = hierarchyDelegate(root);
     SharedPtr<Object> found = delegate ? delegate->objectByQualifiedName(root, name) : SharedPtr<Object>();
     if (!found && !hasScriptError() && !name.isMultiProperty()) {
@@ -246,36 +253,32 @@ SharedPtr<Object> Inspector::lookupInRoots(const QString& realName) const {
 }
 
 bool Inspector::isReady(const SharedPtr<Object>& object) const {
-  const FunctionCallResult<bool> ready =
-      m_services.isReady ? m_services.isReady(object) : FunctionCallResult<bool>::success(true);
+  const FunctionCallResult<bool> ready = m_services->isReady(object);
   return ready.value && !ready.failed();
 }
 
 SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) {
-  const std::function<qint64()> now = m_services.now ? m_services.now : machineClock();
-  const qint64 start = now();
   const QString realName = usableName(name);
-  bool mayCome = !realName.isEmpty();
+  if (realName.isEmpty()) {
+    return nullptr;
+  }
   bool isChecked = false;
+  bool isUsable = false;
   SharedPtr<Object> found;
   QString failure;
-  while (mayCome) {
-    found = reportTrouble() ? SharedPtr<Object>() : lookupOnce(realName);
+  const auto attempt = [&] {
+    found = reportWhyNotLookUp() ? SharedPtr<Object>() : lookupOnce(realName);
     const QString lastFailure = std::exchange(failure, takeScriptError());
+    isUsable = found && failure.isEmpty() && isReady(found);
     // A page that is being replaced fails once. What fails twice in a row is going to stay.
-    if (!failure.isEmpty() && !lastFailure.isEmpty()) {
-      break;
-    }
-    if (found && isReady(found)) {
-      return found;
-    }
-    if (!found && failure.isEmpty() && !std::exchange(isChecked, true) && reportFault(realName)) {
-      return nullptr;
-    }
-    if (m_services.sleep) {
-      m_services.sleep(attemptIntervalMs);
-    }
-    mayCome = !hasScriptError() && now() - start < timeoutMs;
+    const bool failedTwice = !failure.isEmpty() && !lastFailure.isEmpty();
+    const bool mayCome =
+        found || !failure.isEmpty() || std::exchange(isChecked, true) || !reportWhyNeverFound(realName);
+    return isUsable || failedTwice || !mayCome;
+  };
+  poll(timeoutMs, attemptIntervalMs, attempt);
+  if (isUsable || hasScriptError()) {
+    return isUsable ? found : SharedPtr<Object>();
   }
   if (!failure.isEmpty()) {
     reportScriptError(failure);
@@ -290,7 +293,7 @@ SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) 
 QString Inspector::notFoundError(const QString& name) const {
   const QString mapped = ObjectMap::self()->realName(name);
   const QString realName = mapped.isEmpty() ? name : mapped;
-  const QString explanation = m_services.explain ? m_services.explain(realName) : QString();
+  const QString explanation = m_services->whyNotFound(realName);
   if (!explanation.isEmpty()) {
     return QStringLiteral("Object '%1' not found. %2").arg(name, explanation);
   }

@@ -1,41 +1,24 @@
 #pragma once
 
-#include "corvexhook/class.h"
-#include "corvexhook/functioncallresult.h"
+#include "corvexhook/export.h"
+#include "corvexhook/object.h"
 #include "corvexhook/primitives.h"
 
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
-#include <functional>
+#include <atomic>
 #include <memory>
 #include <vector>
 
 namespace Corvex {
 
+class Class;
+class GlobalClass;
+class HostServices;
+class Namespace;
 class ObjectName;
-
-/// What the framework needs of the process that embeds it.
-struct HostServices {
-  /// Whether an object can take input now. Without it every object is ready.
-  std::function<FunctionCallResult<bool>(const SharedPtr<Object>&)> isReady;
-  /// Lets the given milliseconds pass while events are served, or less where there is trouble.
-  std::function<void(int milliseconds)> sleep;
-  /// Milliseconds of a clock that never goes back. Without it the machine's own clock counts.
-  std::function<qint64()> now;
-  /// Why nothing can be looked up now, as a sentence; an empty text when all is well.
-  std::function<QString()> trouble;
-  /// Why a real name was not found, as a sentence; an empty text when nothing is known.
-  std::function<QString(const QString& name)> explain;
-  /// What is wrong with a real name that was not found, if it can never be found whatever there is; else an empty text.
-  std::function<QString(const QString& name)> nameFault;
-  /// All objects that a multi-property name fits, below roots in the order of lookups. Without it names lead to one
-  /// object at most. Failures are reported to the script.
-  std::function<ObjectList(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name)> findAll;
-  /// Why an object can no longer be used, as a sentence; an empty text when it can.
-  std::function<QString(const SharedPtr<Object>&)> objectTrouble;
-};
 
 /// The framework's one meeting point: classes, wrapping of values, object lookup and script errors. One thread.
 class CORVEXHOOK_EXPORT Inspector {
@@ -69,8 +52,8 @@ public:
   virtual SharedPtr<Object> wrapString(const QString& value) const;
   virtual SharedPtr<Object> nullObject(const Class* cls) const;
   virtual SharedPtr<Object> wrapVoid() const;
-  /// Aborts the script call with this text. The first error of a call stays; the caller returns a null pointer behind
-  /// it.
+  /// Aborts the script call with this text. The first error of a call stays; the caller returns a null pointer
+  /// after it.
   virtual void reportScriptError(const QString& text);
 
   bool hasScriptError() const { return !m_scriptError.isEmpty(); }
@@ -92,8 +75,13 @@ public:
   void removeRootObject(const SharedPtr<Object>& root);
   const std::vector<SharedPtr<Object>>& rootObjects() const { return m_roots; }
 
-  void setHostServices(const HostServices& services) { m_services = services; }
-  const HostServices& hostServices() const { return m_services; }
+  /// What the embedding process answers for; borrowed. Null stands for a process that knows nothing.
+  void setHostServices(const HostServices* services);
+  const HostServices& hostServices() const { return *m_services; }
+  /// While `flag` is set, every wait and lookup ends with the error "interrupted". Borrowed; null for none.
+  void setInterruption(const std::atomic<bool>* flag) { m_interruption = flag; }
+  /// Why nothing can go on any more; see `HostServices`. An interrupted script cannot either.
+  QString whyNotGoOn() const;
   /// Milliseconds that `waitForObject` waits, 20000 at first.
   void setDefaultTimeout(int milliseconds) { m_defaultTimeout = milliseconds; }
   int defaultTimeout() const { return m_defaultTimeout; }
@@ -102,13 +90,16 @@ protected:
   Inspector();
 
 private:
-  bool reportTrouble();
-  /// The real name; an empty text behind a reported error.
+  friend class HostServices;
+
+  bool reportWhyNotLookUp();
+  /// The real name; an empty text after a reported error.
   QString usableName(const QString& name);
-  bool reportFault(const QString& realName);
+  bool reportWhyNeverFound(const QString& realName);
   SharedPtr<Object> lookupOnce(const QString& realName) const;
   ObjectList allInRoots(const QString& realName) const;
-  SharedPtr<Object> lookupInRoots(const QString& realName) const;
+  ObjectList firstInRoots(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) const;
+  SharedPtr<Object> lookupInRoots(const std::vector<SharedPtr<Object>>& roots, const QString& realName) const;
   bool isReady(const SharedPtr<Object>& object) const;
   SharedPtr<Object> waitUntilReady(const QString& name, int timeoutMs);
 
@@ -118,7 +109,8 @@ private:
   QHash<QString, QStringList> m_unmatched;
   QString m_scriptError;
   std::vector<SharedPtr<Object>> m_roots;
-  HostServices m_services;
+  const HostServices* m_services;
+  const std::atomic<bool>* m_interruption = nullptr;
   int m_defaultTimeout = 20000;
 };
 

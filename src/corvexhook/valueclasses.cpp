@@ -3,6 +3,7 @@
 #include "corvexhook/datetime.h"
 #include "corvexhook/geometry.h"
 #include "corvexhook/inspector.h"
+#include "corvexhook/primitives.h"
 
 #include <array>
 

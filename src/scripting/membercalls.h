@@ -4,8 +4,8 @@
 #include <functional>
 
 #include "corvexhook/class.h"
-#include "corvexhook/functioncallresult.h"
 #include "scripting/scriptlistener.h"
+#include "shared/functioncallresult.h"
 
 namespace Corvex::Scripting {
 

@@ -104,7 +104,7 @@
     });
   });
 
-  install("object.same", function (a, b) {
+  install("sameObject", function (a, b) {
     return bridge.areEqual(a, b);
   });
   install("test.verify", function (condition, message) {

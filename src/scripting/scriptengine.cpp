@@ -17,30 +17,14 @@ namespace {
 
 const QString interruptedText = QStringLiteral("interrupted");
 
-/// While it lives, every sleep of the framework ends its call with an error
-/// when the run is interrupted.
-class InterruptibleSleep {
+/// While it lives, the waits and lookups of the framework end with an error when the run is interrupted.
+class Interruptible {
 public:
-  explicit InterruptibleSleep(const std::atomic<bool>& interrupted) : m_previous(Inspector::self()->hostServices()) {
-    HostServices services = m_previous;
-    const auto sleep = m_previous.sleep;
-    services.sleep = [sleep, &interrupted](int milliseconds) {
-      if (sleep && !interrupted) {
-        sleep(milliseconds);
-      }
-      if (interrupted) {
-        Inspector::self()->reportScriptError(interruptedText);
-      }
-    };
-    Inspector::self()->setHostServices(services);
-  }
-  ~InterruptibleSleep() { Inspector::self()->setHostServices(m_previous); }
+  explicit Interruptible(const std::atomic<bool>& interrupted) { Inspector::self()->setInterruption(&interrupted); }
+  ~Interruptible() { Inspector::self()->setInterruption(nullptr); }
 
-  InterruptibleSleep(const InterruptibleSleep&) = delete;
-  InterruptibleSleep& operator=(const InterruptibleSleep&) = delete;
-
-private:
-  HostServices m_previous;
+  Interruptible(const Interruptible&) = delete;
+  Interruptible& operator=(const Interruptible&) = delete;
 };
 
 }  // namespace
@@ -80,7 +64,7 @@ ScriptResult ScriptEngine::runFile(const QString& path) {
   // What an earlier script left behind is none of this one's errors.
   Inspector::self()->takeScriptError();
   {
-    const InterruptibleSleep sleep(d->interrupted);
+    const Interruptible interruptible(d->interrupted);
     QJSEngine engine;
     ScriptBridge bridge(&engine, d->host, &d->calls, d->listener, &result);
     d->setRunning(&engine);

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QStringList>
 
-#include "corvexhook/functioncallresult.h"
 #include "scripting/scriptresult.h"
+#include "shared/functioncallresult.h"
 
 class QJSValue;
 

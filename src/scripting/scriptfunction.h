@@ -4,14 +4,14 @@
 #include <functional>
 #include <vector>
 
-#include "corvexhook/functioncallresult.h"
 #include "corvexhook/object.h"
+#include "shared/functioncallresult.h"
 
 namespace Corvex::Scripting {
 
 /// A global function of test scripts.
 struct ScriptFunction {
-  /// With a dot, as in "object.exists", a function of a global object.
+  /// With a dot, as in "test.compare", a function of a global object.
   QString name;
   /// How it is called, for the sentence of a wrong call.
   QString usage;

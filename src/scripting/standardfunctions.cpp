@@ -5,18 +5,21 @@
 #include <limits>
 
 #include "corvexhook/arrayclass.h"
+#include "corvexhook/class.h"
 #include "corvexhook/delegate.h"
 #include "corvexhook/geometry.h"
+#include "corvexhook/hostservices.h"
 #include "corvexhook/inspector.h"
 #include "corvexhook/primitives.h"
 #include "scripting/overloads.h"
+#include "shared/wait.h"
 
 namespace Corvex::Scripting {
 
 namespace {
 
 // How long a pause goes on at most before it sees that the script is to end.
-const int pauseSliceMs = 50;
+const int pauseIntervalMs = 50;
 
 /// What the functions work with.
 struct Context {
@@ -85,9 +88,9 @@ ObjectResult waitForObject(const Context& context, const ObjectList& arguments) 
   return look(context, arguments[0]->toString(), timeoutMs);
 }
 
-ObjectResult objectExists(const Context&, const ObjectList& arguments) {
+ObjectResult exists(const Context&, const ObjectList& arguments) {
   if (!isText(arguments[0])) {
-    return nameError("object.exists", arguments[0]);
+    return nameError("exists", arguments[0]);
   }
   Inspector* inspector = Inspector::self();
   const ObjectResult found = outcome(inspector->lookup(arguments[0]->toString()));
@@ -250,36 +253,22 @@ ObjectResult selectOption(const Context& context, const ObjectList& arguments) {
   return context.calls->callGlobalMethod(name, {target.object, arguments[1]});
 }
 
-QString trouble(const HostServices& services) { return services.trouble ? services.trouble() : QString(); }
-
-/// Ends early when the script is to end, or when trouble comes up.
-void pause(int milliseconds) {
-  Inspector* inspector = Inspector::self();
-  const HostServices services = inspector->hostServices();
-  const QString before = trouble(services);
-  int left = services.sleep ? milliseconds : 0;
-  while (left > 0 && !inspector->hasScriptError()) {
-    const int slice = std::min(left, pauseSliceMs);
-    services.sleep(slice);
-    left -= slice;
-    const QString now = trouble(services);
-    if (now != before && !now.isEmpty()) {
-      inspector->reportScriptError(now);
-    }
-  }
-}
-
-ObjectResult snooze(const Context&, const ObjectList& arguments) {
+ObjectResult pause(const Context&, const ObjectList& arguments) {
   // A day: no one means more.
   const double maxSeconds = 86400;
   const double seconds = isNumber(arguments[0]) ? arguments[0]->toDouble() : -1;
   if (!(seconds >= 0 && seconds <= maxSeconds)) {
-    return failure(QStringLiteral("snooze needs a number of seconds from 0 to "
-                                  "86400, but got %1.")
+    return failure(QStringLiteral("pause needs a number of seconds from 0 to 86400, but got %1.")
                        .arg(describeValue(arguments[0])));
   }
-  pause(static_cast<int>(seconds * 1000 + 0.5));
-  return outcome(nullptr);
+  // A script that knows of its lost browser may pause all the same.
+  const QString known = Inspector::self()->whyNotGoOn();
+  QString end;
+  poll(static_cast<int>(seconds * 1000 + 0.5), pauseIntervalMs, [&] {
+    end = Inspector::self()->whyNotGoOn();
+    return !end.isEmpty() && end != known;
+  });
+  return end.isEmpty() || end == known ? outcome(nullptr) : failure(end);
 }
 
 ObjectResult findAllObjects(const Context&, const ObjectList& arguments) {
@@ -297,9 +286,8 @@ Target treeTarget(const Context& context, const char* function, const SharedPtr<
     return {found.value, argument->toString(), found.error};
   }
   Target target = targetOf(context, function, argument);
-  const std::function<QString(const SharedPtr<Object>&)>& trouble = Inspector::self()->hostServices().objectTrouble;
-  if (target.error.isEmpty() && trouble) {
-    target.error = trouble(target.object);
+  if (target.error.isEmpty()) {
+    target.error = Inspector::self()->hostServices().whyNotUse(target.object);
   }
   if (target.error.isEmpty() && !hierarchyDelegate(target.object)) {
     target.error = QStringLiteral("%1 needs an object of a page, but got %2.")
@@ -308,22 +296,22 @@ Target treeTarget(const Context& context, const char* function, const SharedPtr<
   return target;
 }
 
-ObjectResult objectChildren(const Context& context, const ObjectList& arguments) {
-  const Target target = treeTarget(context, "object.children", arguments[0]);
+ObjectResult children(const Context& context, const ObjectList& arguments) {
+  const Target target = treeTarget(context, "children", arguments[0]);
   if (!target.error.isEmpty()) {
     return failure(target.error);
   }
-  const ObjectList children = hierarchyDelegate(target.object)->children(target.object);
-  return outcome(ArrayClass::wrapObject({children.begin(), children.end()}));
+  const ObjectList found = hierarchyDelegate(target.object)->children(target.object);
+  return outcome(ArrayClass::wrapObject({found.begin(), found.end()}));
 }
 
-ObjectResult objectParent(const Context& context, const ObjectList& arguments) {
-  const Target target = treeTarget(context, "object.parent", arguments[0]);
+ObjectResult parent(const Context& context, const ObjectList& arguments) {
+  const Target target = treeTarget(context, "parent", arguments[0]);
   if (!target.error.isEmpty()) {
     return failure(target.error);
   }
-  const SharedPtr<Object> parent = hierarchyDelegate(target.object)->parent(target.object);
-  return outcome(parent ? parent : Inspector::self()->nullObject(target.object->objectClass()));
+  const SharedPtr<Object> found = hierarchyDelegate(target.object)->parent(target.object);
+  return outcome(found ? found : Inspector::self()->nullObject(target.object->objectClass()));
 }
 
 ObjectResult objectName(const Context& context, const ObjectList& arguments) {
@@ -341,9 +329,9 @@ const Row rows[] = {
     {"findObject", "findObject(name)", 1, 1, findObject},
     {"waitForObject", "waitForObject(name[, milliseconds])", 1, 2, waitForObject},
     {"findAllObjects", "findAllObjects(name)", 1, 1, findAllObjects},
-    {"object.exists", "object.exists(name)", 1, 1, objectExists},
-    {"object.children", "object.children(object)", 1, 1, objectChildren},
-    {"object.parent", "object.parent(object)", 1, 1, objectParent},
+    {"exists", "exists(name)", 1, 1, exists},
+    {"children", "children(object)", 1, 1, children},
+    {"parent", "parent(object)", 1, 1, parent},
     {"objectName", "objectName(object)", 1, 1, objectName},
     {"mouseClick",
      "mouseClick(object), mouseClick(object, modifiers) or "
@@ -354,7 +342,7 @@ const Row rows[] = {
     {"setText", "setText(object, text)", 2, 2, setText},
     {"setFocus", "setFocus(object)", 1, 1, setFocus},
     {"selectOption", "selectOption(object, text)", 2, 2, selectOption},
-    {"snooze", "snooze(seconds)", 1, 1, snooze},
+    {"pause", "pause(seconds)", 1, 1, pause},
 };
 
 }  // namespace

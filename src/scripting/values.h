@@ -4,8 +4,8 @@
 #include <memory>
 #include <vector>
 
-#include "corvexhook/functioncallresult.h"
 #include "scripting/liveobjects.h"
+#include "shared/functioncallresult.h"
 
 class QJSEngine;
 

@@ -1,5 +1,6 @@
 #include "shared/wait.h"
 
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
 #include <algorithm>
@@ -13,6 +14,23 @@ thread_local const QDeadlineTimer* innermostDeadline = nullptr;
 QDeadlineTimer cappedByOuterWait(const QDeadlineTimer& deadline) {
   return innermostDeadline ? std::min(deadline, *innermostDeadline) : deadline;
 }
+
+class MachineClock : public Clock {
+public:
+  MachineClock() { m_timer.start(); }
+
+  qint64 now() const override { return m_timer.elapsed(); }
+
+  void sleep(int milliseconds) override {
+    Pending never;
+    waitFor(never, QDeadlineTimer(milliseconds, Qt::PreciseTimer));
+  }
+
+private:
+  QElapsedTimer m_timer;
+};
+
+Clock* replacement = nullptr;
 
 }  // namespace
 
@@ -79,14 +97,30 @@ int grantedTime(int timeoutMs) {
   return int(std::min<qint64>(timeoutMs, innermostDeadline->remainingTime()));
 }
 
-void gentleSleep(int milliseconds) {
-  QEventLoop loop;
-  QTimer timer;
-  timer.setSingleShot(true);
-  timer.setTimerType(Qt::PreciseTimer);
-  QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
-  timer.start(milliseconds);
-  loop.exec();
+void gentleSleep(int milliseconds) { Clock::current().sleep(milliseconds); }
+
+bool poll(int timeoutMs, int intervalMs, const std::function<bool()>& attempt) {
+  Clock& clock = Clock::current();
+  const qint64 end = clock.now() + grantedTime(timeoutMs);
+  for (;;) {
+    if (attempt()) {
+      return true;
+    }
+    const qint64 left = end - clock.now();
+    if (left <= 0) {
+      return false;
+    }
+    clock.sleep(int(std::min<qint64>(left, intervalMs)));
+  }
 }
+
+Clock::~Clock() = default;
+
+Clock& Clock::current() {
+  static MachineClock machine;
+  return replacement ? *replacement : machine;
+}
+
+void Clock::replace(Clock* clock) { replacement = clock; }
 
 }  // namespace Corvex

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "corvexhook/primitives.h"
 #include "corvexhook/testclass.h"
 #include "support/printing.h"
 

@@ -1,10 +1,12 @@
 #include "corvexhook/inspector.h"
+#include "corvexhook/hostservices.h"
 
 #include <gtest/gtest.h>
 
 #include "corvexhook/delegate.h"
 #include "corvexhook/objectmap.h"
 #include "corvexhook/testclass.h"
+#include "support/fakeclock.h"
 #include "support/printing.h"
 
 using namespace Corvex;
@@ -38,17 +40,35 @@ public:
   mutable QStringList asked;
 };
 
+/// Answers as the test says.
+class Services : public HostServices {
+public:
+  Services() { Inspector::self()->setHostServices(this); }
+  ~Services() override { Inspector::self()->setHostServices(nullptr); }
+
+  QString whyNotLookUp() const override { return noLookup; }
+  QString whyNeverFound(const QString& name) const override {
+    ++timesAsked;
+    return name.contains(text("bad")) ? text("it is bad") : QString();
+  }
+  FunctionCallResult<bool> isReady(const SharedPtr<Object>&) const override {
+    return FunctionCallResult<bool>::success(false);
+  }
+
+  QString noLookup;
+  mutable int timesAsked = 0;
+};
+
 class InspectorTest : public testing::Test {
 protected:
   InspectorTest() {
     static const auto* cls = new TestClass("InspectorRoot", "");
     m_root = new Object(cls, this);
     m_inspector->addRootObject(m_root);
-    m_services = m_inspector->hostServices();
   }
   ~InspectorTest() override {
     m_inspector->removeRootObject(m_root);
-    m_inspector->setHostServices(m_services);
+    m_inspector->setHostServices(nullptr);
     m_inspector->takeScriptError();
     ObjectMap::self()->clear();
   }
@@ -58,7 +78,6 @@ protected:
   SharedPtr<Object> m_root;
 
 private:
-  HostServices m_services;
 };
 
 }  // namespace
@@ -121,77 +140,52 @@ TEST_F(InspectorTest, FindObjectNamesWhatNothingMatched) {
 }
 
 TEST_F(InspectorTest, WaitingOutlivesOneFailedLookup) {
-  qint64 now = 0;
-  HostServices services;
-  services.now = [&now] { return now; };
-  services.sleep = [this, &now](int milliseconds) {
-    now += milliseconds;
-    m_names.error.clear();
-  };
-  services.isReady = [](const SharedPtr<Object>&) { return FunctionCallResult<bool>::success(false); };
-  m_inspector->setHostServices(services);
+  TestSupport::FakeClock clock;
+  const Services services;
   m_names.known << text("{a='%2'}");
   m_names.error = text("The page was replaced.");
+  clock.onSleep = [this] { m_names.error.clear(); };
   EXPECT_FALSE(m_inspector->findObject(text("{a='%2'}"), 100));
   EXPECT_EQ(m_inspector->takeScriptError(),
             text("The object '{a='%2'}' was found, but was not ready within 100 ms: it is hidden or disabled."));
 
   m_names.asked.clear();
   m_names.error = text("The page said no.");
-  services.sleep = [&now](int milliseconds) { now += milliseconds; };
-  m_inspector->setHostServices(services);
+  clock.onSleep = nullptr;
   EXPECT_FALSE(m_inspector->findObject(text("{a='1'}"), 100));
   EXPECT_EQ(m_names.asked.size(), 2);
   EXPECT_EQ(m_inspector->takeScriptError(), text("The page said no."));
 }
 
-TEST_F(InspectorTest, WaitingEndsByTheClockOrByTrouble) {
-  qint64 now = 0;
-  QString trouble;
-  HostServices services;
-  services.now = [&now] { return now; };
-  services.sleep = [&now](int milliseconds) { now += milliseconds; };
-  services.trouble = [&trouble] { return trouble; };
-  m_inspector->setHostServices(services);
+TEST_F(InspectorTest, WaitingEndsByTheClockOrWhenNothingCanBeLookedUp) {
+  TestSupport::FakeClock clock;
+  Services services;
   EXPECT_FALSE(m_inspector->findObject(text("{a='1'}"), 1000));
-  EXPECT_GE(now, 1000);
-  EXPECT_LT(now, 1100);
+  EXPECT_EQ(clock.nowMs, 1000);
   EXPECT_EQ(m_inspector->takeScriptError(), text("Object '{a='1'}' not found."));
 
-  services.sleep = [&now, &trouble](int milliseconds) {
-    now += milliseconds;
-    trouble = text("The browser is gone.");
-  };
-  m_inspector->setHostServices(services);
-  now = 0;
+  clock.onSleep = [&services] { services.noLookup = text("The browser is gone."); };
+  clock.nowMs = 0;
   EXPECT_FALSE(m_inspector->waitForObject(text("{a='1'}")));
-  EXPECT_LT(now, 100);
+  EXPECT_LT(clock.nowMs, 100);
   EXPECT_EQ(m_inspector->takeScriptError(), text("The browser is gone."));
 }
 
 TEST_F(InspectorTest, ANameThatCanNeverBeFoundIsRefusedAtOnce) {
-  qint64 now = 0;
-  int asked = 0;
-  HostServices services;
-  services.now = [&now] { return now; };
-  services.sleep = [&now](int milliseconds) { now += milliseconds; };
-  services.nameFault = [&asked](const QString& name) {
-    ++asked;
-    return name.contains(text("bad")) ? text("it is bad") : QString();
-  };
-  m_inspector->setHostServices(services);
+  const TestSupport::FakeClock clock;
+  Services services;
   const QString error = text("Invalid object name '{a='bad'}': it is bad.");
   EXPECT_FALSE(m_inspector->waitForObject(text("{a='bad'}")));
   EXPECT_EQ(m_inspector->takeScriptError(), error);
   EXPECT_FALSE(m_inspector->waitForObject(text("{a='1'")));
   EXPECT_TRUE(m_inspector->takeScriptError().startsWith(text("Invalid object name '{a='1'': ")));
-  EXPECT_EQ(now, 0);
+  EXPECT_EQ(clock.nowMs, 0);
   EXPECT_FALSE(m_inspector->lookup(text("{a='bad'}")));
   EXPECT_EQ(m_inspector->takeScriptError(), error);
-  asked = 0;
+  services.timesAsked = 0;
   EXPECT_FALSE(m_inspector->findObject(text("{a='good'}"), 1000));
   EXPECT_EQ(m_inspector->takeScriptError(), text("Object '{a='good'}' not found."));
-  EXPECT_EQ(asked, 1) << "waiting asks once";
+  EXPECT_EQ(services.timesAsked, 1) << "waiting asks once";
 }
 
 TEST_F(InspectorTest, UnmatchedPropertiesOfEndlessNamesAreForgotten) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "corvexhook/inspector.h"
+#include "corvexhook/primitives.h"
 
 /// A class with `methods` methods and `properties` properties of its own, named after the class and their own numbers.
 class TestClass : public Corvex::Class {

@@ -57,7 +57,7 @@ const Moment moments[] = {
      ""},
     {"OpenDialog",
      "startBrowser(SITE + '/dialogs.html');\nclickButton(element('BUTTON', 'confirm'));\n"
-     "failureOf(function () { snooze(0.7); });\ntest.log('now');\nsnooze(30);\ntest.log('reached');",
+     "failureOf(function () { pause(0.7); });\ntest.log('now');\npause(30);\ntest.log('reached');",
      ""},
     {"WaitForAnotherDialog",
      "startBrowser(SITE + '/dialogs.html');\nclickButton(element('BUTTON', 'prompt'));\n"

@@ -26,7 +26,7 @@ function waitUntil(condition, what) {
       test.verify(true, what);
       return;
     }
-    snooze(0.05);
+    pause(0.05);
   } while (Date.now() < end);
   test.verify(false, what + " " + sentence);
 }

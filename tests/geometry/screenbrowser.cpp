@@ -82,10 +82,10 @@ QString ScreenBrowser::start() {
   const ScopedVariable windowScale("GDK_SCALE", isWhole ? QByteArray::number(m_scale) : QByteArray());
   const ScopedVariable textScale("GDK_DPI_SCALE", isWhole ? QByteArray() : QByteArray::number(m_scale));
   Corvex::Webhook::BrowserSession::Start start = Corvex::Webhook::BrowserSession::start(optionsFor(m_scale));
-  if (!start.session) {
+  if (!start.value) {
     return start.error;
   }
-  m_session = std::move(start.session);
+  m_session = std::move(start.value);
   m_connection = std::make_unique<Corvex::Webhook::Connection>(m_session->firstPage(), &m_config,
                                                                identityOf(*m_session), QStringLiteral("1"));
   const QString error = m_connection->install();

@@ -86,7 +86,7 @@ TEST(BrowserFailure, AKilledBrowserEndsTheScriptAndLeavesNothing) {
   ProgramRun program;
   program.write(
       QStringLiteral("test.js"),
-      QStringLiteral("startBrowser('about:blank');\ntest.log('started');\nsnooze(50);\ntest.log('reached');"));
+      QStringLiteral("startBrowser('about:blank');\ntest.log('started');\npause(50);\ntest.log('reached');"));
   program.start({QStringLiteral("run"), QStringLiteral("test.js")});
   ASSERT_TRUE(program.waitForOutput(QStringLiteral("started")));
   const QList<qint64> processes = program.browserProcesses();
@@ -97,7 +97,7 @@ TEST(BrowserFailure, AKilledBrowserEndsTheScriptAndLeavesNothing) {
   const ProgramResult result = program.finish();
   EXPECT_EQ(result.exitCode, 3);
   EXPECT_TRUE(result.output.contains(QLatin1String("The browser was lost"))) << qPrintable(result.output);
-  EXPECT_TRUE(result.output.contains(QLatin1String("test.js:3: snooze(50);")));
+  EXPECT_TRUE(result.output.contains(QLatin1String("test.js:3: pause(50);")));
   EXPECT_FALSE(result.output.contains(QLatin1String("reached")));
   expectNothingLeft(program);
 }

@@ -49,7 +49,7 @@ TEST_F(ScriptErrors, OfTheLanguage) {
 TEST_F(ScriptErrors, CanBeCaughtByTheScript) {
   EXPECT_EQ(errorOf("try { findObject(\"{id='none'}\"); }\n"
                     "catch (e) { test.log(e.message); }\n"
-                    "test.compare(object.exists(\"{id='none'}\"), false);"),
+                    "test.compare(exists(\"{id='none'}\"), false);"),
             QString());
   EXPECT_TRUE(listener.lines.contains(s("log Object '{id='none'}' not found.")));
 }
@@ -105,13 +105,13 @@ TEST_F(ScriptErrors, InterruptEndsEndlessLoops) {
 }
 
 TEST_F(ScriptErrors, InterruptEndsWaitsAndPauses) {
-  for (const char* script : {"snooze(1000);", "waitForObject(\"{id='x'}\");"}) {
+  for (const char* script : {"pause(1000);", "waitForObject(\"{id='x'}\");"}) {
     ScriptEngine engine(host, &listener);
-    world().nowMs = 0;
-    world().onSleep = [&] { engine.interrupt(); };
+    clock.nowMs = 0;
+    clock.onSleep = [&] { engine.interrupt(); };
     const ScriptResult result = engine.runFile(write(script));
     EXPECT_EQ(result.error, s("interrupted"));
     EXPECT_TRUE(result.interrupted);
-    EXPECT_LT(world().nowMs, 1000);
+    EXPECT_LT(clock.nowMs, 1000);
   }
 }

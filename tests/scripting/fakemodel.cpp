@@ -254,27 +254,16 @@ public:
   bool sameObjects(SharedPtr<Object> a, SharedPtr<Object> b) const override { return *nativeOf(a) == *nativeOf(b); }
 };
 
-HostServices services() {
-  HostServices fake;
-  fake.isReady = [](const SharedPtr<Object>& object) {
-    Native& thing = *nativeOf(object);
-    const bool ready = thing->notReadyFor == 0;
-    if (!ready) {
-      --thing->notReadyFor;
-    }
-    return FunctionCallResult<bool>::success(ready);
-  };
-  fake.sleep = [](int milliseconds) {
-    if (world().onSleep) {
-      world().onSleep();
-    }
-    world().nowMs += milliseconds;
-  };
-  fake.now = [] { return world().nowMs; };
-  return fake;
-}
-
 }  // namespace
+
+FunctionCallResult<bool> Services::isReady(const SharedPtr<Object>& object) const {
+  Native& thing = *nativeOf(object);
+  const bool ready = thing->notReadyFor == 0;
+  if (!ready) {
+    --thing->notReadyFor;
+  }
+  return FunctionCallResult<bool>::success(ready);
+}
 
 World& world() {
   static World theWorld;
@@ -304,7 +293,7 @@ void reset() {
   world() = World();
   world().alive = alive;
   Inspector* inspector = Inspector::self();
-  inspector->setHostServices(services());
+  inspector->setHostServices(&world().services);
   inspector->addRootObject(new Object(classNamed("FakeRoot"), &world()));
 }
 

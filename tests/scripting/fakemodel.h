@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "corvexhook/class.h"
+#include "corvexhook/hostservices.h"
 
 /// A small object model for scripts to run on: widgets under a root, found by
 /// their whole names.
@@ -24,6 +25,26 @@ struct Thing {
   int notReadyFor = 0;
 };
 
+/// What the framework is told of the model.
+class Services : public Corvex::HostServices {
+public:
+  QString whyNotGoOn() const override { return gone ? gone() : QString(); }
+  QString whyNotUse(const Corvex::SharedPtr<Corvex::Object>&) const override { return unusable; }
+  QString whyNeverFound(const QString& name) const override {
+    return name.contains(QLatin1String("bad")) ? QStringLiteral("it is bad") : QString();
+  }
+  Corvex::FunctionCallResult<bool> isReady(const Corvex::SharedPtr<Corvex::Object>& object) const override;
+  Corvex::ObjectList findAll(const std::vector<Corvex::SharedPtr<Corvex::Object>>& roots,
+                             const Corvex::ObjectName& name) const override {
+    return all ? all(roots, name) : HostServices::findAll(roots, name);
+  }
+
+  std::function<QString()> gone;
+  QString unusable;
+  std::function<Corvex::ObjectList(const std::vector<Corvex::SharedPtr<Corvex::Object>>&, const Corvex::ObjectName&)>
+      all;
+};
+
 /// What a test sees and steers. There is one for the whole process.
 struct World {
   QHash<QString, std::shared_ptr<Thing>> things;
@@ -31,10 +52,7 @@ struct World {
   QStringList calls;
   /// Names that were looked up.
   QStringList lookups;
-  /// The clock of the framework, moved by its sleeps alone.
-  qint64 nowMs = 0;
-  /// What happens when a sleep begins.
-  std::function<void()> onSleep;
+  Services services;
   /// Objects of the model that exist.
   int alive = 0;
 

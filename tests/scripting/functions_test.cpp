@@ -54,43 +54,43 @@ void addPoke() {
 TEST_F(ScriptFunctions, FindObjectTriesOnce) {
   EXPECT_EQ(errorOf("\nvar o = findObject(\"{id='none'}\");"), s("2: Object '{id='none'}' not found."));
   EXPECT_EQ(world().lookups.size(), 1);
-  EXPECT_EQ(world().nowMs, 0);
+  EXPECT_EQ(clock.nowMs, 0);
   EXPECT_EQ(listener.lines, QStringList(s("step findObject {id='none'}")));
 }
 
 TEST_F(ScriptFunctions, WaitForObjectWaitsUntilFoundAndReady) {
-  world().onSleep = [] {
-    if (world().nowMs >= 100 && !world().things.contains(s("{id='late'}"))) {
+  clock.onSleep = [this] {
+    if (clock.nowMs >= 100 && !world().things.contains(s("{id='late'}"))) {
       world().add(s("{id='late'}"), s("Field")).notReadyFor = 2;
     }
   };
   EXPECT_EQ(errorOf("waitForObject(\"{id='late'}\").focus();"), QString());
   EXPECT_EQ(world().calls, QStringList(s("{id='late'}.focus()")));
-  EXPECT_GE(world().nowMs, 140);
-  EXPECT_LT(world().nowMs, 1000);
+  EXPECT_GE(clock.nowMs, 140);
+  EXPECT_LT(clock.nowMs, 1000);
 }
 
 TEST_F(ScriptFunctions, WaitForObjectEndsWhenTheTimeIsOver) {
   EXPECT_EQ(errorOf("waitForObject(\"{id='none'}\", 300);"), s("1: Object '{id='none'}' not found."));
-  EXPECT_GE(world().nowMs, 300);
-  EXPECT_LT(world().nowMs, 400);
+  EXPECT_GE(clock.nowMs, 300);
+  EXPECT_LT(clock.nowMs, 400);
 
   world().things.value(s("{id='f'}"))->notReadyFor = 1000000;
   EXPECT_EQ(errorOf("waitForObject(\"{id='f'}\", 100);"),
             s("1: The object '{id='f'}' was found, but was not ready within "
               "100 ms: it is hidden or disabled."));
 
-  world().nowMs = 0;
+  clock.nowMs = 0;
   EXPECT_NE(errorOf("waitForObject(\"{id='none'}\");"), QString());
-  EXPECT_GE(world().nowMs, Inspector::self()->defaultTimeout());
+  EXPECT_GE(clock.nowMs, Inspector::self()->defaultTimeout());
 }
 
 TEST_F(ScriptFunctions, ObjectExistsAnswersAndRefusesBadNames) {
-  EXPECT_EQ(errorOf("test.compare(object.exists(\"{id='f'}\"), true);"
-                    "test.compare(object.exists(\"{id='none'}\"), false);"),
+  EXPECT_EQ(errorOf("test.compare(exists(\"{id='f'}\"), true);"
+                    "test.compare(exists(\"{id='none'}\"), false);"),
             QString());
   EXPECT_EQ(listener.lines.filter(s("failed")), QStringList());
-  EXPECT_TRUE(errorOf("object.exists(\"{id='f\")").startsWith(s("1: Invalid object name '{id='f': ")));
+  EXPECT_TRUE(errorOf("exists(\"{id='f\")").startsWith(s("1: Invalid object name '{id='f': ")));
 }
 
 TEST_F(ScriptFunctions, NamesComeFromTheObjectMapAndMayHoldAmpersandEntities) {
@@ -146,26 +146,24 @@ TEST_F(ScriptFunctions, WrongCallsAreSentences) {
        "waitForObject: the time to wait must be a number of milliseconds, but "
        "got -1."},
       {"findObject('')", "Invalid object name '': it is empty."},
-      {"snooze('long')", "snooze needs a number of seconds from 0 to 86400, but got 'long'."},
-      {"snooze(NaN)", "snooze needs a number of seconds from 0 to 86400, but got nan."},
+      {"pause('long')", "pause needs a number of seconds from 0 to 86400, but got 'long'."},
+      {"pause(NaN)", "pause needs a number of seconds from 0 to 86400, but got nan."},
   };
   for (const auto& one : cases) {
     EXPECT_EQ(errorOf(one.script), s("1: ") + s(one.error)) << one.script;
   }
 }
 
-TEST_F(ScriptFunctions, SnoozeSleepsAsLongAsItSays) {
-  EXPECT_EQ(errorOf("snooze(1.25); snooze(0);"), QString());
-  EXPECT_EQ(world().nowMs, 1250);
+TEST_F(ScriptFunctions, PauseSleepsAsLongAsItSays) {
+  EXPECT_EQ(errorOf("pause(1.25); pause(0);"), QString());
+  EXPECT_EQ(clock.nowMs, 1250);
 }
 
-TEST_F(ScriptFunctions, SnoozeEndsWhenTroubleComesUp) {
-  HostServices services = Inspector::self()->hostServices();
-  services.trouble = [] { return world().nowMs < 500 ? QString() : s("The browser is gone."); };
-  Inspector::self()->setHostServices(services);
-  EXPECT_EQ(errorOf("snooze(100);"), s("1: The browser is gone."));
-  EXPECT_LT(world().nowMs, 700);
-  EXPECT_EQ(errorOf("snooze(0.2);"), QString());
+TEST_F(ScriptFunctions, PauseEndsWhenNothingCanGoOn) {
+  world().services.gone = [this] { return clock.nowMs < 500 ? QString() : s("The browser is gone."); };
+  EXPECT_EQ(errorOf("pause(100);"), s("1: The browser is gone."));
+  EXPECT_LT(clock.nowMs, 700);
+  EXPECT_EQ(errorOf("pause(0.2);"), QString());
 }
 
 TEST_F(ScriptFunctions, TheEmbeddingProcessAddsFunctions) {

@@ -120,7 +120,7 @@ TEST_F(ScriptObjects, TextAndIdentity) {
     test.compare(String(one), "field {id='f'}");
     test.compare("" + other, "[object Widget]");
     test.compare(JSON.stringify([one]), "[\"field {id='f'}\"]");
-    test.verify(object.same(one, two) && !object.same(one, other));
+    test.verify(sameObject(one, two) && !sameObject(one, other));
     test.compare(one, two);
     test.verify(one instanceof Object && typeof one === "object");
   )"),

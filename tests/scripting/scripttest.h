@@ -6,6 +6,7 @@
 
 #include "fakemodel.h"
 #include "scripting/scriptengine.h"
+#include "support/fakeclock.h"
 #include "support/files.h"
 #include "support/printing.h"
 
@@ -50,6 +51,7 @@ protected:
                                   : QStringLiteral("%1: %2").arg(QString::number(result.location.line), result.error);
   }
 
+  TestSupport::FakeClock clock;
   Corvex::Scripting::ScriptHost host;
   RecordingListener listener;
 

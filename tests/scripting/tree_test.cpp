@@ -19,11 +19,6 @@ protected:
       world().add(s(name), s("Field")).parent = s("{id='box'}");
     }
   }
-  void changeServices(const std::function<void(HostServices&)>& change) {
-    HostServices services = Inspector::self()->hostServices();
-    change(services);
-    Inspector::self()->setHostServices(services);
-  }
 };
 
 }  // namespace
@@ -31,12 +26,12 @@ protected:
 TEST_F(ScriptTree, IsWalkedDownAndUp) {
   EXPECT_EQ(errorOf(R"(
     var box = findObject("{id='box'}");
-    var children = object.children(box);
-    test.compare(children.length, 2);
-    test.compare(children.map(function (child) { return objectName(child); }), ["{id='a'}", "{id='b'}"]);
-    test.verify(object.same(object.parent(children[1]), box));
-    test.compare(object.parent("{id='box'}"), null);
-    test.compare(object.children("{id='a'}"), []);
+    var found = children(box);
+    test.compare(found.length, 2);
+    test.compare(found.map(function (child) { return objectName(child); }), ["{id='a'}", "{id='b'}"]);
+    test.verify(sameObject(parent(found[1]), box));
+    test.compare(parent("{id='box'}"), null);
+    test.compare(children("{id='a'}"), []);
   )"),
             QString());
   EXPECT_EQ(listener.lines.filter(s("failed")), QStringList());
@@ -44,8 +39,8 @@ TEST_F(ScriptTree, IsWalkedDownAndUp) {
 
 TEST_F(ScriptTree, HiddenObjectsCountToo) {
   world().things.value(s("{id='box'}"))->notReadyFor = 1000000;
-  EXPECT_EQ(errorOf("test.compare(object.children(\"{id='box'}\").length, 2);"), QString());
-  EXPECT_EQ(world().nowMs, 0);
+  EXPECT_EQ(errorOf("test.compare(children(\"{id='box'}\").length, 2);"), QString());
+  EXPECT_EQ(clock.nowMs, 0);
 }
 
 TEST_F(ScriptTree, WrongCallsAreSentences) {
@@ -54,8 +49,8 @@ TEST_F(ScriptTree, WrongCallsAreSentences) {
     const char* script;
     const char* error;
   } cases[] = {
-      {"object.children(null)", "object.children needs an object or its name, but got null."},
-      {"object.parent(7)", "object.parent needs an object or its name, but got 7."},
+      {"children(null)", "children needs an object or its name, but got null."},
+      {"parent(7)", "parent needs an object or its name, but got 7."},
       {"objectName(\"{id='none'}\")", "Object '{id='none'}' not found."},
       {"objectName(\"{id='a'}\")", "objectName: the page gave no name for a Field."},
       {"findAllObjects(null)", "findAllObjects needs the name of an object, but got null."},
@@ -65,28 +60,23 @@ TEST_F(ScriptTree, WrongCallsAreSentences) {
   for (const auto& one : cases) {
     EXPECT_EQ(errorOf(one.script), s("1: ") + s(one.error)) << one.script;
   }
-  changeServices([this](HostServices& services) {
-    services.objectTrouble = [this](const SharedPtr<Object>&) { return s("It is gone."); };
-  });
-  for (const char* function : {"object.children", "object.parent", "objectName"}) {
+  world().services.unusable = s("It is gone.");
+  for (const char* function : {"children", "parent", "objectName"}) {
     EXPECT_EQ(errorOf(QByteArray("var a = findObject(\"{id='a'}\"); ") + function + "(a);"), s("1: It is gone."));
   }
 }
 
 TEST_F(ScriptTree, AllObjectsOfANameComeFromTheEmbeddingProcess) {
   ObjectMap::self()->insert(s(":Fields"), s("{type='field'}"));
-  changeServices([this](HostServices& services) {
-    services.findAll = [this](const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) {
-      world().calls << QStringLiteral("%1 in %2").arg(name.qualifiedName()).arg(roots.size());
-      ObjectList found;
-      if (name.qualifiedName() == s("{type='field'}")) {
-        found.push_back(Inspector::self()->lookup(s("{id='a'}")));
-        found.push_back(Inspector::self()->lookup(s("{id='b'}")));
-      }
-      return found;
-    };
-    services.nameFault = [this](const QString& name) { return name.contains(s("bad")) ? s("it is bad") : QString(); };
-  });
+  world().services.all = [this](const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) {
+    world().calls << QStringLiteral("%1 in %2").arg(name.qualifiedName()).arg(roots.size());
+    ObjectList found;
+    if (name.qualifiedName() == s("{type='field'}")) {
+      found.push_back(Inspector::self()->lookup(s("{id='a'}")));
+      found.push_back(Inspector::self()->lookup(s("{id='b'}")));
+    }
+    return found;
+  };
   EXPECT_EQ(errorOf("test.compare(findAllObjects(':Fields').length, 2);"
                     "test.compare(findAllObjects(\"{type='x &amp; y'}\"), []);"
                     "test.compare(findAllObjects('plain'), []);"),

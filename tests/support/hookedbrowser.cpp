@@ -49,7 +49,7 @@ HookedBrowser::HookedBrowser() : m_model(new Corvex::Webhook::WebModel) {
   options.browser = QString::fromLocal8Bit(qgetenv("CORVEX_TEST_BROWSER"));
   BrowserSession::Start start = BrowserSession::start(options);
   require(start.error);
-  m_session = std::move(start.session);
+  m_session = std::move(start.value);
   QString error;
   m_endpoint.start(&error);
   require(error);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shared/functioncallresult.h"
+#include "shared/javascriptanswer.h"
 #include "webhook/protocol/dialog.h"
 
 #include <QImage>
@@ -9,27 +11,6 @@
 #include <optional>
 
 namespace Corvex::Webhook {
-
-/// What came of evaluating code in a page.
-struct Evaluation {
-  QString text;          ///< String(value) on success, else a sentence or the exception's text.
-  bool failed = false;   ///< The code threw, or could not be read as code.
-  bool aborted = false;  ///< The code did not run to its end, or its answer did not come; `text` says why.
-
-  bool isOk() const { return !failed && !aborted; }
-};
-
-/// An image, or the reason why there is none.
-struct Screenshot {
-  QImage image;
-  QString error;
-};
-
-/// A number, or the reason why there is none.
-struct ZoomFactor {
-  double value = 1.0;
-  QString error;
-};
 
 /// One page (tab) of a browser. No caller needs to know by which protocol it is driven.
 ///
@@ -47,7 +28,7 @@ public:
   /// `timeoutMs` 0 stands for the session's default. When it is over, the code is ended in the page and its answer is
   /// lost. A dialog that opens meanwhile, a new document, the page's end, its crash and the browser's end abort the
   /// call at once.
-  virtual Evaluation evaluate(const QString& code, int timeoutMs = 0) = 0;
+  virtual JavaScriptAnswer evaluate(const QString& code, int timeoutMs = 0) = 0;
 
   /// Loads `url` and waits for its load event. A question of the old page whether to leave it is answered with yes.
   virtual QString navigate(const QString& url, int timeoutMs = 0) = 0;
@@ -57,10 +38,10 @@ public:
   virtual QString addStartScript(const QString& text) = 0;
 
   /// The page as it is in view, or its whole length.
-  virtual Screenshot screenshot(bool wholePage) = 0;
+  virtual FunctionCallResult<QImage> screenshot(bool wholePage) = 0;
 
   /// CSS pixels to device-independent pixels: 1.0 unless the page was zoomed.
-  virtual ZoomFactor zoomFactor() = 0;
+  virtual FunctionCallResult<double> zoomFactor() = 0;
 
   /// Puts files into the file input that `referenceExpression` names; the page gets the events of a user's choice.
   virtual QString setFiles(const QString& referenceExpression, const QStringList& paths) = 0;

@@ -19,14 +19,14 @@ QString pathOf(const QString& name) {
   return file.isFile() && file.isExecutable() ? file.absoluteFilePath() : QString();
 }
 
-Program programAt(const QString& name, const QString& errorWithoutOne) {
+FunctionCallResult<QString> programAt(const QString& name, const QString& errorWithoutOne) {
   const QString path = pathOf(name);
-  return path.isEmpty() ? Program{{}, errorWithoutOne} : Program{path, {}};
+  return {path, path.isEmpty() ? errorWithoutOne : QString()};
 }
 
 }  // namespace
 
-Program find(const Family& family, const QString& wanted) {
+FunctionCallResult<QString> find(const Family& family, const QString& wanted) {
   if (!wanted.isEmpty() && wanted != family.word) {
     return programAt(wanted, QStringLiteral("There is no browser '%1'. Give chromium, firefox, or the path of %2.")
                                  .arg(wanted, family.description));

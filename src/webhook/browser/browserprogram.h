@@ -1,15 +1,12 @@
 #pragma once
 
+#include "shared/functioncallresult.h"
+
 #include <QString>
 #include <QStringList>
 
 /// The programs that browsers are started from, and the directories in which they run.
 namespace Corvex::Webhook::BrowserProgram {
-
-struct Program {
-  QString path;
-  QString error;  ///< Why there is none, and what to install or set.
-};
 
 /// A family of browsers, as a user asks for it and as it is installed.
 struct Family {
@@ -22,7 +19,8 @@ struct Family {
 
 /// `wanted` is a path, a program's name or the family's word; the word takes what the variable names, or the first one
 /// that is installed.
-Program find(const Family& family, const QString& wanted);
+/// The path of a program; the error says why there is none, and what to install or set.
+FunctionCallResult<QString> find(const Family& family, const QString& wanted);
 
 /// The entry of a browser's environment that holds its directory and so marks all its processes.
 QString markName();

@@ -34,10 +34,8 @@ class BrowserSession : public QObject {
   Q_OBJECT
 
 public:
-  struct Start {
-    std::unique_ptr<BrowserSession> session;
-    QString error;  ///< Why there is none, and what to do.
-  };
+  /// The error says why there is none, and what to do.
+  using Start = FunctionCallResult<std::unique_ptr<BrowserSession>>;
 
   /// Starts a browser with a fresh profile, or attaches to a running one. Its first page is open on return. The table
   /// of back ends, where this is defined, chooses the kind of session.
@@ -51,11 +49,7 @@ public:
   /// All open pages, those that pages opened included, oldest first.
   virtual QVector<BrowserPage*> pages() const = 0;
 
-  struct NewPage {
-    BrowserPage* page = nullptr;
-    QString error;
-  };
-  virtual NewPage newPage() = 0;
+  virtual FunctionCallResult<BrowserPage*> newPage() = 0;
 
   /// Has `text` run in every page that opens from now on, as `BrowserPage::addStartScript` has it in one: in the first
   /// document already, before the page's own scripts.

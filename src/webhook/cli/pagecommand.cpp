@@ -1,6 +1,7 @@
 #include "webhook/cli/pagecommand.h"
 
 #include "corvexhook/inspector.h"
+#include "shared/wait.h"
 #include "webhook/cli/browseroptions.h"
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
@@ -14,6 +15,9 @@ namespace {
 
 // A page may show the next dialog when one is answered, and never stop.
 const int mostDialogs = 20;
+
+// How soon a lost browser ends the time that a page is given.
+const int settleIntervalMs = 50;
 
 const QCommandLineOption settleOption(QStringLiteral("wait"),
                                       QStringLiteral("Let the page work for so long once it is loaded."),
@@ -61,7 +65,7 @@ QString PageCommand::load() {
   const QFileInfo file(m_address);
   const bool isFile = file.isFile();
   QString error = m_browser->startBrowser(isFile ? file.absoluteFilePath() : m_address);
-  if (dismissDialogs() && m_browser->trouble().isEmpty()) {
+  if (dismissDialogs() && m_browser->whyNotAskPage().isEmpty()) {
     // Loaded all the same, but for the dialog.
     const WebWrapper::JavaScriptAnswer answer = page().evaluateJS(QStringLiteral("0"), 0);
     error = answer.succeeded() ? QString() : answer.text;
@@ -72,15 +76,15 @@ QString PageCommand::load() {
     return mayBeFile ? error + QStringLiteral(" There is no file '%1' either.").arg(m_address) : error;
   }
   if (m_settleMs > 0) {
-    m_browser->sleep(m_settleMs);
+    poll(m_settleMs, settleIntervalMs, [this] { return !m_browser->whyNoWindow().isEmpty(); });
     dismissDialogs();
   }
-  return m_browser->trouble();
+  return m_browser->whyNotAskPage();
 }
 
 bool PageCommand::dismissDialogs() {
   int dismissed = 0;
-  while (dismissed < mostDialogs && m_browser->windowTrouble().isEmpty() && page().openDialog() &&
+  while (dismissed < mostDialogs && m_browser->whyNoWindow().isEmpty() && page().openDialog() &&
          page().answerDialog(false, QString()).isEmpty()) {
     ++dismissed;
     // An answer means that the page has gone on, as far as its next dialog.

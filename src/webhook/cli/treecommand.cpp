@@ -55,11 +55,11 @@ int treeCommand(const QStringList& arguments) {
   const QObject watcher;
   QObject::connect(&command.page(), &Connection::documentGone, &watcher, [&pageLeft] { pageLeft = true; });
   const PageTree tree = readTree(*command.browser().windows(), depth);
-  const QString trouble = command.browser().trouble();
-  if (!trouble.isEmpty() || pageLeft) {
-    return command.fail(trouble.isEmpty() ? QStringLiteral("The page went to another document while its tree was read. "
-                                                           "Use --wait to let it come to rest first.")
-                                          : trouble);
+  const QString why = command.browser().whyNotAskPage();
+  if (!why.isEmpty() || pageLeft) {
+    return command.fail(why.isEmpty() ? QStringLiteral("The page went to another document while its tree was read. "
+                                                       "Use --wait to let it come to rest first.")
+                                      : why);
   }
   printOut(command.parser().isSet(jsonOption) ? treeAsJson(tree, command.page().page()->url(), depth)
                                               : treeAsText(tree));

@@ -1,8 +1,8 @@
 #include "webhook/inspect/tree.h"
 
 #include "corvexhook/delegate.h"
-#include "corvexhook/functioncallresult.h"
 #include "corvexhook/inspector.h"
+#include "shared/functioncallresult.h"
 #include "webhook/pages/connection.h"
 #include "webhook/pages/contexts.h"
 #include "wrappers/web/lookup/webobjectdelegate.h"

@@ -134,18 +134,12 @@ WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigne
 }
 
 WebWrapper::JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {
-  WebWrapper::JavaScriptAnswer answer;
   if (!m_page) {
-    answer.text = closedPage();
-    answer.aborted = true;
-    return answer;
+    return {closedPage(), false, true};
   }
   ++m_questions;
-  const Evaluation evaluation = m_page->evaluate(code, static_cast<int>(timeoutMs));
+  const JavaScriptAnswer answer = m_page->evaluate(code, static_cast<int>(timeoutMs));
   --m_questions;
-  answer.text = evaluation.text;
-  answer.failed = evaluation.failed;
-  answer.aborted = evaluation.aborted;
   return answer;
 }
 
@@ -168,16 +162,14 @@ FunctionCallResult<QImage> Connection::grabPageScreenshot() {
   if (!m_page) {
     return FunctionCallResult<QImage>::failure(closedPage());
   }
-  const Screenshot screenshot = m_page->screenshot(true);
-  return {screenshot.image, screenshot.error};
+  return m_page->screenshot(true);
 }
 
 FunctionCallResult<double> Connection::zoomFactor() {
   if (!m_page) {
     return FunctionCallResult<double>::failure(closedPage());
   }
-  const ZoomFactor zoom = m_page->zoomFactor();
-  return {zoom.value, zoom.error};
+  return m_page->zoomFactor();
 }
 
 QString Connection::selectFileToUpload(WebWrapper::HTML_TextBase* field, const QString& path) {

@@ -1,9 +1,9 @@
 #include "webhook/pages/dialogs.h"
 
+#include "corvexhook/inspector.h"
+#include "shared/wait.h"
 #include "webhook/endpoint/endpoint.h"
 #include "webhook/pages/browserwindows.h"
-
-#include <QElapsedTimer>
 
 #include <algorithm>
 
@@ -31,8 +31,7 @@ QString answeredAs(const QString& kind) {
 
 }  // namespace
 
-Dialogs::Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint, const Sleep& sleep)
-    : m_windows(windows), m_endpoint(endpoint), m_sleep(sleep) {}
+Dialogs::Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint) : m_windows(windows), m_endpoint(endpoint) {}
 
 void Dialogs::noteMessage(const PageMessage& message) {
   if (message.wantsReply()) {
@@ -67,18 +66,18 @@ QString Dialogs::closePrompt(const QString& text, int timeoutMs) {
 }
 
 QString Dialogs::answer(const QString& kind, bool accept, const QString& text, int timeoutMs) {
-  QElapsedTimer timer;
-  timer.start();
   QString error;
-  while (!tryAnswer(kind, accept, text, &error)) {
-    if (timer.elapsed() >= timeoutMs || !m_windows.current()) {
-      const QString other = obstacle();
-      return QStringLiteral("No %1 opened within %2 ms.").arg(kind).arg(timeoutMs) +
-             (other.isEmpty() ? QString() : QLatin1Char(' ') + other);
-    }
-    m_sleep(attemptIntervalMs);
+  bool isAnswered = false;
+  poll(timeoutMs, attemptIntervalMs, [&] {
+    isAnswered = tryAnswer(kind, accept, text, &error);
+    return isAnswered || !m_windows.current() || !Inspector::self()->whyNotGoOn().isEmpty();
+  });
+  if (isAnswered) {
+    return error;
   }
-  return error;
+  const QString other = whyNotAskPage();
+  return QStringLiteral("No %1 opened within %2 ms.").arg(kind).arg(timeoutMs) +
+         (other.isEmpty() ? QString() : QLatin1Char(' ') + other);
 }
 
 bool Dialogs::tryAnswer(const QString& kind, bool accept, const QString& text, QString* error) {
@@ -156,7 +155,7 @@ FunctionCallResult<QString> Dialogs::fromPage(const QString& function) const {
                             : FunctionCallResult<QString>::failure(answer.text);
 }
 
-QString Dialogs::obstacle() const {
+QString Dialogs::whyNotAskPage() const {
   const Connection* current = m_windows.current();
   const std::optional<Dialog> dialog = current ? current->openDialog() : std::nullopt;
   if (!dialog && m_waits.isEmpty()) {

@@ -1,13 +1,11 @@
 #pragma once
 
-#include "corvexhook/functioncallresult.h"
+#include "shared/functioncallresult.h"
 
 #include <QHash>
 #include <QObject>
 #include <QString>
 #include <QVector>
-
-#include <functional>
 
 namespace Corvex::Webhook {
 
@@ -22,11 +20,8 @@ class Dialogs : public QObject {
   Q_OBJECT
 
 public:
-  /// Lets milliseconds pass while events are served.
-  using Sleep = std::function<void(int)>;
-
   /// Windows and endpoint outlive this object.
-  Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint, const Sleep& sleep);
+  Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint);
 
   /// A page told of a dialog, or waits for the answer to one.
   void noteMessage(const PageMessage& message);
@@ -45,7 +40,7 @@ public:
   FunctionCallResult<QString> lastPromptDefault() const;
 
   /// The sentence for calls that an open dialog blocks; empty when none is open in the current window.
-  QString obstacle() const;
+  QString whyNotAskPage() const;
 
 private:
   /// A page that stands still until the driver answers.
@@ -62,7 +57,6 @@ private:
 
   BrowserWindows& m_windows;
   MessageEndpoint& m_endpoint;
-  Sleep m_sleep;
   /// The longest waiting first.
   QVector<Wait> m_waits;
   int m_swallowedAlerts = 0;

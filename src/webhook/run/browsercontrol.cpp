@@ -1,53 +1,21 @@
 #include "webhook/run/browsercontrol.h"
 
 #include "corvexhook/inspector.h"
-#include "shared/wait.h"
-#include "webhook/pages/searchexplanation.h"
-#include "wrappers/web/object/references.h"
-#include "wrappers/web/object/wraphtmlobject.h"
 #include "wrappers/web/page/escaping.h"
-#include "wrappers/web/readiness/readiness.h"
 
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QUrl>
 
 namespace Corvex::Webhook {
 
-namespace {
-
-// How soon a sleeping script learns that its browser is gone.
-const int sleepSliceMs = 100;
-
-}  // namespace
-
-BrowserControl::BrowserControl(const SessionOptions& options) : m_options(options) {
-  HostServices services;
-  services.isReady = [](const SharedPtr<Object>& object) {
-    return WebWrapper::isObjectReady(WebWrapper::retrieveObject(object));
-  };
-  services.sleep = [this](int milliseconds) { sleep(milliseconds); };
-  services.trouble = [this] { return trouble(); };
-  services.explain = [this](const QString& name) {
-    return trouble().isEmpty() ? explainFailedSearch(*m_windows->current(), name) : QString();
-  };
-  services.nameFault = [this](const QString& name) {
-    return trouble().isEmpty() ? faultOfName(*m_windows->current(), name) : QString();
-  };
-  services.findAll = [this](const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) {
-    return m_model.findAll(roots, name);
-  };
-  services.objectTrouble = [](const SharedPtr<Object>& object) {
-    const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(object);
-    return native && !native->hasValidReference() ? WebWrapper::deadObjectReferenceError() : QString();
-  };
-  Inspector::self()->setHostServices(services);
+BrowserControl::BrowserControl(const SessionOptions& options) : m_options(options), m_services(*this, m_model) {
+  Inspector::self()->setHostServices(&m_services);
 }
 
 BrowserControl::~BrowserControl() {
   closeBrowser();
-  Inspector::self()->setHostServices(HostServices());
+  Inspector::self()->setHostServices(nullptr);
 }
 
 QString BrowserControl::startBrowser(const QString& address) {
@@ -66,7 +34,7 @@ QString BrowserControl::openSession() {
   if (!start.error.isEmpty()) {
     return start.error;
   }
-  m_session = std::move(start.session);
+  m_session = std::move(start.value);
   m_endpoint = std::make_unique<MessageEndpoint>();
   QString error;
   if (!m_endpoint->start(&error)) {
@@ -75,7 +43,7 @@ QString BrowserControl::openSession() {
   // A page on another machine cannot reach this one's loopback interface.
   const int port = m_options.remoteUrl.isEmpty() ? m_endpoint->port() : 0;
   m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, port);
-  m_dialogs = std::make_unique<Dialogs>(*m_windows, *m_endpoint, [this](int milliseconds) { sleep(milliseconds); });
+  m_dialogs = std::make_unique<Dialogs>(*m_windows, *m_endpoint);
   m_dispatcher = std::make_unique<MessageDispatcher>(*m_endpoint, *m_windows, *m_dialogs);
   QObject::connect(m_session.get(), &BrowserSession::lost, m_windows.get(), [this](const QString& reason) {
     m_lossReason = reason;
@@ -85,7 +53,7 @@ QString BrowserControl::openSession() {
 }
 
 QString BrowserControl::closeWindow() {
-  const QString error = windowTrouble();
+  const QString error = whyNoWindow();
   return error.isEmpty() ? m_windows->current()->close() : error;
 }
 
@@ -99,9 +67,13 @@ void BrowserControl::closeBrowser() {
   m_lossReason.clear();
 }
 
-QString BrowserControl::windowTrouble() const {
+QString BrowserControl::whyLost() const {
+  return m_lossReason.isEmpty() ? QString() : QStringLiteral("The browser was lost: %1").arg(m_lossReason);
+}
+
+QString BrowserControl::whyNoWindow() const {
   if (!m_lossReason.isEmpty()) {
-    return QStringLiteral("The browser was lost: %1").arg(m_lossReason);
+    return whyLost();
   }
   if (!m_windows) {
     return QStringLiteral("No browser is running. Call startBrowser(url) first.");
@@ -110,9 +82,9 @@ QString BrowserControl::windowTrouble() const {
                               : QStringLiteral("The browser window is closed. Call startBrowser(url) to open another.");
 }
 
-QString BrowserControl::trouble() const {
-  const QString error = windowTrouble();
-  return error.isEmpty() ? m_dialogs->obstacle() : error;
+QString BrowserControl::whyNotAskPage() const {
+  const QString why = whyNoWindow();
+  return why.isEmpty() ? m_dialogs->whyNotAskPage() : why;
 }
 
 void BrowserControl::scriptStarted(const QString& path) { m_scriptFolder = QFileInfo(path).absolutePath(); }
@@ -131,19 +103,6 @@ QString BrowserControl::resolveAddress(const QString& address) const {
   static const QRegularExpression scheme(QStringLiteral("^([a-z][a-z0-9+.-]*://|about:|data:)"),
                                          QRegularExpression::CaseInsensitiveOption);
   return scheme.match(address).hasMatch() ? address : WebWrapper::addSchemeIfMissing(address);
-}
-
-void BrowserControl::sleep(int milliseconds) {
-  QElapsedTimer timer;
-  timer.start();
-  int left = milliseconds;
-  while (left > 0 && m_lossReason.isEmpty()) {
-    gentleSleep(qMin(left, sleepSliceMs));
-    left = milliseconds - static_cast<int>(timer.elapsed());
-  }
-  if (!m_lossReason.isEmpty()) {
-    Inspector::self()->reportScriptError(windowTrouble());
-  }
 }
 
 }  // namespace Corvex::Webhook

@@ -7,6 +7,7 @@
 #include "webhook/pages/dialogs.h"
 #include "webhook/pages/messagedispatcher.h"
 #include "webhook/pages/webmodel.h"
+#include "webhook/run/browserservices.h"
 #include "wrappers/web/setup/wrapperconfig.h"
 
 #include <QString>
@@ -31,17 +32,15 @@ public:
   BrowserWindows* windows() const { return m_windows.get(); }
   Dialogs* dialogs() const { return m_dialogs.get(); }
 
-  /// Why no window can be used now; empty when all is well.
-  QString windowTrouble() const;
-  /// The same, and why the current window cannot be asked anything.
-  QString trouble() const;
+  // Sentences that are empty when all is well.
+  QString whyLost() const;
+  QString whyNoWindow() const;
+  QString whyNotAskPage() const;
   /// Whether, at any time, a browser could not be started or was lost.
   bool hadBrowserFailure() const { return m_browserFailure; }
 
   /// A path as the running script means it: relative to its own folder.
   QString resolvePath(const QString& path) const;
-  /// Sleeps that long, or less when the browser is lost, which is then the error of the script.
-  void sleep(int milliseconds);
 
   void scriptStarted(const QString& path) override;
   void scriptFinished(const Scripting::ScriptResult& result) override;
@@ -53,6 +52,7 @@ private:
   SessionOptions m_options;
   WebWrapper::FileSystemBasedConfig m_config;
   WebModel m_model;
+  BrowserServices m_services;
   std::unique_ptr<BrowserSession> m_session;
   std::unique_ptr<MessageEndpoint> m_endpoint;
   std::unique_ptr<BrowserWindows> m_windows;

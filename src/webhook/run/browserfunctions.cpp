@@ -2,10 +2,9 @@
 
 #include "corvexhook/arrayclass.h"
 #include "corvexhook/inspector.h"
+#include "shared/wait.h"
 #include "webhook/pages/contexts.h"
 #include "webhook/run/browsercontrol.h"
-
-#include <QElapsedTimer>
 
 namespace Corvex::Webhook {
 
@@ -13,7 +12,7 @@ namespace {
 
 using ScriptValue = FunctionCallResult<SharedPtr<Object>>;
 
-const int attemptIntervalMs = 50;
+const int attemptIntervalMs = 20;
 
 ScriptValue nothing(const QString& error) { return {nullptr, error}; }
 
@@ -37,31 +36,29 @@ int timeoutOf(const ObjectList& arguments, int index) {
 }
 
 /// A window with an open dialog has no contexts, so the dialog belongs to the explanation.
-QString withTrouble(const BrowserControl& control, const QString& error) {
-  const QString trouble = error.isEmpty() ? QString() : control.trouble();
-  return trouble.isEmpty() ? error : error + QLatin1Char(' ') + trouble;
+QString withWhyNotAsk(const BrowserControl& control, const QString& error) {
+  const QString why = error.isEmpty() ? QString() : control.whyNotAskPage();
+  return why.isEmpty() ? error : error + QLatin1Char(' ') + why;
 }
 
 ScriptValue waitForContext(BrowserControl& control, const QString& name, int timeoutMs) {
-  QElapsedTimer timer;
-  timer.start();
-  for (;;) {
-    const QString error = control.windowTrouble();
-    if (!error.isEmpty()) {
-      return nothing(error);
-    }
-    if (hasContext(*control.windows(), name)) {
-      return truth(true);
-    }
-    if (timer.elapsed() >= timeoutMs) {
-      return nothing(
-          withTrouble(control, QStringLiteral("The context '%1' did not exist within %2 ms. There are: '%3'.")
-                                   .arg(name)
-                                   .arg(timeoutMs)
-                                   .arg(contextNames(*control.windows()).join(QLatin1String("', '")))));
-    }
-    control.sleep(attemptIntervalMs);
+  bool isThere = false;
+  poll(timeoutMs, attemptIntervalMs, [&] {
+    isThere = control.whyNoWindow().isEmpty() && hasContext(*control.windows(), name);
+    return isThere || !control.whyNoWindow().isEmpty() || !Inspector::self()->whyNotGoOn().isEmpty();
+  });
+  if (isThere) {
+    return truth(true);
   }
+  const QString end = Inspector::self()->whyNotGoOn();
+  const QString error = end.isEmpty() ? control.whyNoWindow() : end;
+  return nothing(error.isEmpty()
+                     ? withWhyNotAsk(control, QStringLiteral("The context '%1' did not exist within %2 ms. There are: "
+                                                             "'%3'.")
+                                                  .arg(name)
+                                                  .arg(timeoutMs)
+                                                  .arg(contextNames(*control.windows()).join(QLatin1String("', '"))))
+                     : error);
 }
 
 ScriptValue lastText(BrowserControl& control, const char* kind) {
@@ -94,7 +91,7 @@ const Row rows[] = {
      [](BrowserControl& c, const ObjectList& a) { return truth(hasContext(*c.windows(), a[0]->toString())); }},
     {"setContext", "setContext(name)", 1, 1, true,
      [](BrowserControl& c, const ObjectList& a) {
-       return nothing(withTrouble(c, selectContext(*c.windows(), a[0]->toString())));
+       return nothing(withWhyNotAsk(c, selectContext(*c.windows(), a[0]->toString())));
      }},
     {"waitForContextExists", "waitForContextExists(name[, ms])", 1, 2, true,
      [](BrowserControl& c, const ObjectList& a) { return waitForContext(c, a[0]->toString(), timeoutOf(a, 1)); }},
@@ -123,13 +120,13 @@ const Row rows[] = {
 };
 
 ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& arguments) {
-  const QString before = row.needsWindow ? control.windowTrouble() : QString();
+  const QString before = row.needsWindow ? control.whyNoWindow() : QString();
   if (!before.isEmpty()) {
     return nothing(before);
   }
   const ScriptValue result = row.call(control, arguments);
   // A browser or window that went meanwhile says more than what then failed.
-  const QString after = row.needsWindow && result.failed() ? control.windowTrouble() : QString();
+  const QString after = row.needsWindow && result.failed() ? control.whyNoWindow() : QString();
   return after.isEmpty() ? result : nothing(after);
 }
 

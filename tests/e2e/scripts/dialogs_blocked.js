@@ -3,5 +3,5 @@
 // The sentence ends the script that asks nothing about the dialog; the dialog keeps nothing from ending.
 startBrowser(SITE + "/dialogs.html");
 clickButton(element("BUTTON", "confirm"));
-snooze(0.5);
+pause(0.5);
 findObject(element("P", "answer"));

@@ -1,8 +1,8 @@
 // The dialogs of a frame.
 startBrowser(SITE + "/dialogframe.html");
-waitUntil(function () { return object.exists(element("BUTTON", "two")); }, "the frame is there");
+waitUntil(function () { return exists(element("BUTTON", "two")); }, "the frame is there");
 // Frames are found and hooked once in a second.
-snooze(1.5);
+pause(1.5);
 clickButton(element("BUTTON", "confirm"));
 closeConfirm(true);
 waitForText("P", "answer", "true");

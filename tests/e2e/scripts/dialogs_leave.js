@@ -11,4 +11,4 @@ waitForContextExists("next.html");
 test.compare(where(), "next");
 findObject("{tagName='BODY'}").invoke("back");
 waitForContextExists("leaving.html");
-test.verify(object.exists("{tagName='INPUT' name='field'}"), "back again");
+test.verify(exists("{tagName='INPUT' name='field'}"), "back again");

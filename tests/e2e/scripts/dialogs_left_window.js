@@ -5,6 +5,6 @@ waitForContextExists("popup.html");
 setContext("popup.html");
 waitForObject(element("BUTTON", "alert"));
 clickButton(element("BUTTON", "alert"));
-failureOf(function () { snooze(0.5); });
+failureOf(function () { pause(0.5); });
 closeWindow();
 test.compare(windows().join(" "), "windows.html");

@@ -5,7 +5,7 @@ var found = 0;
 for (var i = 0; i < 200; ++i) {
   var sentence = failureOf(function () {
     findObject("{tagName='BODY'}").invoke("reload");
-    found += object.exists(element("P", "where")) ? 1 : 0;
+    found += exists(element("P", "where")) ? 1 : 0;
   });
   if (sentence) {
     sentences[sentence] = (sentences[sentence] || 0) + 1;

@@ -8,7 +8,7 @@ waitForText("P", "state", "given up, tried, tried");
 var start = Date.now();
 for (var i = 0; i < 20; ++i) {
   setContext("stranger.html");
-  object.exists("{tagName='P' id='where' innerText='own'}");
+  exists("{tagName='P' id='where' innerText='own'}");
   verifyFails(function () { findObject("{tagName='P' id='where' innerText='stranger'}"); }, "not found");
 }
 // 250 ms for each of its retries, if a lookup waited for them.

@@ -34,7 +34,7 @@ function texts(objects) {
 test.compare(texts(findAllObjects("{tagName='A' img_alt='pic'}")), "by-first by-second lone", "each link once");
 for (var i = 1; i <= 3; ++i) {
   var ith = findObject("{tagName='P' className='row' occurrence='" + i + "'}");
-  test.verify(object.same(ith, findAllObjects("{tagName='P' className='row'}")[i - 1]), "in the order of occurrences");
+  test.verify(sameObject(ith, findAllObjects("{tagName='P' className='row'}")[i - 1]), "in the order of occurrences");
 }
 
 setContext("lookup.html.FRAME1");

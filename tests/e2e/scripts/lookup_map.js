@@ -15,7 +15,7 @@ test.compare(findAllObjects(":Rows").length, 2);
 typeText(":Inner", "deep");
 test.compare(findObject("{tagName='INPUT' context='lookup.html.FRAME2.FRAME1'}").value, "deep");
 test.compare(findObject(":Page").tagName, "BODY");
-test.compare(object.children(":Box").length, 2);
+test.compare(children(":Box").length, 2);
 verifyFails(function () { findObject(":Gone"); }, "Object ':Gone' not found. Its container ':Lost' is not in the object map.");
 verifyFails(function () { findObject(":Loop"); }, "its containers go round in a circle. Correct the object map.");
 verifyFails(function () { findAllObjects(":Loop"); }, "its containers go round in a circle. Correct the object map.");

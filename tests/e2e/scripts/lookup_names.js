@@ -18,7 +18,7 @@ var faulty = {
 };
 var start = Date.now();
 for (var name in faulty) {
-  [findObject, waitForObject, object.exists, findAllObjects].forEach(function (look) {
+  [findObject, waitForObject, exists, findAllObjects].forEach(function (look) {
     verifyFails(function () { look(name); }, faulty[name]);
   });
 }
@@ -49,6 +49,6 @@ var missing = {
 for (name in missing) {
   verifyFails(function () { findObject(name); }, "Object '" + name + "' not found. ");
   verifyFails(function () { waitForObject(name, 100); }, missing[name]);
-  test.compare(object.exists(name), false, name);
+  test.compare(exists(name), false, name);
   test.compare(findAllObjects(name).length, 0, name);
 }

@@ -18,7 +18,7 @@ waitForContextExists("plain.html");
 waitForText("P", "where", "plain at 127.0.0.1");
 
 mouseClick(element("A", "moved"));
-snooze(0.3);
+pause(0.3);
 waitForText("P", "where", "plain at 127.0.0.1");
 mouseClick(element("A", "elsewhere"));
 waitForText("P", "where", "plain at localhost");

@@ -18,7 +18,7 @@ findObject("{tagName='BUTTON' id='closeMe'}");
 test.compare(where(), "open", "a lookup goes on in the windows");
 setContext("windows.html");
 clickButton(element("BUTTON", "blank"));
-snooze(0.2);
+pause(0.2);
 test.compare(windows().join(" "), "windows.html popup.html", "an empty window has no name yet");
 
 clickButton(element("BUTTON", "closeMe"));

@@ -20,8 +20,8 @@ public:
     testing::AddGlobalTestEnvironment(new Closing);
     server = std::make_unique<TestSupport::TestServer>();
     Corvex::Webhook::BrowserSession::Start start = Corvex::Webhook::BrowserSession::start(TestSupport::testBrowser());
-    ASSERT_TRUE(start.session) << start.error.toStdString();
-    session = std::move(start.session);
+    ASSERT_TRUE(start.value) << start.error.toStdString();
+    session = std::move(start.value);
   }
 
 protected:

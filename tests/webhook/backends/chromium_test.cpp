@@ -5,6 +5,7 @@
 #include "support/environment.h"
 #include "support/printing.h"
 
+using namespace Corvex;
 using namespace Corvex::Webhook;
 using TestSupport::ScopedVariable;
 
@@ -15,7 +16,7 @@ TEST(Chromium, SaysWhatToDoWhenThereIsNone) {
       Chromium::find({}).error,
       QStringLiteral("There is no Chromium on this machine. Install it (on Debian: apt-get install chromium), or set "
                      "CORVEX_CHROMIUM to the path of a browser built on Chromium."));
-  EXPECT_TRUE(Chromium::find(QStringLiteral("chromium")).path.isEmpty());
+  EXPECT_TRUE(Chromium::find(QStringLiteral("chromium")).value.isEmpty());
   EXPECT_TRUE(Chromium::find(QStringLiteral("/etc/passwd")).error.contains(QStringLiteral("'/etc/passwd'")));
   const ScopedVariable wrong("CORVEX_CHROMIUM", "/etc/passwd");
   EXPECT_TRUE(Chromium::find({}).error.startsWith(QStringLiteral("CORVEX_CHROMIUM is set to '/etc/passwd'")));
@@ -23,14 +24,14 @@ TEST(Chromium, SaysWhatToDoWhenThereIsNone) {
 
 TEST(Chromium, TakesTheProgramThatIsNamed) {
   const ScopedVariable variable("CORVEX_CHROMIUM", "/bin/sh");
-  EXPECT_EQ(Chromium::find({}).path, QStringLiteral("/bin/sh"));
-  EXPECT_EQ(Chromium::find(QStringLiteral("/bin/cat")).path, QStringLiteral("/bin/cat"));
+  EXPECT_EQ(Chromium::find({}).value, QStringLiteral("/bin/sh"));
+  EXPECT_EQ(Chromium::find(QStringLiteral("/bin/cat")).value, QStringLiteral("/bin/cat"));
 }
 
 TEST(Chromium, ABrowserThatEndsAtOnceGivesItsLastWords) {
   const ScopedVariable variable("CORVEX_CHROMIUM", "/bin/ls");
   const BrowserSession::Start start = BrowserSession::start({});
-  EXPECT_FALSE(start.session);
+  EXPECT_FALSE(start.value);
   EXPECT_TRUE(
       start.error.startsWith(QStringLiteral("The browser ended before it was ready. Its last words: /bin/ls: ")))
       << start.error.toStdString();
@@ -40,6 +41,6 @@ TEST(Chromium, ABrowserThatCannotBeReachedIsNamed) {
   SessionOptions options;
   options.attachTo = QStringLiteral("ws://127.0.0.1:1/devtools");
   const BrowserSession::Start start = BrowserSession::start(options);
-  EXPECT_FALSE(start.session);
+  EXPECT_FALSE(start.value);
   EXPECT_TRUE(start.error.startsWith(QStringLiteral("The browser at 'ws://127.0.0.1:1/devtools' cannot be reached: ")));
 }

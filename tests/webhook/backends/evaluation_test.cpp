@@ -5,6 +5,7 @@
 
 #include "webhook/backends/browserfixture.h"
 
+using namespace Corvex;
 using namespace Corvex::Webhook;
 
 namespace {
@@ -47,9 +48,9 @@ TEST_F(EvaluationTest, GivesTheCompletionValueAsText) {
       {"(function() { return this === window; }())", "true"},
   };
   for (const Row& row : rows) {
-    const Evaluation evaluation = page->evaluate(q(row.code));
+    const JavaScriptAnswer evaluation = page->evaluate(q(row.code));
     EXPECT_EQ(evaluation.text, q(row.text)) << row.code;
-    EXPECT_TRUE(evaluation.isOk()) << row.code;
+    EXPECT_TRUE(evaluation.succeeded()) << row.code;
   }
 }
 
@@ -78,7 +79,7 @@ TEST_F(EvaluationTest, AnExceptionFailsWithItsText) {
        "TypeError: can't convert this to string"},
   };
   for (const Row& row : rows) {
-    const Evaluation evaluation = page->evaluate(q(row.code));
+    const JavaScriptAnswer evaluation = page->evaluate(q(row.code));
     EXPECT_EQ(evaluation.text, TestSupport::inBrowser(row.text, row.inFirefox)) << row.code;
     EXPECT_TRUE(evaluation.failed) << row.code;
     EXPECT_FALSE(evaluation.aborted) << row.code;
@@ -94,7 +95,7 @@ TEST_F(EvaluationTest, CodeWithoutEndIsAbortedAndEnded) {
   if (TestSupport::isFirefox()) {
     GTEST_SKIP() << "Firefox offers no way to end a script that runs.";
   }
-  const Evaluation endless = page->evaluate(q("for (;;) {}"), 100);
+  const JavaScriptAnswer endless = page->evaluate(q("for (;;) {}"), 100);
   EXPECT_TRUE(endless.aborted);
   EXPECT_EQ(endless.text,
             q("The page did not answer within 100 ms. A script may keep it busy; allow more time or load it "
@@ -103,7 +104,7 @@ TEST_F(EvaluationTest, CodeWithoutEndIsAbortedAndEnded) {
 }
 
 TEST_F(EvaluationTest, APageThatCannotBeStoppedCanBeClosedAndHoldsNoOther) {
-  BrowserPage* const other = session->newPage().page;
+  BrowserPage* const other = session->newPage().value;
   ASSERT_TRUE(other);
   ASSERT_EQ(other->navigate(server->url(q("/page.html"), q("localhost"))), QString());
   other->evaluate(q("setTimeout(function() { for (;;) {} }, 0); 1"));
@@ -116,7 +117,7 @@ TEST_F(EvaluationTest, APageThatCannotBeStoppedCanBeClosedAndHoldsNoOther) {
 TEST_F(EvaluationTest, ALateAnswerReachesNoLaterCall) {
   session->setDefaultTimeout(100);
   text("setTimeout(function() { for (var end = Date.now() + 400; Date.now() < end;) {} }, 0); 1");
-  const Evaluation late = page->evaluate(q("new Promise(function(resolve) {}); 'late'"));
+  const JavaScriptAnswer late = page->evaluate(q("new Promise(function(resolve) {}); 'late'"));
   session->setDefaultTimeout(20000);
   EXPECT_TRUE(late.aborted || late.text == q("late"));
   EXPECT_EQ(text("'mine'"), q("mine"));
@@ -127,14 +128,14 @@ TEST_F(EvaluationTest, APageStuckInItsOwnLoopAbortsAndCanBeLeft) {
     GTEST_SKIP() << "Firefox does not load another document while a script of the old one runs.";
   }
   text("setTimeout(function() { for (;;) {} }, 0); 1");
-  const Evaluation stuck = page->evaluate(q("new Date"), 200);
+  const JavaScriptAnswer stuck = page->evaluate(q("new Date"), 200);
   EXPECT_TRUE(stuck.aborted);
   EXPECT_TRUE(stuck.text.startsWith(q("The page did not answer within 200 ms."))) << stuck.text.toStdString();
 
-  const BrowserSession::NewPage other = session->newPage();
-  ASSERT_TRUE(other.page) << other.error.toStdString();
-  EXPECT_EQ(other.page->evaluate(q("'other'")).text, q("other"));
-  EXPECT_EQ(other.page->close(), QString());
+  const FunctionCallResult<BrowserPage*> other = session->newPage();
+  ASSERT_TRUE(other.value) << other.error.toStdString();
+  EXPECT_EQ(other.value->evaluate(q("'other'")).text, q("other"));
+  EXPECT_EQ(other.value->close(), QString());
   EXPECT_EQ(page->navigate(server->url(q("/page.html"), q("localhost"))), QString());
   EXPECT_EQ(text("'alive'"), q("alive"));
 }
@@ -142,7 +143,8 @@ TEST_F(EvaluationTest, APageStuckInItsOwnLoopAbortsAndCanBeLeft) {
 TEST_F(EvaluationTest, ANestedCallFromWithinTheWaitGetsItsOwnAnswer) {
   QString inner;
   QTimer::singleShot(0, [&] { inner = page->evaluate(q("'inner'")).text; });
-  const Evaluation outer = page->evaluate(q("for (var end = Date.now() + 50; Date.now() < end;) {} ({}) + 'outer'"));
+  const JavaScriptAnswer outer =
+      page->evaluate(q("for (var end = Date.now() + 50; Date.now() < end;) {} ({}) + 'outer'"));
   EXPECT_EQ(outer.text, q("[object Object]outer"));
   EXPECT_EQ(inner, q("inner"));
 }
@@ -150,7 +152,7 @@ TEST_F(EvaluationTest, ANestedCallFromWithinTheWaitGetsItsOwnAnswer) {
 TEST_F(EvaluationTest, NestedCallsKeepTheirObjectsApart) {
   QString inner;
   QTimer::singleShot(0, [&] { inner = page->evaluate(q("['inner']")).text; });
-  const Evaluation outer = page->evaluate(q("for (var end = Date.now() + 50; Date.now() < end;) {} ['outer']"));
+  const JavaScriptAnswer outer = page->evaluate(q("for (var end = Date.now() + 50; Date.now() < end;) {} ['outer']"));
   EXPECT_EQ(outer.text, q("outer"));
   EXPECT_EQ(inner, q("inner"));
 }
@@ -160,7 +162,7 @@ TEST_F(EvaluationTest, ANewDocumentEndsTheCall) {
   QString loadError = q("not called");
   text("setTimeout(function() { for (var end = Date.now() + 300; Date.now() < end;) {} }, 0); 1");
   QTimer::singleShot(0, [&] { loadError = page->navigate(server->url(q("/other.html"), q("localhost"))); });
-  const Evaluation evaluation =
+  const JavaScriptAnswer evaluation =
       page->evaluate(q("for (var end = Date.now() + 300; Date.now() < end;) {} document.title"));
   EXPECT_EQ(loadError, QString());
   EXPECT_TRUE(evaluation.text == q("Empty") || evaluation.text == q("Other") ||
@@ -170,11 +172,11 @@ TEST_F(EvaluationTest, ANewDocumentEndsTheCall) {
 }
 
 TEST_F(EvaluationTest, AClosedPageEndsTheCallAndAllLaterOnes) {
-  BrowserPage* const other = session->newPage().page;
+  BrowserPage* const other = session->newPage().value;
   ASSERT_TRUE(other);
   other->evaluate(q("setTimeout(function() { for (;;) {} }, 0); 1"));
   QTimer::singleShot(0, [&] { other->close(); });
-  const Evaluation evaluation = other->evaluate(q("document.title"));
+  const JavaScriptAnswer evaluation = other->evaluate(q("document.title"));
   EXPECT_TRUE(evaluation.aborted);
   EXPECT_EQ(evaluation.text, q("The page was closed in the browser. Open it again."));
   EXPECT_FALSE(other->isOpen());
@@ -186,11 +188,11 @@ TEST_F(EvaluationTest, ACrashedPageEndsTheCallAndCanBeLoadedAgain) {
   if (TestSupport::isFirefox()) {
     GTEST_SKIP() << "Firefox does not tell that a page crashed.";
   }
-  BrowserPage* const other = session->newPage().page;
+  BrowserPage* const other = session->newPage().value;
   ASSERT_TRUE(other);
   ASSERT_EQ(other->navigate(server->url(q("/page.html"), q("localhost"))), QString());
   EXPECT_NE(other->navigate(q("chrome://crash")), QString());
-  const Evaluation evaluation = other->evaluate(q("1"));
+  const JavaScriptAnswer evaluation = other->evaluate(q("1"));
   EXPECT_TRUE(evaluation.aborted);
   EXPECT_EQ(evaluation.text, q("The page crashed in the browser. Load it again."));
   EXPECT_FALSE(other->isAvailable());
@@ -201,7 +203,7 @@ TEST_F(EvaluationTest, ACrashedPageEndsTheCallAndCanBeLoadedAgain) {
 }
 
 TEST_F(EvaluationTest, ADialogEndsTheCallWithItsText) {
-  const Evaluation evaluation = page->evaluate(q("window.answer = prompt('Your name?', 'nobody')"));
+  const JavaScriptAnswer evaluation = page->evaluate(q("window.answer = prompt('Your name?', 'nobody')"));
   EXPECT_TRUE(evaluation.aborted);
   EXPECT_EQ(evaluation.text,
             q("The page shows a dialog (prompt) with the text 'Your name?' and does not answer before the "
@@ -234,27 +236,27 @@ TEST_F(EvaluationTest, AKilledBrowserEndsTheCallAndLeavesNothing) {
     GTEST_SKIP() << "The browser is not this machine's to kill.";
   }
   BrowserSession::Start start = startAnother();
-  ASSERT_TRUE(start.session) << start.error.toStdString();
-  const QString directory = start.session->browserDirectory();
-  const pid_t process = pid_t(start.session->browserProcess());
+  ASSERT_TRUE(start.value) << start.error.toStdString();
+  const QString directory = start.value->browserDirectory();
+  const pid_t process = pid_t(start.value->browserProcess());
   QString reason;
-  QObject::connect(start.session.get(), &BrowserSession::lost, [&](const QString& why) { reason = why; });
+  QObject::connect(start.value.get(), &BrowserSession::lost, [&](const QString& why) { reason = why; });
   QElapsedTimer elapsed;
   QTimer::singleShot(0, [&] {
     elapsed.start();
     kill(process, SIGKILL);
   });
 
-  const Evaluation evaluation = start.session->firstPage()->evaluate(q("for (;;) {}"));
+  const JavaScriptAnswer evaluation = start.value->firstPage()->evaluate(q("for (;;) {}"));
   EXPECT_LT(elapsed.elapsed(), 2000);
   EXPECT_TRUE(evaluation.aborted);
   EXPECT_TRUE(evaluation.text.startsWith(q("The browser was lost: "))) << evaluation.text.toStdString();
   EXPECT_FALSE(reason.isEmpty());
-  EXPECT_TRUE(start.session->isLost());
-  EXPECT_TRUE(start.session->pages().isEmpty());
+  EXPECT_TRUE(start.value->isLost());
+  EXPECT_TRUE(start.value->pages().isEmpty());
   EXPECT_NE(kill(-process, 0), 0);
   EXPECT_FALSE(QFileInfo::exists(directory));
-  EXPECT_TRUE(start.session->firstPage()->navigate(q("about:blank")).startsWith(q("The browser was lost: ")));
+  EXPECT_TRUE(start.value->firstPage()->navigate(q("about:blank")).startsWith(q("The browser was lost: ")));
 }
 
 TEST_F(EvaluationTest, ALostSessionMayBeDeletedAtOnce) {
@@ -262,21 +264,21 @@ TEST_F(EvaluationTest, ALostSessionMayBeDeletedAtOnce) {
     GTEST_SKIP() << "The browser is not this machine's to kill.";
   }
   BrowserSession::Start start = startAnother();
-  ASSERT_TRUE(start.session) << start.error.toStdString();
+  ASSERT_TRUE(start.value) << start.error.toStdString();
   server->add(q("/silent"), {{}, {}, {}, 200, true});
-  BrowserPage* const itsPage = start.session->firstPage();
-  QObject::connect(start.session.get(), &BrowserSession::lost, [&] { start.session.reset(); });
-  QTimer::singleShot(0, [&] { kill(pid_t(start.session->browserProcess()), SIGKILL); });
+  BrowserPage* const itsPage = start.value->firstPage();
+  QObject::connect(start.value.get(), &BrowserSession::lost, [&] { start.value.reset(); });
+  QTimer::singleShot(0, [&] { kill(pid_t(start.value->browserProcess()), SIGKILL); });
   EXPECT_TRUE(itsPage->navigate(server->url(q("/silent"))).startsWith(q("The browser was lost: ")));
-  EXPECT_FALSE(start.session);
+  EXPECT_FALSE(start.value);
 }
 
 TEST_F(EvaluationTest, ASessionDeletedDuringACallEndsIt) {
   BrowserSession::Start start = startAnother();
-  ASSERT_TRUE(start.session) << start.error.toStdString();
-  const QString directory = start.session->browserDirectory();
-  BrowserPage* const itsPage = start.session->firstPage();
-  QTimer::singleShot(0, [&] { start.session.reset(); });
+  ASSERT_TRUE(start.value) << start.error.toStdString();
+  const QString directory = start.value->browserDirectory();
+  BrowserPage* const itsPage = start.value->firstPage();
+  QTimer::singleShot(0, [&] { start.value.reset(); });
   EXPECT_TRUE(itsPage->evaluate(q("for (;;) {}")).aborted);
   EXPECT_TRUE(directory.isEmpty() || !QFileInfo::exists(directory));
 }

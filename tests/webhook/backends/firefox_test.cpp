@@ -5,6 +5,7 @@
 #include "support/environment.h"
 #include "support/printing.h"
 
+using namespace Corvex;
 using namespace Corvex::Webhook;
 using TestSupport::ScopedVariable;
 
@@ -39,7 +40,7 @@ TEST(Firefox, ABrowserThatEndsAtOnceGivesItsLastWords) {
   SessionOptions options;
   options.browser = q("firefox");
   const BrowserSession::Start start = BrowserSession::start(options);
-  EXPECT_FALSE(start.session);
+  EXPECT_FALSE(start.value);
   EXPECT_TRUE(start.error.startsWith(q("The browser ended before it was ready. Its last words: /bin/ls: ")))
       << start.error.toStdString();
 }

@@ -6,6 +6,7 @@
 #include "support/files.h"
 #include "webhook/backends/browserfixture.h"
 
+using namespace Corvex;
 using namespace Corvex::Webhook;
 
 namespace {
@@ -91,7 +92,7 @@ TEST_F(PageTest, AQuestionWhetherToLeaveDoesNotHoldANavigation) {
   EXPECT_EQ(load("<title>Left</title>"), QString());
   EXPECT_EQ(text("document.title"), q("Left"));
 
-  BrowserPage* const other = session->newPage().page;
+  BrowserPage* const other = session->newPage().value;
   ASSERT_TRUE(other);
   server->add(q("/asking.html"), {asking});
   ASSERT_EQ(other->navigate(server->url(q("/asking.html"))), QString());
@@ -106,7 +107,7 @@ TEST_F(PageTest, ADialogDuringLoadingEndsTheNavigation) {
 }
 
 TEST_F(PageTest, StartScriptsRunInOrderBeforeThePageAndInTheTopPageOnly) {
-  BrowserPage* const other = session->newPage().page;
+  BrowserPage* const other = session->newPage().value;
   ASSERT_TRUE(other);
   for (int i = 0; i < 11; ++i) {
     EXPECT_EQ(other->addStartScript(QStringLiteral("var order = (window.order || '') + '%1,';").arg(i)), QString());
@@ -128,17 +129,17 @@ TEST_F(PageTest, StartScriptsRunInOrderBeforeThePageAndInTheTopPageOnly) {
 
 TEST_F(PageTest, AStartScriptOfNewPagesRunsInTheFirstDocumentOfAPage) {
   BrowserSession::Start start = startAnother();
-  ASSERT_TRUE(start.session) << start.error.toStdString();
-  EXPECT_EQ(start.session->addStartScriptOfNewPages(q("var early = 1;")), QString());
+  ASSERT_TRUE(start.value) << start.error.toStdString();
+  EXPECT_EQ(start.value->addStartScriptOfNewPages(q("var early = 1;")), QString());
   server->add(q("/early.html"), {"<script>var seen = typeof early;</script>",
                                  "text/html",
                                  {{"Content-Security-Policy", "script-src 'unsafe-inline'"}}});
-  ASSERT_TRUE(comesAfter(start.session.get(), &BrowserSession::pageOpened, [&] {
-    BrowserPage* const first = start.session->firstPage();
+  ASSERT_TRUE(comesAfter(start.value.get(), &BrowserSession::pageOpened, [&] {
+    BrowserPage* const first = start.value->firstPage();
     ASSERT_EQ(first->navigate(server->url(q("/page.html"))), QString());
     EXPECT_EQ(first->evaluate(q("window.open('/early.html') !== null")).text, q("true"));
   }));
-  BrowserPage* const opened = start.session->pages().last();
+  BrowserPage* const opened = start.value->pages().last();
   if (opened->evaluate(q("window.seen === undefined")).text == q("true")) {
     comes(opened, &BrowserPage::navigated);
   }
@@ -148,16 +149,16 @@ TEST_F(PageTest, AStartScriptOfNewPagesRunsInTheFirstDocumentOfAPage) {
 TEST_F(PageTest, ScreenshotsShowThePage) {
   ASSERT_EQ(load("<body style='margin: 0; background: rgb(10, 200, 30)'><div style='height: 3000px'></div>"),
             QString());
-  const Screenshot view = page->screenshot(false);
+  const FunctionCallResult<QImage> view = page->screenshot(false);
   ASSERT_EQ(view.error, QString());
-  EXPECT_EQ(view.image.pixelColor(5, 5), QColor(10, 200, 30));
-  EXPECT_EQ(QString::number(view.image.width()),
+  EXPECT_EQ(view.value.pixelColor(5, 5), QColor(10, 200, 30));
+  EXPECT_EQ(QString::number(view.value.width()),
             text(TestSupport::isRemote() ? "document.body.clientWidth" : "innerWidth"));
-  EXPECT_EQ(QString::number(view.image.height()), text("innerHeight"));
-  const Screenshot whole = page->screenshot(true);
+  EXPECT_EQ(QString::number(view.value.height()), text("innerHeight"));
+  const FunctionCallResult<QImage> whole = page->screenshot(true);
   ASSERT_EQ(whole.error, QString());
-  EXPECT_EQ(whole.image.height(), 3000);
-  EXPECT_EQ(whole.image.pixelColor(5, 2990), QColor(10, 200, 30));
+  EXPECT_EQ(whole.value.height(), 3000);
+  EXPECT_EQ(whole.value.pixelColor(5, 2990), QColor(10, 200, 30));
   EXPECT_EQ(page->zoomFactor().value, 1.0);
 }
 
@@ -204,14 +205,14 @@ TEST_F(PageTest, ADialogOfAFrameIsThePagesDialog) {
 
 TEST_F(PageTest, TheLastPageCanBeClosedAndAnotherOneOpened) {
   BrowserSession::Start start = startAnother();
-  ASSERT_TRUE(start.session) << start.error.toStdString();
-  EXPECT_EQ(start.session->firstPage()->close(), QString());
-  EXPECT_FALSE(start.session->firstPage()->isOpen());
-  EXPECT_TRUE(start.session->pages().isEmpty());
-  BrowserPage* const next = start.session->newPage().page;
+  ASSERT_TRUE(start.value) << start.error.toStdString();
+  EXPECT_EQ(start.value->firstPage()->close(), QString());
+  EXPECT_FALSE(start.value->firstPage()->isOpen());
+  EXPECT_TRUE(start.value->pages().isEmpty());
+  BrowserPage* const next = start.value->newPage().value;
   ASSERT_TRUE(next);
   EXPECT_EQ(next->evaluate(q("1")).text, q("1"));
-  EXPECT_EQ(start.session->pages().size(), 1);
+  EXPECT_EQ(start.value->pages().size(), 1);
 }
 
 TEST_F(PageTest, PagesThatAPageOpensAreListedAndGo) {
@@ -240,13 +241,13 @@ TEST_F(PageTest, ClosingTheBrowserLeavesNothing) {
     GTEST_SKIP() << "The browser is another machine's.";
   }
   BrowserSession::Start start = startAnother();
-  ASSERT_TRUE(start.session) << start.error.toStdString();
-  const QString directory = start.session->browserDirectory();
-  const pid_t process = pid_t(start.session->browserProcess());
+  ASSERT_TRUE(start.value) << start.error.toStdString();
+  const QString directory = start.value->browserDirectory();
+  const pid_t process = pid_t(start.value->browserProcess());
   ASSERT_TRUE(QFileInfo::exists(directory));
   ASSERT_EQ(kill(-process, 0), 0);
-  start.session->close();
+  start.value->close();
   EXPECT_NE(kill(-process, 0), 0);
   EXPECT_FALSE(QFileInfo::exists(directory));
-  EXPECT_TRUE(start.session->firstPage()->evaluate(q("1")).aborted);
+  EXPECT_TRUE(start.value->firstPage()->evaluate(q("1")).aborted);
 }

@@ -10,6 +10,7 @@
 #include "support/testserver.h"
 #include "webhook/browser/browsersession.h"
 
+using namespace Corvex;
 using namespace Corvex::Webhook;
 
 namespace {
@@ -21,7 +22,7 @@ QString errorFrom(const QString& url, const QString& capabilities = {}) {
   options.remoteUrl = url;
   options.capabilities = capabilities;
   const BrowserSession::Start start = BrowserSession::start(options);
-  EXPECT_FALSE(start.session);
+  EXPECT_FALSE(start.value);
   return start.error;
 }
 

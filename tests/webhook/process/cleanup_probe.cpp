@@ -14,10 +14,10 @@ int main(int argc, char** argv) {
   const QString way = application.arguments().value(1);
   using Corvex::Webhook::BrowserSession;
   auto* const start = new BrowserSession::Start(BrowserSession::start(TestSupport::testBrowser()));
-  if (!start->session) {
+  if (!start->value) {
     return 3;
   }
-  std::printf("%lld %s\n", start->session->browserProcess(), start->session->browserDirectory().toUtf8().constData());
+  std::printf("%lld %s\n", start->value->browserProcess(), start->value->browserDirectory().toUtf8().constData());
   std::fflush(stdout);
   if (way == QLatin1String("exit")) {
     std::getchar();

@@ -25,7 +25,7 @@ private:
   const Bidi::Outcome m_outcome;
 };
 
-Evaluation abortedBy(const PageCall& call, const Reply& reply) { return {call.errorOf(reply), false, true}; }
+JavaScriptAnswer abortedBy(const PageCall& call, const Reply& reply) { return {call.errorOf(reply), false, true}; }
 
 bool isAboutTheElement(const QString& refusal) {
   for (const char* code : {"unable to set file input", "no such element", "no such node", "invalid argument"}) {
@@ -64,7 +64,7 @@ NamedElement nameElement(PageCall& call, const QString& page, const Held& elemen
 
 }  // namespace
 
-Evaluation evaluateInPage(PageCall& call, const Bidi::Place& place, const QString& code) {
+JavaScriptAnswer evaluateInPage(PageCall& call, const Bidi::Place& place, const QString& code) {
   const Reply reply = askToEvaluate(call, place, code);
   if (!reply.isAnswered()) {
     return abortedBy(call, reply);

@@ -8,7 +8,7 @@ namespace Corvex::Webhook {
 
 /// Evaluates `code` in a page within the call's time, in one request for a primitive or an exception and in two for an
 /// object. Takes the document that is there now if the certain one of the place is gone.
-Evaluation evaluateInPage(PageCall& call, const Bidi::Place& place, const QString& code);
+JavaScriptAnswer evaluateInPage(PageCall& call, const Bidi::Place& place, const QString& code);
 
 /// Puts files into the file input of the page, or of one of its frames, that the expression gives. Returns the error,
 /// or "".

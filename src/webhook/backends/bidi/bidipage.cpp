@@ -42,7 +42,7 @@ QString BidiPage::awaitPlace(PageCall& call) {
   return self ? whyUnavailable() : PageErrors::pageClosed();
 }
 
-Evaluation BidiPage::evaluate(const QString& code, int timeoutMs) {
+JavaScriptAnswer BidiPage::evaluate(const QString& code, int timeoutMs) {
   const QString obstacle = whyUnavailable();
   if (!obstacle.isEmpty()) {
     return {obstacle, false, true};
@@ -53,7 +53,7 @@ Evaluation BidiPage::evaluate(const QString& code, int timeoutMs) {
   if (!newObstacle.isEmpty()) {
     return {newObstacle, false, true};
   }
-  const Evaluation evaluation = evaluateInPage(call, place(), code);
+  const JavaScriptAnswer evaluation = evaluateInPage(call, place(), code);
   if (self && evaluation.aborted && isAvailable() && call.deadline().hasExpired()) {
     endRunningCode();
   }
@@ -111,7 +111,7 @@ QString BidiPage::addStartScript(const QString& text) {
   return call.errorOf(call.ask(Bidi::addStartScript(m_context, StartScript::forTopPage(text))));
 }
 
-Screenshot BidiPage::screenshot(bool wholePage) {
+FunctionCallResult<QImage> BidiPage::screenshot(bool wholePage) {
   const QString obstacle = whyUnavailable();
   if (!obstacle.isEmpty()) {
     return {{}, obstacle};
@@ -125,7 +125,7 @@ Screenshot BidiPage::screenshot(bool wholePage) {
   return {image, image.isNull() ? PageErrors::noScreenshot() : QString()};
 }
 
-ZoomFactor BidiPage::zoomFactor() {
+FunctionCallResult<double> BidiPage::zoomFactor() {
   const QString obstacle = whyUnavailable();
   if (!obstacle.isEmpty()) {
     return {1.0, obstacle};
@@ -138,10 +138,10 @@ ZoomFactor BidiPage::zoomFactor() {
     return {reply.isAnswered() ? DevTools::readZoom(Bidi::readThroughDevTools(reply.result)) : 1.0,
             call.errorOf(reply)};
   }
-  const Evaluation ratio = evaluateInPage(call, place(), QStringLiteral("window.devicePixelRatio"));
+  const JavaScriptAnswer ratio = evaluateInPage(call, place(), QStringLiteral("window.devicePixelRatio"));
   const double value = ratio.text.toDouble();
-  if (!self || !ratio.isOk() || value <= 0) {
-    return {1.0, ratio.isOk() ? PageErrors::pageReplaced() : ratio.text};
+  if (!self || !ratio.succeeded() || value <= 0) {
+    return {1.0, ratio.succeeded() ? PageErrors::pageReplaced() : ratio.text};
   }
   if (!m_plainPixelRatio) {
     m_plainPixelRatio = value;

@@ -19,12 +19,12 @@ public:
   BidiPage(Channel& channel, BidiSession& session, const Bidi::Context& context);
   ~BidiPage() override;
 
-  Evaluation evaluate(const QString& code, int timeoutMs) override;
+  JavaScriptAnswer evaluate(const QString& code, int timeoutMs) override;
   QString addStartScript(const QString& text) override;
-  Screenshot screenshot(bool wholePage) override;
+  FunctionCallResult<QImage> screenshot(bool wholePage) override;
 
   /// Where the browser does not tell its zoom: how many device pixels a CSS pixel has, compared with the first call.
-  ZoomFactor zoomFactor() override;
+  FunctionCallResult<double> zoomFactor() override;
 
   /// The paths of a visited browser are those of its own machine; they are not looked at before.
   QString setFiles(const QString& referenceExpression, const QStringList& paths) override;

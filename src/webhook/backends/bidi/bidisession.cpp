@@ -12,7 +12,7 @@ namespace {
 
 constexpr int endTimeoutMs = 2000;
 
-BrowserSession::Start failure(const QString& error) { return {nullptr, error}; }
+BrowserSession::Start failure(const QString& error) { return BrowserSession::Start::failure(error); }
 
 /// The browser's name as WebDriver servers know it.
 QString serversName(const QString& browser) {
@@ -133,7 +133,7 @@ QVector<BrowserPage*> BidiSession::pages() const {
   return open;
 }
 
-BrowserSession::NewPage BidiSession::newPage() {
+FunctionCallResult<BrowserPage*> BidiSession::newPage() {
   PageCall call(&m_channel, {}, defaultTimeout());
   const QPointer<BidiSession> self(this);
   const Reply reply = call.ask(Bidi::createPage());

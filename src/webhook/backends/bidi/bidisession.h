@@ -25,7 +25,7 @@ public:
 
   BrowserPage* firstPage() const override;
   QVector<BrowserPage*> pages() const override;
-  NewPage newPage() override;
+  FunctionCallResult<BrowserPage*> newPage() override;
 
   /// The script also runs in the next documents of pages that are open already.
   QString addStartScriptOfNewPages(const QString& text) override;

@@ -117,7 +117,7 @@ bool isMeant(const QString& browser) {
   return QFileInfo(browser).fileName().startsWith(QLatin1String("firefox"), Qt::CaseInsensitive);
 }
 
-BrowserProgram::Program find(const QString& wanted) { return BrowserProgram::find(family(), wanted); }
+FunctionCallResult<QString> find(const QString& wanted) { return BrowserProgram::find(family(), wanted); }
 
 QStringList arguments(const QString& directory, const SessionOptions& options) {
   QStringList list{QStringLiteral("--remote-debugging-port"), QStringLiteral("0"), QStringLiteral("--profile"),
@@ -130,9 +130,9 @@ QStringList arguments(const QString& directory, const SessionOptions& options) {
 
 Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline) {
   Instance instance;
-  const BrowserProgram::Program program = find(options.browser);
+  const FunctionCallResult<QString> program = find(options.browser);
   instance.error = program.error;
-  if (program.path.isEmpty()) {
+  if (program.failed()) {
     return instance;
   }
   instance.directory = std::make_unique<TemporaryDirectory>();
@@ -143,7 +143,7 @@ Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline) {
     return instance;
   }
   ChildCommand command;
-  command.program = program.path;
+  command.program = program.value;
   command.arguments = arguments(directory, options);
   command.environment = environment(directory);
   command.markName = BrowserProgram::markName();

@@ -18,7 +18,7 @@ bool isMeant(const QString& browser);
 
 /// `wanted` is a path or a program's name; "firefox" takes what CORVEX_FIREFOX names, or the first one that is
 /// installed.
-BrowserProgram::Program find(const QString& wanted);
+FunctionCallResult<QString> find(const QString& wanted);
 
 /// The command line for a profile in `directory`.
 QStringList arguments(const QString& directory, const SessionOptions& options);

@@ -63,7 +63,7 @@ QMap<QString, QString> environment(const QString& directory) {
 
 }  // namespace
 
-BrowserProgram::Program find(const QString& wanted) { return BrowserProgram::find(family(), wanted); }
+FunctionCallResult<QString> find(const QString& wanted) { return BrowserProgram::find(family(), wanted); }
 
 QStringList arguments(const QString& directory, const SessionOptions& options) {
   QStringList list;
@@ -82,9 +82,9 @@ QStringList arguments(const QString& directory, const SessionOptions& options) {
 
 Instance launch(const SessionOptions& options) {
   Instance instance;
-  const BrowserProgram::Program program = find(options.browser);
+  const FunctionCallResult<QString> program = find(options.browser);
   instance.error = program.error;
-  if (program.path.isEmpty()) {
+  if (program.failed()) {
     return instance;
   }
   instance.directory = std::make_unique<TemporaryDirectory>();
@@ -96,7 +96,7 @@ Instance launch(const SessionOptions& options) {
     return instance;
   }
   ChildCommand command;
-  command.program = program.path;
+  command.program = program.value;
   command.arguments = arguments(directory, options);
   command.environment = environment(directory);
   command.markName = BrowserProgram::markName();

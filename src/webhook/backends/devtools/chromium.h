@@ -14,7 +14,7 @@
 namespace Corvex::Webhook::Chromium {
 
 /// `wanted` is a path or a program's name; "" takes what CORVEX_CHROMIUM names, or the first one that is installed.
-BrowserProgram::Program find(const QString& wanted);
+FunctionCallResult<QString> find(const QString& wanted);
 
 /// The command line for a profile in `directory`.
 QStringList arguments(const QString& directory, const SessionOptions& options);

@@ -36,13 +36,13 @@ private:
   bool m_used = false;
 };
 
-Evaluation abortedBy(const PageCall& call, const Reply& reply) { return {call.errorOf(reply), false, true}; }
+JavaScriptAnswer abortedBy(const PageCall& call, const Reply& reply) { return {call.errorOf(reply), false, true}; }
 
 Command evaluation(const PageCall& call, const QString& code, const HandleGroup& group) {
   return DevTools::evaluate(code, group.name(), std::max(1, call.remainingMilliseconds()));
 }
 
-Evaluation textOfObject(PageCall& call, const DevTools::Outcome& object, HandleGroup& group) {
+JavaScriptAnswer textOfObject(PageCall& call, const DevTools::Outcome& object, HandleGroup& group) {
   const Reply reply = call.ask(DevTools::textOfObject(object.handle, group.name()));
   if (!reply.isAnswered()) {
     return abortedBy(call, reply);
@@ -58,7 +58,7 @@ Evaluation textOfObject(PageCall& call, const DevTools::Outcome& object, HandleG
 
 }  // namespace
 
-Evaluation evaluateCode(PageCall& call, const QString& code) {
+JavaScriptAnswer evaluateCode(PageCall& call, const QString& code) {
   HandleGroup group(call);
   const Reply reply = call.ask(evaluation(call, code, group));
   if (!reply.isAnswered()) {

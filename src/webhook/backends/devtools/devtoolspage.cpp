@@ -22,7 +22,7 @@ DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, cons
   start(DevTools::resumePage());
 }
 
-Evaluation DevToolsPage::evaluate(const QString& code, int timeoutMs) {
+JavaScriptAnswer DevToolsPage::evaluate(const QString& code, int timeoutMs) {
   const QString obstacle = whyUnavailable();
   if (!obstacle.isEmpty()) {
     return {obstacle, false, true};
@@ -60,7 +60,7 @@ QString DevToolsPage::addStartScript(const QString& text) {
   return call.errorOf(call.ask(DevTools::addStartScript(text)));
 }
 
-Screenshot DevToolsPage::screenshot(bool wholePage) {
+FunctionCallResult<QImage> DevToolsPage::screenshot(bool wholePage) {
   const QString obstacle = whyUnavailable();
   if (!obstacle.isEmpty()) {
     return {{}, obstacle};
@@ -82,7 +82,7 @@ Screenshot DevToolsPage::screenshot(bool wholePage) {
   return {image, image.isNull() ? PageErrors::noScreenshot() : QString()};
 }
 
-ZoomFactor DevToolsPage::zoomFactor() {
+FunctionCallResult<double> DevToolsPage::zoomFactor() {
   const QString obstacle = whyUnavailable();
   if (!obstacle.isEmpty()) {
     return {1.0, obstacle};

@@ -14,10 +14,10 @@ public:
   DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
                const QStringList& startScripts);
 
-  Evaluation evaluate(const QString& code, int timeoutMs) override;
+  JavaScriptAnswer evaluate(const QString& code, int timeoutMs) override;
   QString addStartScript(const QString& text) override;
-  Screenshot screenshot(bool wholePage) override;
-  ZoomFactor zoomFactor() override;
+  FunctionCallResult<QImage> screenshot(bool wholePage) override;
+  FunctionCallResult<double> zoomFactor() override;
   QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
 
   const QString& targetId() const { return m_target; }

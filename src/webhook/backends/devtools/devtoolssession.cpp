@@ -11,7 +11,7 @@ namespace {
 
 constexpr int closeTimeoutMs = 2000;
 
-BrowserSession::Start failure(const QString& error) { return {nullptr, error}; }
+BrowserSession::Start failure(const QString& error) { return BrowserSession::Start::failure(error); }
 
 }  // namespace
 
@@ -99,7 +99,7 @@ QVector<BrowserPage*> DevToolsSession::pages() const {
   return open;
 }
 
-BrowserSession::NewPage DevToolsSession::newPage() {
+FunctionCallResult<BrowserPage*> DevToolsSession::newPage() {
   PageCall call(&m_channel, {}, defaultTimeout());
   const QPointer<DevToolsSession> self(this);
   ++m_pagesToCome;

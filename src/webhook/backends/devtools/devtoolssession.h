@@ -22,7 +22,7 @@ public:
 
   BrowserPage* firstPage() const override;
   QVector<BrowserPage*> pages() const override;
-  NewPage newPage() override;
+  FunctionCallResult<BrowserPage*> newPage() override;
   QString addStartScriptOfNewPages(const QString& text) override;
   void close() override;
   bool isLost() const override { return m_ended; }

@@ -1,6 +1,7 @@
 #include "wrappers/web/glue/castdelegate.h"
 
 #include "corvexhook/inspector.h"
+#include "corvexhook/primitives.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 
 namespace Corvex::WebWrapper {

@@ -1,6 +1,7 @@
 #include "wrappers/web/glue/scriptclass.h"
 
 #include "corvexhook/inspector.h"
+#include "corvexhook/primitives.h"
 #include "wrappers/web/object/references.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 

@@ -2,6 +2,7 @@
 
 #include "corvexhook/arrayclass.h"
 #include "corvexhook/inspector.h"
+#include "corvexhook/primitives.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 
 namespace Corvex::WebWrapper {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "corvexhook/functioncallresult.h"
 #include "corvexhook/geometry.h"
 #include "corvexhook/object.h"
+#include "shared/functioncallresult.h"
 #include "wrappers/web/object/webobject.h"
 
 #include <QByteArray>

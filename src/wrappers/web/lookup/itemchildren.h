@@ -1,7 +1,7 @@
 #pragma once
 
-#include "corvexhook/functioncallresult.h"
 #include "corvexhook/object.h"
+#include "shared/functioncallresult.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "corvexhook/functioncallresult.h"
+#include "shared/functioncallresult.h"
 
 #include <QString>
 

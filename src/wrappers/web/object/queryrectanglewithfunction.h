@@ -1,7 +1,7 @@
 #pragma once
 
-#include "corvexhook/functioncallresult.h"
 #include "corvexhook/geometry.h"
+#include "shared/functioncallresult.h"
 
 #include <QRect>
 #include <QString>

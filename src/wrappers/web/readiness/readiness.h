@@ -1,9 +1,9 @@
 #pragma once
 
-#include "corvexhook/functioncallresult.h"
 #include "corvexhook/geometry.h"
+#include "shared/functioncallresult.h"
+#include "shared/javascriptanswer.h"
 #include "wrappers/web/export.h"
-#include "wrappers/web/page/javascriptanswer.h"
 
 #include <QImage>
 

@@ -1,6 +1,7 @@
 #include "wrappers/web/glue/scriptclass.h"
 
 #include "corvexhook/arrayclass.h"
+#include "corvexhook/primitives.h"
 #include "wrappers/web/elements/html_select.h"
 #include "wrappers/web/elements/html_text.h"
 #include "wrappers/web/toolkits/toolkitclasses.h"

@@ -1,6 +1,7 @@
 #include "wrappers/web/object/references.h"
 
 #include "corvexhook/delegate.h"
+#include "corvexhook/primitives.h"
 #include "wrappers/web/elements/html_select.h"
 #include "wrappers/web/lookup/webobjectdelegate.h"
 #include "wrappers/web/object/retrievehtmlobject.h"

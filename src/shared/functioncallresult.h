@@ -16,6 +16,9 @@ struct FunctionCallResult {
   static FunctionCallResult failure(const QString& message) { return {T{}, message}; }
 
   bool failed() const { return !error.isEmpty(); }
+
+  /// The same result; an error, if there is one, stands after `text`.
+  FunctionCallResult after(const QString& text) && { return {std::move(value), failed() ? text + error : error}; }
 };
 
 /// The same without a value.

@@ -1,0 +1,36 @@
+#include "webhook/run/browserservices.h"
+
+#include "webhook/pages/searchexplanation.h"
+#include "webhook/run/browsercontrol.h"
+#include "wrappers/web/object/references.h"
+#include "wrappers/web/object/wraphtmlobject.h"
+#include "wrappers/web/readiness/readiness.h"
+
+namespace Corvex::Webhook {
+
+QString BrowserServices::whyNotGoOn() const { return m_control.whyLost(); }
+
+QString BrowserServices::whyNotLookUp() const { return m_control.whyNotAskPage(); }
+
+QString BrowserServices::whyNotUse(const SharedPtr<Object>& object) const {
+  const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(object);
+  return native && !native->hasValidReference() ? WebWrapper::deadObjectReferenceError() : QString();
+}
+
+QString BrowserServices::whyNeverFound(const QString& name) const {
+  return whyNotLookUp().isEmpty() ? faultOfName(*m_control.windows()->current(), name) : QString();
+}
+
+QString BrowserServices::whyNotFound(const QString& name) const {
+  return whyNotLookUp().isEmpty() ? explainFailedSearch(*m_control.windows()->current(), name) : QString();
+}
+
+FunctionCallResult<bool> BrowserServices::isReady(const SharedPtr<Object>& object) const {
+  return WebWrapper::isObjectReady(WebWrapper::retrieveObject(object));
+}
+
+ObjectList BrowserServices::findAll(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) const {
+  return m_model.findAll(roots, name);
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "corvexhook/hostservices.h"
+
+namespace Corvex::Webhook {
+
+class BrowserControl;
+class WebModel;
+
+/// What the framework learns of the browser that a script drives.
+class BrowserServices : public HostServices {
+public:
+  /// Both outlive this object.
+  BrowserServices(const BrowserControl& control, const WebModel& model) : m_control(control), m_model(model) {}
+
+  QString whyNotGoOn() const override;
+  QString whyNotLookUp() const override;
+  QString whyNotUse(const SharedPtr<Object>& object) const override;
+  QString whyNeverFound(const QString& name) const override;
+  QString whyNotFound(const QString& name) const override;
+  FunctionCallResult<bool> isReady(const SharedPtr<Object>& object) const override;
+  ObjectList findAll(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) const override;
+
+private:
+  const BrowserControl& m_control;
+  const WebModel& m_model;
+};
+
+}  // namespace Corvex::Webhook
