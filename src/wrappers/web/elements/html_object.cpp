@@ -93,6 +93,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_Object_Class = classRows("HTML_Object", nullptr, properties, methods);
+const ClassMembers HTML_Object_Class = classMembers(properties, methods);
 
 }  // namespace Corvex::WebWrapper

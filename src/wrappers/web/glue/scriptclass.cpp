@@ -76,16 +76,17 @@ void HTML_ObjectBase_Class::deleteObjectData(void* data, const ObjectAttribute&)
 
 const QString& HTML_ObjectBase_Class::referenceIsUndefinedError() { return deadObjectReferenceError(); }
 
-ScriptClass::ScriptClass(const ClassRows& rows, Namespace* ns)
-    : HTML_ObjectBase_Class(rows.name, ns),
-      m_rows(rows),
-      m_methods(static_cast<std::size_t>(rows.methodCount)),
-      m_properties(static_cast<std::size_t>(rows.propertyCount)) {
-  setMemberCounts(rows.methodCount, rows.propertyCount, 0);
+ScriptClass::ScriptClass(const char* name, const char* superClass, const ClassMembers& members, Namespace* ns)
+    : HTML_ObjectBase_Class(name, ns),
+      m_superClass(superClass),
+      m_members(members),
+      m_methods(static_cast<std::size_t>(members.methodCount)),
+      m_properties(static_cast<std::size_t>(members.propertyCount)) {
+  setMemberCounts(members.methodCount, members.propertyCount, 0);
 }
 
 void ScriptClass::initSuperClass() {
-  setSuperClass(m_rows.superClass ? Inspector::self()->classByName(QString::fromLatin1(m_rows.superClass)) : nullptr);
+  setSuperClass(m_superClass ? Inspector::self()->classByName(QString::fromLatin1(m_superClass)) : nullptr);
 }
 
 std::unique_ptr<const Method> ScriptClass::describeMethod(const MethodRow& row) const {
@@ -99,24 +100,24 @@ std::unique_ptr<const Method> ScriptClass::describeMethod(const MethodRow& row) 
 
 const Method* ScriptClass::createMethod(int id) const {
   const int own = id - superClassOffset(MethodOffset);
-  if (own < 0 || own >= m_rows.methodCount) {
+  if (own < 0 || own >= m_members.methodCount) {
     return nullptr;
   }
   std::unique_ptr<const Method>& method = m_methods[static_cast<std::size_t>(own)];
   if (!method) {
-    method = describeMethod(m_rows.methods[own]);
+    method = describeMethod(m_members.methods[own]);
   }
   return method.get();
 }
 
 const Property* ScriptClass::createProperty(int id) const {
   const int own = id - superClassOffset(PropertyOffset);
-  if (own < 0 || own >= m_rows.propertyCount) {
+  if (own < 0 || own >= m_members.propertyCount) {
     return nullptr;
   }
   std::unique_ptr<const Property>& property = m_properties[static_cast<std::size_t>(own)];
   if (!property) {
-    const PropertyRow& row = m_rows.properties[own];
+    const PropertyRow& row = m_members.properties[own];
     property =
         std::make_unique<const Property>(this, Argument(row.type(), ObjectAttribute()), QString::fromLatin1(row.name),
                                          row.write ? Property::ReadWrite : Property::ReadOnly, own);
@@ -131,15 +132,15 @@ SharedPtr<Object> ScriptClass::invoke(int id, SharedPtr<Object> object, const Ob
   }
   const int own = id - superClassOffset(MethodOffset);
   HTML_Object* native = liveObject(object, method->name());
-  if (!native || own < 0 || own >= m_rows.methodCount || !argumentsFit(arguments, method, name())) {
+  if (!native || own < 0 || own >= m_members.methodCount || !argumentsFit(arguments, method, name())) {
     return nullptr;
   }
-  return valueOrReport(m_rows.methods[own].call(native, arguments));
+  return valueOrReport(m_members.methods[own].call(native, arguments));
 }
 
 const PropertyRow* ScriptClass::propertyRow(const Property* property) const {
-  const bool known = property->owner() == this && property->index() < m_rows.propertyCount;
-  return known ? &m_rows.properties[property->index()] : nullptr;
+  const bool known = property->owner() == this && property->index() < m_members.propertyCount;
+  return known ? &m_members.properties[property->index()] : nullptr;
 }
 
 SharedPtr<Object> ScriptClass::getProperty(SharedPtr<Object> object, const Property* property) const {

@@ -34,14 +34,12 @@ struct PropertyRow {
   ScriptResult (*write)(HTML_Object* object, const SharedPtr<Object>& value);
 };
 
-/// A script class: its own members, and the name of the class that it inherits from, null for none.
-struct ClassRows {
-  const char* name;
-  const char* superClass;
-  const PropertyRow* properties;
-  int propertyCount;
-  const MethodRow* methods;
-  int methodCount;
+/// The members that a script class adds to those of its super class.
+struct ClassMembers {
+  const PropertyRow* properties = nullptr;
+  int propertyCount = 0;
+  const MethodRow* methods = nullptr;
+  int methodCount = 0;
 };
 
 namespace Binding {
@@ -153,20 +151,14 @@ constexpr PropertyRow property(const char* name) {
   return row;
 }
 
-/// A class that adds nothing to its super class.
-constexpr ClassRows classRows(const char* name, const char* superClass) {
-  return {name, superClass, nullptr, 0, nullptr, 0};
-}
-
 template <int M>
-constexpr ClassRows classRows(const char* name, const char* superClass, const MethodRow (&methods)[M]) {
-  return {name, superClass, nullptr, 0, methods, M};
+constexpr ClassMembers classMembers(const MethodRow (&methods)[M]) {
+  return {nullptr, 0, methods, M};
 }
 
 template <int P, int M>
-constexpr ClassRows classRows(const char* name, const char* superClass, const PropertyRow (&properties)[P],
-                              const MethodRow (&methods)[M]) {
-  return {name, superClass, properties, P, methods, M};
+constexpr ClassMembers classMembers(const PropertyRow (&properties)[P], const MethodRow (&methods)[M]) {
+  return {properties, P, methods, M};
 }
 
 /// Root of the script classes whose native side is a page object.
@@ -178,11 +170,11 @@ public:
   static const QString& referenceIsUndefinedError();
 };
 
-/// Shows a class of rows to the framework, and leads script calls to the native members.
+/// Shows a class of the catalogue to the framework, and leads script calls to the native members.
 class ScriptClass : public HTML_ObjectBase_Class {
 public:
-  /// The rows outlive the class.
-  ScriptClass(const ClassRows& rows, Namespace* ns);
+  /// `superClass` is a name, null for none. The rows of the members outlive the class.
+  ScriptClass(const char* name, const char* superClass, const ClassMembers& members, Namespace* ns);
 
   void initSuperClass() override;
   const Method* createMethod(int id) const override;
@@ -200,7 +192,8 @@ private:
   std::unique_ptr<const Method> describeMethod(const MethodRow& row) const;
   const PropertyRow* propertyRow(const Property* property) const;
 
-  ClassRows m_rows;
+  const char* m_superClass;
+  ClassMembers m_members;
   // Filled as scripts ask.
   mutable std::vector<std::unique_ptr<const Method>> m_methods;
   mutable std::vector<std::unique_ptr<const Property>> m_properties;

@@ -146,7 +146,7 @@ ObjectList HTMLObjectHierarchyDelegate::children(SharedPtr<Object> object) const
   }
   // Other work may have changed the cache during the page call.
   list.append(m_childCache.value(object));
-  list.append(extensionChildren(retrieveObject(object)));
+  list.append(itemsOf(retrieveObject(object)));
   return list;
 }
 

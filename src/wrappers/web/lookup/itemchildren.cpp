@@ -20,6 +20,40 @@ void append(HTML_Object* object, ObjectList* list) {
   }
 }
 
+}  // namespace
+
+ObjectList parseItemViewBasedChildInfo(HTMLComponent* component, const QString& text) {
+  ObjectList list;
+  if (text == QLatin1String("[err]")) {
+    return list;
+  }
+  QString name;
+  QString reference;
+  QString buffer;
+  for (const QChar c : text) {
+    if (c == QLatin1Char('|')) {
+      name = std::exchange(buffer, QString());
+    } else if (c == QLatin1Char('~')) {
+      reference = std::exchange(buffer, QString());
+    } else if (c == QLatin1Char('#')) {
+      append(htmlObjectFromReferenceInfo(component, std::exchange(buffer, QString()), reference, name), &list);
+    } else {
+      buffer += c;
+    }
+  }
+  return list;
+}
+
+FunctionCallResult<ObjectList> fetchItems(const char* function, const HTML_Object& parent,
+                                          const QString& extensionObject) {
+  const QString code = QStringLiteral("try{%1(%2, %3 );}catch(e){'[err]';}")
+                           .arg(QLatin1String(function), parent.reference, extensionObject);
+  const JavaScriptAnswer answer = parent.component->evaluateJS(code, itemsTimeoutMs);
+  return answer.succeeded()
+             ? FunctionCallResult<ObjectList>::success(parseItemViewBasedChildInfo(parent.component, answer.text))
+             : FunctionCallResult<ObjectList>::failure(answer.text);
+}
+
 ObjectList itemsOfView(HTML_Object* object) {
   const auto* view = dynamic_cast<HTML_CustomItemView*>(object);
   if (!view) {
@@ -66,61 +100,6 @@ ObjectList eventsOfCalendar(HTML_Object* object) {
     append(event.value, &list);
   }
   return list;
-}
-
-struct Row {
-  const char* className;
-  ObjectList (*children)(HTML_Object* object);
-};
-
-const Row rows[] = {
-    {HTML_CustomItemView::ScriptName, itemsOfView},
-    {HTML_Menu::ScriptName, itemsOfMenu},
-    {HTML_CalendarView::ScriptName, eventsOfCalendar},
-};
-
-}  // namespace
-
-ObjectList parseItemViewBasedChildInfo(HTMLComponent* component, const QString& text) {
-  ObjectList list;
-  if (text == QLatin1String("[err]")) {
-    return list;
-  }
-  QString name;
-  QString reference;
-  QString buffer;
-  for (const QChar c : text) {
-    if (c == QLatin1Char('|')) {
-      name = std::exchange(buffer, QString());
-    } else if (c == QLatin1Char('~')) {
-      reference = std::exchange(buffer, QString());
-    } else if (c == QLatin1Char('#')) {
-      append(htmlObjectFromReferenceInfo(component, std::exchange(buffer, QString()), reference, name), &list);
-    } else {
-      buffer += c;
-    }
-  }
-  return list;
-}
-
-FunctionCallResult<ObjectList> fetchItems(const char* function, const HTML_Object& parent,
-                                          const QString& extensionObject) {
-  const QString code = QStringLiteral("try{%1(%2, %3 );}catch(e){'[err]';}")
-                           .arg(QLatin1String(function), parent.reference, extensionObject);
-  const JavaScriptAnswer answer = parent.component->evaluateJS(code, itemsTimeoutMs);
-  return answer.succeeded()
-             ? FunctionCallResult<ObjectList>::success(parseItemViewBasedChildInfo(parent.component, answer.text))
-             : FunctionCallResult<ObjectList>::failure(answer.text);
-}
-
-ObjectList extensionChildren(HTML_Object* object) {
-  const QLatin1String className(object->className());
-  for (const Row& row : rows) {
-    if (className == QLatin1String(row.className)) {
-      return row.children(object);
-    }
-  }
-  return {};
 }
 
 }  // namespace Corvex::WebWrapper

@@ -10,7 +10,7 @@
 namespace Corvex::WebWrapper {
 
 class HTMLComponent;
-struct ClassRows;
+struct ClassMembers;
 
 /// Properties of a page object that have a fixed way to be read.
 enum class PropertyId {
@@ -151,6 +151,6 @@ protected:
   FunctionCallResult<HTML_Object*> navigate(const QString& expression, const char* sentence);
 };
 
-extern const ClassRows HTML_Object_Class;
+extern const ClassMembers HTML_Object_Class;
 
 }  // namespace Corvex::WebWrapper
