@@ -58,18 +58,18 @@ TEST(ObjectName, SaysWhatIsWrongAndWhere) {
     const char* error;
   } cases[] = {
       {"{a='b'", "the closing brace is missing at position 7"},
-      {"{a%2='b' c%1}", "one of the operators =, ~= or ?= is missing behind the property 'c%1' at position 13"},
-      {"{a='b'} x", "there is text behind the closing brace at position 9"},
+      {"{a%2='b' c%1}", "one of the operators =, ~= or ?= is missing after the property 'c%1' at position 13"},
+      {"{a='b'} x", "there is text after the closing brace at position 9"},
       {"{='b'}", "a property name is missing at position 2"},
-      {"{a}", "one of the operators =, ~= or ?= is missing behind the property 'a' at position 3"},
-      {"{a b='c'}", "one of the operators =, ~= or ?= is missing behind the property 'a' at position 3"},
-      {"{a~'b'}", "one of the operators =, ~= or ?= is missing behind the property 'a' at position 3"},
+      {"{a}", "one of the operators =, ~= or ?= is missing after the property 'a' at position 3"},
+      {"{a b='c'}", "one of the operators =, ~= or ?= is missing after the property 'a' at position 3"},
+      {"{a~'b'}", "one of the operators =, ~= or ?= is missing after the property 'a' at position 3"},
       {"{a=b}", "the value of the property 'a' is not in single quotes at position 4"},
       {"{a=", "the value of the property 'a' is not in single quotes at position 4"},
       {"{a='b}", "the closing quote of the property 'a' is missing at position 7"},
       {"{a='b\\'}", "the closing quote of the property 'a' is missing at position 9"},
       {"{a={b='c'}", "the closing brace is missing at position 11"},
-      {"{a={b='c'", "the closing brace of the property 'a' is missing at position 10"},
+      {"{a={b='c'", "in the value of 'a': the closing brace is missing at position 7"},
       {"{a={b=c}}", "in the value of 'a': the value of the property 'b' is not in single quotes at position 4"},
   };
   for (const auto& one : cases) {
@@ -78,4 +78,20 @@ TEST(ObjectName, SaysWhatIsWrongAndWhere) {
     EXPECT_EQ(name.qualifiedName(), text(one.name));
     EXPECT_TRUE(name.properties().isEmpty());
   }
+}
+
+TEST(ObjectName, IsBoundedInDepthAndLength) {
+  const auto nested = [](int levels) {
+    return text("{a='1' container=").repeated(levels - 1) + text("{b='2'}") + text("}").repeated(levels - 1);
+  };
+  EXPECT_EQ(ObjectName(nested(100)).parseError(), QString());
+  EXPECT_TRUE(ObjectName(nested(101)).parseError().endsWith(text("names are nested more than 100 deep")));
+  EXPECT_LT(ObjectName(nested(20000)).parseError().size(), 200);
+  EXPECT_LT(ObjectName(text("{a=").repeated(300000)).parseError().size(), 200);
+  EXPECT_EQ(ObjectName(text("{") + text("a='' ").repeated(1001) + text("}")).parseError(),
+            text("a name has at most 1000 properties"));
+  const QString filler(999980, QLatin1Char('{'));
+  EXPECT_EQ(ObjectName(text("{a='") + filler + text("'}")).parseError(), QString());
+  EXPECT_EQ(ObjectName(text("{a='") + filler + filler + text("'}")).parseError(),
+            text("it has more than 1000000 characters"));
 }

@@ -43,7 +43,7 @@ TEST_P(FailingScript, EndsWithASentence) {
 const Failure failures[] = {
     {"NoBrowser", "findObject('x');", "No browser is running. Call startBrowser(url) first.", 1},
     {"MalformedName", "startBrowser('page.html');\nfindObject(\"{tagName='A' text}\");",
-     "Invalid object name '{tagName='A' text}': one of the operators =, ~= or ?= is missing behind the property 'text'",
+     "Invalid object name '{tagName='A' text}': one of the operators =, ~= or ?= is missing after the property 'text'",
      1},
     {"SymbolicName", "startBrowser('page.html');\nfindObject(':Login');",
      "The symbolic name ':Login' is not in the object map.", 1},
