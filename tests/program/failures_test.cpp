@@ -84,9 +84,8 @@ TEST(BrowserFailure, NothingListensWhereToAttach) {
 
 TEST(BrowserFailure, AKilledBrowserEndsTheScriptAndLeavesNothing) {
   ProgramRun program;
-  program.write(
-      QStringLiteral("test.js"),
-      QStringLiteral("startBrowser('about:blank');\ntest.log('started');\npause(50);\ntest.log('reached');"));
+  program.write(QStringLiteral("test.js"),
+                QStringLiteral("startBrowser('about:blank');\ntest.log('started');\npause(50);\ntest.log('reached');"));
   program.start({QStringLiteral("run"), QStringLiteral("test.js")});
   ASSERT_TRUE(program.waitForOutput(QStringLiteral("started")));
   const QList<qint64> processes = program.browserProcesses();
@@ -116,19 +115,6 @@ TEST_P(Signals, EndTheProgramInAnEndlessScriptAndLeaveNothing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Program, Signals, testing::Values(SIGINT, SIGTERM));
-
-TEST(ExtensionScripts, TheOneToBlameIsNamed) {
-  ProgramRun program;
-  program.write(QStringLiteral("lib/extensions/web/a.js"), QStringLiteral("Corvex.addTypeOfHook(function () {});"));
-  program.write(QStringLiteral("lib/extensions/web/b.js"), QStringLiteral("noSuchFunction();"));
-  program.setEnvironment(QStringLiteral("CORVEX_PREFIX"), program.folder());
-  program.write(QStringLiteral("test.js"), QStringLiteral("startBrowser('about:blank');"));
-  const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("test.js")});
-  EXPECT_EQ(result.exitCode, 3);
-  EXPECT_TRUE(result.output.contains(QLatin1String("b.js' failed: ReferenceError: noSuchFunction is not defined")))
-      << qPrintable(result.output);
-  EXPECT_FALSE(result.output.contains(QLatin1String("a.js' failed")));
-}
 
 TEST(StuckPage, IsToldFromASlowServer) {
   TestSupport::TestServer server;

@@ -2,6 +2,7 @@
 
 #include "webhook/browser/pageerrors.h"
 #include "webhook/pages/extensioncheck.h"
+#include "webhook/pages/inpagetext.h"
 #include "wrappers/web/elements/html_text.h"
 #include "wrappers/web/page/escaping.h"
 #include "wrappers/web/widgets/widgetclasses.h"
@@ -24,21 +25,14 @@ const BrowserKindRow browserKinds[] = {
     {BrowserIdentity::Chromium, 4},
 };
 
-/// What code needs to be safe in a page that is not ours; all other code goes as it is, to the global scope.
-///
-/// What a page made of its JSON would spoil the answers that are written with it. And a reference into the store of one
-/// document may name anything in the next one, which can be there before the browser tells of it.
+/// What code needs to be safe in a page that is not ours. The page may have replaced what answers are written with; and
+/// a reference into one document may name anything in the next one, which can be there before the browser tells of it.
 QString guarded(const QString& code, int document) {
-  QString text = code;
-  if (code.contains(QLatin1String("JSON."))) {
-    text = QStringLiteral("{ let JSON = window.__corvex && window.__corvex.JSON || window.JSON;\n%1\n}").arg(text);
-  }
-  if (code.contains(QLatin1String("__corvex__globalObjectRefStore["))) {
-    text = QStringLiteral("if ((window.__corvex || {}).documentNumber !== %1) throw new Error('%2');\n")
-               .arg(QString::number(document), PageErrors::pageReplaced()) +
-           text;
-  }
-  return text;
+  static const QString frame = [] {
+    QString text = inPageText("guard.js");
+    return text.mid(text.indexOf(QLatin1Char('{'))).replace(QLatin1String("/*%3*/"), QLatin1String("\n%3\n"));
+  }();
+  return frame.arg(QString::number(document), PageErrors::pageReplaced(), code);
 }
 
 QString closedPage() { return QStringLiteral("The browser window is closed. Call startBrowser(url) to open another."); }
@@ -75,12 +69,17 @@ QString Connection::greetDocument() {
           "(window.__corvex__browsertabid = '%1', window.__corvex.documentNumber = %2, true) : false")
           .arg(m_tabId)
           .arg(++m_document);
-  WebWrapper::JavaScriptAnswer answer = ask(greeting, 0);
+  JavaScriptAnswer answer = ask(greeting, 0);
   if (answer.succeeded() && answer.text != QLatin1String("true")) {
     answer = ask(hookText(*m_config, m_browser), 0);
     if (answer.failed) {
       m_greeted = false;
-      return extensionError(*this, answer.text);
+      return extensionError(
+          [this](const QString& code) {
+            const JavaScriptAnswer alone = ask(code, 0);
+            return alone.failed ? alone.text : QString();
+          },
+          answer.text);
     }
     answer = ask(greeting, 0);
   }
@@ -125,7 +124,7 @@ QString Connection::answerDialog(bool accept, const QString& text) {
   return m_page ? m_page->answerDialog(accept, text) : closedPage();
 }
 
-WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigned int timeoutMs) {
+JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigned int timeoutMs) {
   if (!m_greeted) {
     // Whether it worked shows in what the code itself gives.
     greetDocument();
@@ -133,7 +132,17 @@ WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigne
   return ask(guarded(code, m_document), timeoutMs);
 }
 
-WebWrapper::JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {
+JavaScriptAnswer Connection::evaluateInAnyDocument(const QString& code, unsigned int timeoutMs) {
+  const JavaScriptAnswer answer = evaluateJS(code, timeoutMs);
+  if (!answer.failed || !answer.text.contains(PageErrors::pageReplaced())) {
+    return answer;
+  }
+  // The code did not run. The browser has yet to tell of the document that is there now.
+  m_greeted = false;
+  return evaluateJS(code, timeoutMs);
+}
+
+JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {
   if (!m_page) {
     return {closedPage(), false, true};
   }

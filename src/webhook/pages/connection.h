@@ -46,7 +46,8 @@ public:
   /// The last dialog of a kind that the browser showed; one without a kind before there was one.
   Dialog lastDialog(const QString& kind) const { return m_lastDialogs.value(kind); }
 
-  WebWrapper::JavaScriptAnswer evaluateJS(const QString& code, unsigned int timeoutMs) override;
+  JavaScriptAnswer evaluateJS(const QString& code, unsigned int timeoutMs) override;
+  JavaScriptAnswer evaluateInAnyDocument(const QString& code, unsigned int timeoutMs) override;
   int browserKind() override;
   bool isAvailable() override;
   const WebWrapper::WrapperConfig* config() override;
@@ -63,7 +64,7 @@ Q_SIGNALS:
   void navigating(const QString& url);
 
 private:
-  WebWrapper::JavaScriptAnswer ask(const QString& code, unsigned int timeoutMs);
+  JavaScriptAnswer ask(const QString& code, unsigned int timeoutMs);
   /// Makes a document that was not asked anything yet ready for questions. Answers why it is not, or an empty text.
   QString greetDocument();
   QString upload(const QString& reference, const QString& path);

@@ -1,6 +1,8 @@
 #include "webhook/pages/hookinjector.h"
 
+#include "webhook/pages/globaldeclarations.h"
 #include "webhook/pages/inpagetext.h"
+#include "wrappers/web/setup/extensionscripts.h"
 #include "wrappers/web/setup/getjscode.h"
 #include "wrappers/web/setup/wrapperconfig.h"
 
@@ -90,6 +92,14 @@ QString members(const WrapperConfig& config, const BrowserIdentity& browser) {
   return text;
 }
 
+QString hookScript(const WrapperConfig& config) {
+  QStringList extensions;
+  for (const WebWrapper::ExtensionScript& script : WebWrapper::extensionScripts()) {
+    extensions.append(withGlobalDeclarations(script.text));
+  }
+  return WebWrapper::getJSCode(config, extensions);
+}
+
 }  // namespace
 
 QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
@@ -97,7 +107,7 @@ QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
   return QStringLiteral(
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
-         members(config, browser) + inPageText("ownjson.js") + WebWrapper::getJSCode(config) + dialogTexts +
+         members(config, browser) + inPageText("ownjson.js") + hookScript(config) + dialogTexts +
          inPageText("fallback.js") + QStringLiteral("\n}");
 }
 

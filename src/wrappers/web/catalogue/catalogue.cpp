@@ -35,14 +35,16 @@ constexpr TypeTexts texts(TypeTexts::Match match, Texts... all) {
 }
 
 struct Whole : TypeTexts {};
-struct Prefix : TypeTexts {};
+struct BeforeExtension : TypeTexts {};
 
 template <typename... Texts>
 constexpr Whole whole(Texts... all) {
   return {texts(TypeTexts::Whole, all...)};
 }
 
-constexpr Prefix prefix(const char* text) { return {texts(TypeTexts::Prefix, text)}; }
+constexpr TypeTexts beginning(const char* text) { return texts(TypeTexts::Beginning, text); }
+
+constexpr BeforeExtension prefix(const char* text) { return {texts(TypeTexts::BeforeExtension, text)}; }
 
 template <typename T>
 HTML_Object* plain(const ReferenceInfo& info) {
@@ -99,7 +101,7 @@ constexpr ClassRow row(const ClassMembers& members, const Whole& types) {
 }
 
 template <typename T, typename Super>
-constexpr ClassRow row(const ClassMembers& members, const Prefix& types) {
+constexpr ClassRow row(const ClassMembers& members, const BeforeExtension& types) {
   return row<T, Super>(members, types, withExtension<T>);
 }
 
@@ -162,7 +164,7 @@ constexpr ClassRow rows[] = {
     row<HTML_QxWidget, HTML_Object>(noMembers, whole("qx_widget")),
     row<HTML_QxWidgetElement, HTML_Object>(noMembers, whole("qx_widget_container")),
     row<HTML_RadioButton, HTML_ButtonBase>(HTML_RadioButton_Class, whole("radio")),
-    row<HTML_Select, HTML_FormElement>(HTML_Select_Class, prefix("select"), select),
+    row<HTML_Select, HTML_FormElement>(HTML_Select_Class, beginning("select"), select),
     row<HTML_ShadowRoot, HTML_Object>(noMembers, whole("shadowroot")),
     row<HTML_Tab, HTML_Object>(noMembers, prefix("tabitem_")),
     row<HTML_TabWidget, HTML_Object>(noMembers, prefix("tabwidget_")),

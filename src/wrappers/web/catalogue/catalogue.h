@@ -14,16 +14,19 @@ struct ReferenceInfo {
   HTMLComponent* component;
   /// In lower case.
   QString type;
-  /// What follows the prefix of the type, in its own case.
+  /// The name of an extension that follows in the type, in its own case.
   QString extension;
   QString reference;
   QString name;
 };
 
-/// The texts by which the page says that an object is of a class: whole, or as the beginning of a text that ends in the
-/// name of an extension. Filled up with nulls.
+/// The texts by which the page says that an object is of a class. Filled up with nulls.
 struct TypeTexts {
-  enum Match { Whole, Prefix };
+  enum Match {
+    Whole,
+    Beginning,
+    BeforeExtension,  ///< The beginning of a text that ends in the name of an extension.
+  };
   static constexpr std::size_t Most = 15;
 
   Match match = Whole;

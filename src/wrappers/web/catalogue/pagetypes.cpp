@@ -2,9 +2,11 @@
 
 #include "wrappers/web/catalogue/catalogue.h"
 #include "wrappers/web/lookup/itemchildren.h"
+#include "wrappers/web/object/references.h"
 #include "wrappers/web/object/retrievehtmlobject.h"
 
 #include <QHash>
+#include <QRegularExpression>
 
 #include <vector>
 
@@ -59,6 +61,13 @@ private:
   std::vector<PrefixRow> m_prefixes;
 };
 
+/// Whether the name may become a part of code. A page that answers for a toolkit by another text has none.
+bool isExtensionName(const ClassRow& row, const QString& name) {
+  static const QRegularExpression identifiers(QStringLiteral("\\A[\\w$]+(?:\\.[\\w$]+)*\\z"),
+                                              QRegularExpression::UseUnicodePropertiesOption);
+  return row.types.match != TypeTexts::BeforeExtension || identifiers.match(name).hasMatch();
+}
+
 const Index& index() {
   static const Index rows;
   return rows;
@@ -76,10 +85,14 @@ HTML_Object* htmlObjectFromReferenceInfo(HTMLComponent* component, const QString
       return nullptr;
     }
   }
+  if (!isObjectReference(reference)) {
+    return nullptr;
+  }
   int prefix = 0;
   const ClassRow* const row = index().ofType(lower, &prefix);
-  return row ? row->make({component, lower, type.mid(prefix), reference, name})
-             : new HTML_Object(name, reference, component);
+  const QString extension = row && row->types.match == TypeTexts::BeforeExtension ? type.mid(prefix) : QString();
+  return row && isExtensionName(*row, extension) ? row->make({component, lower, extension, reference, name})
+                                                 : new HTML_Object(name, reference, component);
 }
 
 bool hasItems(const HTML_Object& object) {

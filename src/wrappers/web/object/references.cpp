@@ -2,6 +2,8 @@
 
 #include "wrappers/web/object/webobject.h"
 
+#include <QRegularExpression>
+
 #include <iterator>
 
 namespace Corvex::WebWrapper {
@@ -59,6 +61,12 @@ void createdHtmlObject(HTML_Object* object) { referencedObjects.add(object, &obj
 void destroyedHtmlObject(HTML_Object* object) { referencedObjects.remove(object); }
 
 QString nextDriverReference() { return QStringLiteral("window.__corvex__object__C%1").arg(ocnt++); }
+
+bool isObjectReference(const QString& text) {
+  static const QRegularExpression forms(QStringLiteral(
+      "\\A(?:top\\.__corvex__globalObjectRefStore\\[[0-9]{1,9}\\]|window\\.__corvex__object(?:__C|I__)[0-9]{1,9})\\z"));
+  return forms.match(text).hasMatch();
+}
 
 const QString& deadReference() {
   static const QString text = QStringLiteral("undefined");

@@ -31,8 +31,9 @@ class CatalogueTest : public WebTest {};
 TEST_F(CatalogueTest, EachTypeTextMakesAnObjectOfItsClass) {
   for (const ClassRow& row : Catalogue()) {
     for (const QString& text : textsOf(row)) {
-      const QString type = row.types.match == TypeTexts::Prefix ? text + QStringLiteral("MyKit") : text;
-      const std::unique_ptr<HTML_Object> object(htmlObjectFromReferenceInfo(&page, type, "r", "n"));
+      const QString type = row.types.match == TypeTexts::BeforeExtension ? text + QStringLiteral("MyKit") : text;
+      const std::unique_ptr<HTML_Object> object(
+          htmlObjectFromReferenceInfo(&page, type, "window.__corvex__object__C1", "n"));
       ASSERT_TRUE(object) << type.toStdString();
       EXPECT_EQ(QLatin1String(object->className()), QLatin1String(row.name)) << type.toStdString();
       EXPECT_EQ(hasItems(*object), row.items != nullptr) << type.toStdString();
@@ -50,7 +51,7 @@ TEST_F(CatalogueTest, NoTypeTextHidesAnother) {
   QStringList prefixes;
   for (const ClassRow& row : Catalogue()) {
     all += textsOf(row);
-    prefixes += row.types.match == TypeTexts::Prefix ? textsOf(row) : QStringList();
+    prefixes += row.types.match != TypeTexts::Whole ? textsOf(row) : QStringList();
   }
   for (const QString& prefix : prefixes) {
     EXPECT_EQ(all.filter(QRegularExpression(QLatin1Char('^') + prefix)), QStringList(prefix));

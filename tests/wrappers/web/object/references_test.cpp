@@ -20,7 +20,7 @@ namespace {
 class References : public WebTest {
 protected:
   std::unique_ptr<HTML_Object> fromType(const QString& type, const QString& name = QString()) {
-    return std::unique_ptr<HTML_Object>(htmlObjectFromReferenceInfo(&page, type, "ref", name));
+    return std::unique_ptr<HTML_Object>(htmlObjectFromReferenceInfo(&page, type, page.reference("ref"), name));
   }
   QString retrievalError(const QString& answer) {
     page.answer(QString(), answer);
@@ -40,6 +40,15 @@ TEST_F(References, ThePagesTypeTextGivesTheClassInAnyCase) {
               {"window", "HTML_Object"}, {"custom_x", "HTML_Object"},  {"datetime-local", "HTML_Object"}};
   for (const auto& row : rows) {
     EXPECT_STREQ(fromType(row.type)->className(), row.className);
+  }
+  // An extension's name becomes a part of code.
+  EXPECT_STREQ(fromType("custom_text_(steal(),x)")->className(), "HTML_Object");
+  EXPECT_STREQ(fromType("custom_text_")->className(), "HTML_Object");
+  EXPECT_STREQ(fromType("custom_text_my.Kit$2")->className(), "HTML_CustomText");
+  for (const char* reference :
+       {"", "ref", "top.__corvex__globalObjectRefStore[x]", "window.__corvex__object__C1;steal()",
+        "top.__corvex__globalObjectRefStore[1]\n", "steal(top.__corvex__globalObjectRefStore[1])"}) {
+    EXPECT_FALSE(htmlObjectFromReferenceInfo(&page, "a", reference, "")) << reference;
   }
   for (const char* type : {"undefined", "[unknown]", "true", "", "TRUE"}) {
     EXPECT_FALSE(fromType(type)) << type;
@@ -63,7 +72,7 @@ TEST_F(References, AnExpressionGivesAnObject) {
   const FunctionCallResult<HTML_Object*> result = htmlObjectFromJavaScriptResult(&page, "f();", "the name", 5);
   const std::unique_ptr<HTML_Object> object(result.value);
   ASSERT_TRUE(object);
-  EXPECT_EQ(object->reference, QString("top.store[3]"));
+  EXPECT_EQ(page.named(object->reference), QString("top.store[3]"));
   EXPECT_EQ(object->knownName(), QString("the name"));
   EXPECT_EQ(object->component, &page);
   EXPECT_EQ(page.calls[0].timeoutMs, 5U);
@@ -84,6 +93,9 @@ TEST_F(References, RetrievalFailuresSayWhatHappened) {
             QString(R"(JSON return value '{"refName":"a"}' is missing the type member.)"));
   EXPECT_EQ(retrievalError(R"({"error":{"name":"E","message":"m","file":"f","line":3,"stack":"s"}})"),
             QString("Error evaluating JavaScript to retrieve HTML Object: E: m at f:3. Stacktrace: s"));
+  EXPECT_EQ(retrievalError(R"({"refName":"document.cookie","type":"a"})"),
+            QString("The page gave a text that is no reference for an object: 'document.cookie'. It replaces functions "
+                    "of the hook script."));
   EXPECT_TRUE(retrievalError(R"({"refName":{},"type":"a"})")
                   .startsWith(R"(Failed to parse JSON return value '{"refName":{},"type":"a"}': )"));
   page.abort(QString(), "late");
