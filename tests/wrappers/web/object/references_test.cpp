@@ -135,6 +135,23 @@ TEST_F(References, ClearingAConnectionPassesOverTheEntryBehindEachDeadOne) {
   EXPECT_EQ(referencedObjects.size(), 1U);
 }
 
+TEST_F(References, ManyObjectsAreLetGoInTheOrderInWhichTheyCame) {
+  // A walk over those that are left for each one would take longer than any test may.
+  std::vector<std::unique_ptr<HTML_Object>> objects;
+  for (int i = 0; i < 200000; ++i) {
+    objects.push_back(make<HTML_Object>());
+  }
+  const std::size_t before = referencedObjects.size();
+  while (objects.size() > 100000) {
+    objects.pop_back();
+  }
+  EXPECT_EQ(referencedObjects.size(), before - 100000);
+  for (std::unique_ptr<HTML_Object>& object : objects) {
+    object.reset();
+  }
+  EXPECT_EQ(referencedObjects.size(), before - 200000);
+}
+
 TEST_F(References, InvalidatingAllEmptiesTheRegistries) {
   const HTMLObjectHierarchyDelegate delegate;
   const HTML_Object empty("", "", &page);
