@@ -33,6 +33,7 @@ set(CORVEX_HOOK_FRAGMENTS
   17_input
   18_windows.js
   19_dom.js
+  21_values.js
   22_focus.js
   23_api
   24_json.js.in

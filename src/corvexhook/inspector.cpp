@@ -30,6 +30,7 @@ struct PrimitiveRow {
 const PrimitiveRow primitiveRows[] = {
     {PrimitiveType::Int, "int"},       {PrimitiveType::UInt, "unsigned int"}, {PrimitiveType::Bool, "bool"},
     {PrimitiveType::String, "string"}, {PrimitiveType::Double, "double"},     {PrimitiveType::Void, "void"},
+    {PrimitiveType::Any, "any"},
 };
 
 const HostServices knowsNothing;

@@ -1,10 +1,13 @@
 #include "wrappers/web/catalogue/catalogue.h"
 
+#include "wrappers/web/catalogue/jsobjectclass.h"
+
 #include "wrappers/web/elements/html_anchor.h"
 #include "wrappers/web/elements/html_array.h"
 #include "wrappers/web/elements/html_button.h"
 #include "wrappers/web/elements/html_checkablebutton.h"
 #include "wrappers/web/elements/html_document.h"
+#include "wrappers/web/elements/html_event.h"
 #include "wrappers/web/elements/html_form.h"
 #include "wrappers/web/elements/html_formelement.h"
 #include "wrappers/web/elements/html_image.h"
@@ -16,9 +19,13 @@
 #include "wrappers/web/itemviews/html_customitem.h"
 #include "wrappers/web/itemviews/html_menu.h"
 #include "wrappers/web/lookup/itemchildren.h"
+#include "wrappers/web/style/csscolor.h"
+#include "wrappers/web/style/cssproperties.h"
+#include "wrappers/web/style/html_style.h"
 #include "wrappers/web/tables/html_table.h"
 #include "wrappers/web/toolkits/toolkitclasses.h"
 #include "wrappers/web/widgets/widgetclasses.h"
+#include "wrappers/web/xpath/html_xpathresult.h"
 
 #include <iterator>
 
@@ -87,12 +94,12 @@ constexpr const char* nameOf<void> = nullptr;
 /// A class whose objects come from no type text.
 template <typename T, typename Super>
 constexpr ClassRow row(const ClassMembers& members) {
-  return {nameOf<T>, nameOf<Super>, &members, {}};
+  return {nameOf<T>, nameOf<Super>, &members, &nativeKind<T>, {}};
 }
 
 template <typename T, typename Super>
 constexpr ClassRow row(const ClassMembers& members, const TypeTexts& types, ClassRow::Make make) {
-  return {nameOf<T>, nameOf<Super>, &members, types, make};
+  return {nameOf<T>, nameOf<Super>, &members, &nativeKind<T>, types, make};
 }
 
 template <typename T, typename Super>
@@ -107,6 +114,7 @@ constexpr ClassRow row(const ClassMembers& members, const BeforeExtension& types
 
 // A class without members of its own stands here so that its objects are wrapped as what they are.
 constexpr ClassRow rows[] = {
+    row<CssColor, void>(CssColorClass),
     row<HTML_Anchor, HTML_Object>(noMembers, whole("a", "area")),
     row<HTML_Array, HTML_Object>(HTML_Array_Class, whole("htmlarray")),
     row<HTML_BackBaseButton, HTML_ButtonBase>(
@@ -136,6 +144,7 @@ constexpr ClassRow rows[] = {
     row<HTML_Document, HTML_Object>(HTML_Document_Class, whole("document")),
     row<HTML_DojoSplitPane, HTML_FormElement>(noMembers, whole("dojo_splitpane")),
     row<HTML_DojoTree, HTML_TreeBase>(noMembers, whole("dojo_tree")),
+    row<HTML_Event, void>(HTML_Event_Class),
     row<HTML_ExpandableSectionHeader, HTML_Object>(noMembers, prefix("expandablesectionheader_")),
     row<HTML_Form, HTML_Object>(HTML_Form_Class, whole("form")),
     row<HTML_FormElement, HTML_Object>(HTML_FormElement_Class),
@@ -166,6 +175,7 @@ constexpr ClassRow rows[] = {
     row<HTML_RadioButton, HTML_ButtonBase>(HTML_RadioButton_Class, whole("radio")),
     row<HTML_Select, HTML_FormElement>(HTML_Select_Class, beginning("select"), select),
     row<HTML_ShadowRoot, HTML_Object>(noMembers, whole("shadowroot")),
+    row<HTML_Style, void>(HTML_Style_Class),
     row<HTML_Tab, HTML_Object>(noMembers, prefix("tabitem_")),
     row<HTML_TabWidget, HTML_Object>(noMembers, prefix("tabwidget_")),
     row<HTML_Table, HTML_Object>(noMembers, prefix("htmltable_")),
@@ -174,6 +184,9 @@ constexpr ClassRow rows[] = {
     row<HTML_TextArea, HTML_TextBase>(noMembers, whole("textarea")),
     row<HTML_TextBase, HTML_FormElement>(HTML_TextBase_Class),
     row<HTML_TreeBase, HTML_FormElement>(noMembers),
+    row<HTML_XPathResult, void>(HTML_XPathResult_Class),
+    row<CSSProperties, void>(CSSProperties_Class),
+    row<JsObject, void>(JsObjectClass),
 };
 
 }  // namespace

@@ -42,6 +42,7 @@ struct ClassRow {
   /// Null for a root.
   const char* superClass;
   const ClassMembers* members;
+  const NativeKind* kind;
   /// None for a class whose objects come from no type text.
   TypeTexts types;
   Make make = nullptr;
@@ -55,7 +56,7 @@ struct ClassRow {
   }
 };
 
-/// Every script class of page objects in the order of registration.
+/// Every script class in the order of registration.
 struct Catalogue {
   const ClassRow* begin() const;
   const ClassRow* end() const;

@@ -4,16 +4,18 @@
 #include "wrappers/web/catalogue/catalogue.h"
 #include "wrappers/web/glue/castdelegate.h"
 #include "wrappers/web/glue/comparisondelegate.h"
+#include "wrappers/web/style/csscolor.h"
 
 namespace Corvex::WebWrapper {
 
 void createWebObjectClasses() {
   Namespace* const ns = Inspector::self()->globalNamespace();
   for (const ClassRow& row : Catalogue()) {
-    new ScriptClass(row.name, row.superClass, *row.members, ns);
+    new ScriptClass(row.name, row.superClass, *row.members, *row.kind, ns);
   }
   new HTML_Object_CastToStringDelegate;
   new HTML_Object_ComparisonDelegate;
+  createCssColorDelegates();
 }
 
 }  // namespace Corvex::WebWrapper

@@ -1,4 +1,4 @@
-// Gives: computed styles, and whether an element is shown at all (wherever it stands, whatever its size).
+// Gives: computed styles one by one and at once, and whether an element is shown at all (wherever it stands, whatever its size).
 // Needs: node property reads.
 
 function __corvex__styleInfo(elem) {
@@ -27,6 +27,26 @@ __corvex__styleInfo.prototype.styleProperty = function (prop) {
     return undefined;
   }
 };
+
+// The values of the named properties: colours as records of their components, what cannot be read as "undefined".
+function __corvex__allCSSProperties(domObj, propNames) {
+  var style = new __corvex__styleInfo(domObj);
+  var all = {};
+  for (var i = 0; i < propNames.length; ++i) {
+    var value = style.styleProperty(propNames[i]);
+    var color = null;
+    if (value !== undefined && propNames[i].toLowerCase().indexOf("color") >= 0) {
+      try {
+        color = __corvex__parseCSSColor(value);
+      } catch (e) {
+        color = null;
+      }
+    }
+    all[propNames[i]] = color ? { red: color[0], green: color[1], blue: color[2], alpha: color[3] } :
+      value === undefined ? "undefined" : value;
+  }
+  return all;
+}
 
 function __corvex__hasDisplayNone(elem) {
   try {

@@ -12,13 +12,15 @@ namespace Corvex::WebWrapper {
 ReferenceRegistry& referencedObjects = *new ReferenceRegistry;
 ReferenceRegistry& referencedStyles = *new ReferenceRegistry;
 ReferenceRegistry& referencedXPathResults = *new ReferenceRegistry;
+ReferenceRegistry& referencedValues = *new ReferenceRegistry;
 
 namespace {
 
 int ocnt = 0;
 
 // In the order in which they are swept.
-ReferenceRegistry* const registries[] = {&referencedObjects, &referencedStyles, &referencedXPathResults};
+ReferenceRegistry* const registries[] = {&referencedObjects, &referencedStyles, &referencedXPathResults,
+                                         &referencedValues};
 
 }  // namespace
 

@@ -45,6 +45,7 @@ private:
 extern ReferenceRegistry& referencedObjects;
 extern ReferenceRegistry& referencedStyles;
 extern ReferenceRegistry& referencedXPathResults;
+extern ReferenceRegistry& referencedValues;
 
 void createdHtmlObject(HTML_Object* object);
 void destroyedHtmlObject(HTML_Object* object);

@@ -10,6 +10,9 @@
 namespace Corvex::WebWrapper {
 
 class HTMLComponent;
+class HTML_Style;
+class HTML_XPathResult;
+struct CSSProperties;
 struct ClassMembers;
 
 /// Properties of a page object that have a fixed way to be read.
@@ -59,6 +62,8 @@ public:
   virtual FunctionCallResult<bool> hasFocus() const;
 
   bool hasValidReference() const;
+  /// What a script is told that uses the object when its reference is not valid.
+  static QString deadError();
   /// From now on the object is dead.
   void invalidate();
   /// Whether both mean the same object in the page. `other` is of the same connection and not null.
@@ -111,6 +116,14 @@ public:
   FunctionCallResult<ScreenRectangle> screenRect() const;
   /// Pixels of the page's visible part; all -1 with an error.
   FunctionCallResult<ScreenRectangle> boundingClientRect() const;
+
+  // The caller owns what these give.
+
+  FunctionCallResult<HTML_Style*> style();
+  /// The whole computed style at once, as it is now.
+  FunctionCallResult<CSSProperties*> cssProperties() const;
+  /// Evaluates an XPath expression with this object as its context node.
+  FunctionCallResult<HTML_XPathResult*> evaluateXPath(const QString& expression);
 
   static bool isJavaScriptPropertyReadSupported(const QString& name);
   static FunctionCallResult<PropertyId> parsePropertyIdString(const QString& name);
