@@ -135,6 +135,7 @@ Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline) {
   if (program.failed()) {
     return instance;
   }
+  TemporaryDirectory::removeAbandoned(BrowserProgram::markName());
   instance.directory = std::make_unique<TemporaryDirectory>();
   const QString directory = instance.directory->path();
   QFile output(BrowserProgram::outputFile(directory));

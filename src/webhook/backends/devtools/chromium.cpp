@@ -87,6 +87,7 @@ Instance launch(const SessionOptions& options) {
   if (program.failed()) {
     return instance;
   }
+  TemporaryDirectory::removeAbandoned(BrowserProgram::markName());
   instance.directory = std::make_unique<TemporaryDirectory>();
   const QString directory = instance.directory->path();
   PipeTransport::ChildEnds ends;
