@@ -277,6 +277,17 @@ Outcome readOutcome(const QJsonObject& answer) {
   return outcome;
 }
 
+std::optional<QJsonObject> readRefusedException(const QString& refusal) {
+  const QLatin1String words("Missing stack, unable to build exceptionDetails for exception: ");
+  if (!refusal.startsWith(words)) {
+    return {};
+  }
+  const QJsonObject exception{{QStringLiteral("type"), QStringLiteral("string")},
+                              {QStringLiteral("value"), refusal.mid(words.size())}};
+  return QJsonObject{{QStringLiteral("type"), QStringLiteral("exception")},
+                     {QStringLiteral("exceptionDetails"), QJsonObject{{QStringLiteral("exception"), exception}}}};
+}
+
 Command screenshot(const QString& page, bool wholePage) {
   return ofPage("browsingContext.captureScreenshot", page,
                 {{QStringLiteral("origin"), wholePage ? QStringLiteral("document") : QStringLiteral("viewport")}});

@@ -86,6 +86,32 @@ TEST_F(EvaluationTest, AnExceptionFailsWithItsText) {
   }
 }
 
+TEST_F(EvaluationTest, AFramesExceptionHasItsTextHoweverManyCameBefore) {
+  ASSERT_EQ(load("<iframe srcdoc='<script>function fail(value) { throw value; }\n"
+                 "for (var i = 0; i < 100; ++i) { try { fail(i); } catch (e) {} }</script>'></iframe>"),
+            QString());
+  struct Row {
+    const char* thrown;
+    const char* text;
+  };
+  const Row rows[] = {
+      {"new TypeError('two\\nlines')", "TypeError: two\nlines"},
+      {"'a \"text\".'", "a \"text\"."},
+      {"NaN", "NaN"},
+      {"undefined", "undefined"},
+      {"Symbol('s')", "Symbol(s)"},
+      {"{ toString: function() { return 'mine'; } }", "mine"},
+  };
+  for (const Row& row : rows) {
+    const JavaScriptAnswer evaluation = page->evaluate(QStringLiteral("frames[0].fail(%1)").arg(q(row.thrown)));
+    EXPECT_EQ(evaluation.text, q(row.text)) << row.thrown;
+    EXPECT_TRUE(evaluation.failed) << row.thrown;
+    EXPECT_FALSE(evaluation.aborted) << row.thrown;
+  }
+  EXPECT_EQ(text("({ toString: function() { frames[0].fail('in the text'); } })"), q("in the text"));
+  EXPECT_EQ(page->setFiles(q("frames[0].fail('in the name')"), {q("/etc/passwd")}), q("in the name"));
+}
+
 TEST_F(EvaluationTest, WorksWhereThePageForbidsScripts) {
   ASSERT_EQ(load("<title>Strict</title>", {{"Content-Security-Policy", "default-src 'none'"}}), QString());
   EXPECT_EQ(text("eval('1 + 1') + document.title"), q("2Strict"));

@@ -36,10 +36,18 @@ bool isAboutTheElement(const QString& refusal) {
   return false;
 }
 
+Reply askToRun(PageCall& call, const Command& command) {
+  Reply reply = call.ask(command);
+  if (const std::optional<QJsonObject> exception = Bidi::readRefusedException(reply.error)) {
+    reply = {Reply::Answered, *exception, {}};
+  }
+  return reply;
+}
+
 Reply askToEvaluate(PageCall& call, const Bidi::Place& place, const QString& code) {
-  const Reply reply = call.ask(Bidi::evaluate(place, code));
+  const Reply reply = askToRun(call, Bidi::evaluate(place, code));
   const bool isGone = reply.status == Reply::Refused && reply.error.startsWith(QLatin1String("no such"));
-  return isGone && !place.realm.isEmpty() ? call.ask(Bidi::evaluate({place.context, {}}, code)) : reply;
+  return isGone && !place.realm.isEmpty() ? askToRun(call, Bidi::evaluate({place.context, {}}, code)) : reply;
 }
 
 /// An element as it can be named to the browser; without an id if it is none.
@@ -73,7 +81,7 @@ JavaScriptAnswer evaluateInPage(PageCall& call, const Bidi::Place& place, const 
   if (value->thrown || value->handle.isEmpty()) {
     return {value->text, value->thrown, false};
   }
-  const Reply textReply = call.ask(Bidi::textOfObject(value->realm, value->handle));
+  const Reply textReply = askToRun(call, Bidi::textOfObject(value->realm, value->handle));
   if (!textReply.isAnswered()) {
     return abortedBy(call, textReply);
   }
