@@ -183,7 +183,7 @@ QString Connection::selectFileToUpload(WebWrapper::HTML_CustomText* field, const
 QString Connection::upload(const QString& reference, const QString& path) {
   const QFileInfo file(path);
   // A browser on another machine looks for the file there.
-  if (m_browser.messagePort == 0) {
+  if (m_browser.messagePort.isEmpty()) {
     return m_page ? m_page->setFiles(reference, {path}) : closedPage();
   }
   if (!file.isFile()) {

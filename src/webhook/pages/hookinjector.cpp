@@ -67,8 +67,8 @@ QString globals(const WrapperConfig& config, const BrowserIdentity& browser) {
   if (config.hookNewWindows()) {
     text += assignment("window.__corvex__newwindowhook", QStringLiteral("true"));
   }
-  if (browser.messagePort != 0) {
-    text += assignment("window.__corvex__port", QString::number(browser.messagePort));
+  if (!browser.messagePort.isEmpty()) {
+    text += assignment("window.__corvex__port", QLatin1Char('"') + browser.messagePort + QLatin1Char('"'));
     text += assignment("window.__corvex__asynclog", QStringLiteral("true"));
   }
   const int scheme = config.supportSinglePropertyNaming() ? singlePropertyNames : propertyNames;
@@ -84,7 +84,7 @@ QString members(const WrapperConfig& config, const BrowserIdentity& browser) {
   for (const ConfigVariable& row : namespaceMembers) {
     text += assignment(row, config);
   }
-  if (browser.messagePort == 0) {
+  if (browser.messagePort.isEmpty()) {
     text += assignment("window.__corvex.useSessionStorageForEvents", QStringLiteral("true"));
   }
   return text;
