@@ -20,6 +20,7 @@ public:
   ~ProtocolPage() override;
 
   QString navigate(const QString& url, int timeoutMs) override;
+  QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
   std::optional<Dialog> openDialog() const override { return m_dialog; }
   QString answerDialog(bool accept, const QString& text) override;
   QString close() override;
@@ -40,6 +41,9 @@ protected:
   virtual Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) = 0;
   /// The load that was asked for took too long.
   virtual void stopLoading() = 0;
+  /// Otherwise the paths are those of the browser's machine, and only the browser can look at them.
+  virtual bool takesFilesOfThisMachine() const { return true; }
+  virtual QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) = 0;
   virtual Command dialogAnswer(bool accept, const QString& text) const = 0;
   virtual Command closing() const = 0;
   virtual void prepareClosing(PageCall&) {}

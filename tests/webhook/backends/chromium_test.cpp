@@ -32,8 +32,8 @@ TEST(Chromium, ABrowserThatEndsAtOnceGivesItsLastWords) {
   const ScopedVariable variable("CORVEX_CHROMIUM", "/bin/ls");
   const BrowserSession::Start start = BrowserSession::start({});
   EXPECT_FALSE(start.value);
-  EXPECT_TRUE(
-      start.error.startsWith(QStringLiteral("The browser ended before it was ready. Its last words: /bin/ls: ")))
+  EXPECT_TRUE(start.error.startsWith(
+      QStringLiteral("The browser ended before it was ready: its process ended. Its last words: /bin/ls: ")))
       << start.error.toStdString();
 }
 

@@ -41,6 +41,7 @@ TEST(Firefox, ABrowserThatEndsAtOnceGivesItsLastWords) {
   options.browser = q("firefox");
   const BrowserSession::Start start = BrowserSession::start(options);
   EXPECT_FALSE(start.value);
-  EXPECT_TRUE(start.error.startsWith(q("The browser ended before it was ready. Its last words: /bin/ls: ")))
+  EXPECT_TRUE(
+      start.error.startsWith(q("The browser ended before it was ready: its process ended. Its last words: /bin/ls: ")))
       << start.error.toStdString();
 }

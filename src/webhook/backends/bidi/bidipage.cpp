@@ -6,8 +6,6 @@
 #include "webhook/protocol/devtools.h"
 #include "webhook/protocol/startscript.h"
 
-#include <QFileInfo>
-
 namespace Corvex::Webhook {
 
 BidiPage::BidiPage(Channel& channel, BidiSession& session, const Bidi::Context& context)
@@ -149,22 +147,10 @@ FunctionCallResult<double> BidiPage::zoomFactor() {
   return {value / *m_plainPixelRatio, {}};
 }
 
-QString BidiPage::setFiles(const QString& referenceExpression, const QStringList& paths) {
-  const QString obstacle = whyUnavailable();
-  if (!obstacle.isEmpty()) {
-    return obstacle;
-  }
-  const bool sameMachine = m_bidiSession.browserProcess() != 0;
-  QStringList fullPaths;
-  for (const QString& path : paths) {
-    const QFileInfo file(path);
-    if (sameMachine && (!file.isFile() || !file.isReadable())) {
-      return PageErrors::noSuchFile(path);
-    }
-    fullPaths.append(sameMachine ? file.absoluteFilePath() : path);
-  }
-  PageCall call = makeCall(0);
-  return putFilesInto(call, place(), referenceExpression, fullPaths);
+bool BidiPage::takesFilesOfThisMachine() const { return m_bidiSession.browserProcess() != 0; }
+
+QString BidiPage::putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) {
+  return putFilesInto(call, place(), referenceExpression, paths);
 }
 
 Command BidiPage::dialogAnswer(bool accept, const QString& text) const {

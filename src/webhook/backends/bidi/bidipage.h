@@ -26,9 +26,6 @@ public:
   /// Where the browser does not tell its zoom: how many device pixels a CSS pixel has, compared with the first call.
   FunctionCallResult<double> zoomFactor() override;
 
-  /// The paths of a visited browser are those of its own machine; they are not looked at before.
-  QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
-
   const QString& contextId() const { return m_context; }
 
   /// Has the dialogs of a frame reported here, too.
@@ -45,6 +42,8 @@ private:
   Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
   void stopLoading() override;
   Command dialogAnswer(bool accept, const QString& text) const override;
+  bool takesFilesOfThisMachine() const override;
+  QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) override;
   Command closing() const override { return Bidi::closePage(m_context); }
   void prepareClosing(PageCall& call) override;
   void endOpenCalls(const QString& error) override;

@@ -17,6 +17,8 @@ const QString alwaysMatch = QStringLiteral("alwaysMatch");
 const QString firstMatch = QStringLiteral("firstMatch");
 const QString wrapped = QStringLiteral("capabilities");
 
+constexpr int endTimeoutMs = 2000;
+
 struct HttpAnswer {
   QJsonObject value;
   QString error;  ///< Without its end mark.
@@ -102,16 +104,16 @@ WebDriverSession::Start WebDriverSession::create(const QString& url, const QJson
   if (!session->m_webSocketUrl.host().isEmpty()) {
     return {std::move(session), {}};
   }
-  session->end(deadline);
+  session->end();
   return {nullptr, noWebSocket(url)};
 }
 
-void WebDriverSession::end(const QDeadlineTimer& deadline) {
+void WebDriverSession::end() {
   if (m_ended || !QCoreApplication::instance()) {
     return;
   }
   m_ended = true;
-  finish(m_network->deleteResource(requestTo(m_url)), deadline);
+  finish(m_network->deleteResource(requestTo(m_url)), QDeadlineTimer(endTimeoutMs));
 }
 
 WantedCapabilities wantedCapabilities(const QString& text, const QString& browser) {
