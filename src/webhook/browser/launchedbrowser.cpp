@@ -103,7 +103,8 @@ QString LaunchedBrowser::explanation() const {
   if (words.isEmpty()) {
     return {};
   }
-  const QString sentence = QStringLiteral("Its last words: ") + words;
+  const bool hasEnd = QStringLiteral(".!?").contains(words.back());
+  const QString sentence = QStringLiteral("Its last words: ") + words + (hasEnd ? QString() : QStringLiteral("."));
   const bool isAboutDisplay = m_headed && words.contains(QLatin1String("display"), Qt::CaseInsensitive);
   return isAboutDisplay ? sentence + QLatin1Char(' ') + whatToDoAboutTheDisplay() : sentence;
 }

@@ -7,7 +7,18 @@
 
 namespace Corvex::Webhook {
 
+namespace {
+
+bool isWebSocket(const QUrl& url) {
+  const bool fits = url.scheme() == QLatin1String("ws") || url.scheme() == QLatin1String("wss");
+  return fits && url.isValid() && !url.host().isEmpty() && url.port() != 0;
+}
+
+}  // namespace
+
 WebSocketTransport::WebSocketTransport() : m_socket(new QWebSocket) {
+  m_socket->setMaxAllowedIncomingFrameSize(messageLimit);
+  m_socket->setMaxAllowedIncomingMessageSize(messageLimit);
   connect(m_socket, &QWebSocket::textMessageReceived, this, [this](const QString& text) {
     // The socket reads its next frame only after this returns, so no receiver may run, and perhaps wait, in here.
     enqueue(text.toUtf8());
@@ -22,6 +33,9 @@ WebSocketTransport::~WebSocketTransport() {
 }
 
 QString WebSocketTransport::open(const QUrl& url, const QDeadlineTimer& deadline) {
+  if (!isWebSocket(url)) {
+    return QStringLiteral("it is no WebSocket address such as ws://127.0.0.1:9222/devtools/browser/1234");
+  }
   auto settled = std::make_shared<Pending>();
   connect(m_socket, &QWebSocket::connected, this, [settled] { settled->complete(); });
   connect(m_socket, &QWebSocket::disconnected, this, [this, settled] {
@@ -54,6 +68,9 @@ void WebSocketTransport::close() {
 }
 
 QString WebSocketTransport::reasonOfEnd() const {
+  if (m_socket->closeCode() == QWebSocketProtocol::CloseCodeTooMuchData) {
+    return tooLong();
+  }
   if (m_socket->error() == QAbstractSocket::UnknownSocketError) {
     return QStringLiteral("the connection was closed");
   }

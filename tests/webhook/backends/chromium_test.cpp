@@ -30,11 +30,9 @@ TEST(Chromium, TakesTheProgramThatIsNamed) {
 
 TEST(Chromium, ABrowserThatEndsAtOnceGivesItsLastWords) {
   const ScopedVariable variable("CORVEX_CHROMIUM", "/bin/ls");
-  const BrowserSession::Start start = BrowserSession::start({});
-  EXPECT_FALSE(start.value);
-  EXPECT_TRUE(start.error.startsWith(
-      QStringLiteral("The browser ended before it was ready: its process ended. Its last words: /bin/ls: ")))
-      << start.error.toStdString();
+  const QString error = BrowserSession::start({}).error;
+  EXPECT_TRUE(error.startsWith(QStringLiteral("The browser ended before it was ready: "))) << error.toStdString();
+  EXPECT_TRUE(error.contains(QStringLiteral(". Its last words: /bin/ls: "))) << error.toStdString();
 }
 
 TEST(Chromium, ABrowserThatCannotBeReachedIsNamed) {
