@@ -76,6 +76,16 @@ TEST(Hostile, AWebSocketMessageWithoutEndEndsTheConnection) {
   EXPECT_LT(server.sent(), FloodServer::bound);
 }
 
+TEST(Hostile, AnAgreementWithoutEndIsNotReadOn) {
+  const FloodServer server([](const QByteArray&) { return QByteArray("HTTP/1.1 101 X\r\nA: "); },
+                           QByteArray(1024 * 1024, 'x'));
+  SessionOptions options;
+  options.attachTo = q("ws://") + server.address();
+  options.startTimeoutMs = 500;
+  EXPECT_TRUE(startError(options).contains(q("there was no answer in time")));
+  EXPECT_LT(server.sent(), 16 * 1024 * 1024);
+}
+
 TEST(Hostile, AServersAnswerWithoutEndIsNotReadOn) {
   const FloodServer server([](const QByteArray&) { return QByteArray("HTTP/1.1 200 OK\r\n\r\n"); },
                            QByteArray(1024 * 1024, ' '));
