@@ -25,19 +25,22 @@ void BidiPage::watchFrame(const QString& frame) {
   });
 }
 
-Bidi::Place BidiPage::place() const {
-  // Browsers that know DevTools sessions hold code for a page back while a document of it is on its way, and for ever
-  // in a window that a page opened; but not code for a certain document.
-  return {m_context, Bidi::readDevToolsSession(m_devTools->reply.result).isEmpty() ? QString() : m_realm};
-}
-
-QString BidiPage::awaitPlace(PageCall& call) {
-  const QPointer<BidiPage> self(this);
-  if (!devToolsSession(call).isEmpty() && self) {
-    const std::shared_ptr<Pending> there = m_realmThere;
-    waitFor(*there, call.deadline());
-  }
-  return self ? whyUnavailable() : PageErrors::pageClosed();
+PlaceNow BidiPage::placeNow() {
+  using Result = FunctionCallResult<Bidi::Place>;
+  return [self = QPointer<BidiPage>(this)](PageCall& call) {
+    const bool knowsDevTools = self && !self->devToolsSession(call).isEmpty();
+    if (self && knowsDevTools) {
+      const std::shared_ptr<Pending> there = self->m_realmThere;
+      waitFor(*there, call.deadline());
+    }
+    const QString obstacle = self ? self->whyUnavailable() : PageErrors::pageClosed();
+    if (!obstacle.isEmpty()) {
+      return Result::failure(obstacle);
+    }
+    // Browsers that know DevTools sessions hold code for a page back while a document of it is on its way, and for ever
+    // in a window that a page opened; but not code for a certain document.
+    return Result{{self->m_context, knowsDevTools ? self->m_realm : QString()}, {}};
+  };
 }
 
 JavaScriptAnswer BidiPage::evaluate(const QString& code, int timeoutMs) {
@@ -47,11 +50,7 @@ JavaScriptAnswer BidiPage::evaluate(const QString& code, int timeoutMs) {
   }
   PageCall call = makeCall(timeoutMs);
   const QPointer<BidiPage> self(this);
-  const QString newObstacle = awaitPlace(call);
-  if (!newObstacle.isEmpty()) {
-    return {newObstacle, false, true};
-  }
-  const JavaScriptAnswer evaluation = evaluateInPage(call, place(), code);
+  const JavaScriptAnswer evaluation = evaluateInPage(call, placeNow(), code);
   if (self && evaluation.aborted && isAvailable() && call.deadline().hasExpired()) {
     endRunningCode();
   }
@@ -136,7 +135,7 @@ FunctionCallResult<double> BidiPage::zoomFactor() {
     return {reply.isAnswered() ? DevTools::readZoom(Bidi::readThroughDevTools(reply.result)) : 1.0,
             call.errorOf(reply)};
   }
-  const JavaScriptAnswer ratio = evaluateInPage(call, place(), QStringLiteral("window.devicePixelRatio"));
+  const JavaScriptAnswer ratio = evaluateInPage(call, placeNow(), QStringLiteral("window.devicePixelRatio"));
   const double value = ratio.text.toDouble();
   if (!self || !ratio.succeeded() || value <= 0) {
     return {1.0, ratio.succeeded() ? PageErrors::pageReplaced() : ratio.text};
@@ -150,7 +149,7 @@ FunctionCallResult<double> BidiPage::zoomFactor() {
 bool BidiPage::takesFilesOfThisMachine() const { return m_bidiSession.browserProcess() != 0; }
 
 QString BidiPage::putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) {
-  return putFilesInto(call, place(), referenceExpression, paths);
+  return putFilesInto(call, m_context, placeNow(), referenceExpression, paths);
 }
 
 Command BidiPage::dialogAnswer(bool accept, const QString& text) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "webhook/backends/bidi/bidievaluation.h"
 #include "webhook/browser/protocolpage.h"
 #include "webhook/protocol/bidi.h"
 
@@ -36,9 +37,7 @@ public:
   void noteRealmGone(const QString& realm);
 
 private:
-  Bidi::Place place() const;
-  /// Waits until code can be given its place. Gives the obstacle that came up, or "".
-  QString awaitPlace(PageCall& call);
+  PlaceNow placeNow();
   Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
   void stopLoading() override;
   Command dialogAnswer(bool accept, const QString& text) const override;
