@@ -25,7 +25,7 @@ public:
   QString answerDialog(bool accept, const QString& text) override;
   QString close() override;
   QString url() const override { return m_url; }
-  bool isAvailable() const override { return whyUnavailable().isEmpty(); }
+  QString whyUnavailable() const override;
   bool isOpen() const override { return m_whyClosed.isEmpty(); }
 
   /// The page is gone: ends what is open in it and tells so. `sentence` is what later calls answer.
@@ -50,8 +50,6 @@ protected:
   virtual void endOpenCalls(const QString& error);
 
   PageCall makeCall(int timeoutMs) const;
-  /// Why the page cannot be asked anything now, or "".
-  QString whyUnavailable() const;
   QString whyClosed() const { return m_whyClosed; }
   std::shared_ptr<Request> start(const Command& command);
   Channel& channel() const { return m_channel; }

@@ -227,6 +227,8 @@ QString readNavigationError(const QString& refusal) {
 
 Document readDocument(const QJsonObject& event) { return {textAt(event, "navigation"), textAt(event, "url")}; }
 
+bool isCrashNotice(const Document& document) { return document.url.startsWith(QLatin1String("about:tabcrashed")); }
+
 QString readNewRealm(const QJsonObject& event) {
   const bool isPlain = textAt(event, "type") == QLatin1String("window") && textAt(event, "sandbox").isEmpty();
   return isPlain ? textAt(event, "realm") : QString();

@@ -59,6 +59,8 @@ struct Document {
   QString url;
 };
 Document readDocument(const QJsonObject& event);
+/// Whether it is what Firefox shows in place of a page whose process ended.
+bool isCrashNotice(const Document& document);
 
 // A page: evaluation.
 

@@ -83,8 +83,13 @@ QString BrowserControl::whyNoWindow() const {
 }
 
 QString BrowserControl::whyNotAskPage() const {
-  const QString why = whyNoWindow();
-  return why.isEmpty() ? m_dialogs->whyNotAskPage() : why;
+  const QString noWindow = whyNoWindow();
+  if (!noWindow.isEmpty()) {
+    return noWindow;
+  }
+  const QString dialog = m_dialogs->whyNotAskPage();
+  const BrowserPage* const page = m_windows->current()->page();
+  return dialog.isEmpty() && page ? page->whyUnavailable() : dialog;
 }
 
 void BrowserControl::scriptStarted(const QString& path) { m_scriptFolder = QFileInfo(path).absolutePath(); }

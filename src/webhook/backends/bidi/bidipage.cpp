@@ -183,6 +183,10 @@ void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
 void BidiPage::onNavigationCommitted(const QJsonObject& parameters) {
   const Bidi::Document document = Bidi::readDocument(parameters);
   m_document = document.navigation;
+  if (Bidi::isCrashNotice(document)) {
+    noteCrashed();
+    return;
+  }
   takeDocument(document.navigation, document.url);
 }
 
