@@ -71,6 +71,11 @@ module.exports = [
     rules
   },
   {
+    // Only browsers that speak the protocols get these.
+    files: ['src/webhook/protocol/**/*.js'],
+    languageOptions: { ecmaVersion: 2015 }
+  },
+  {
     files: ['eslint.config.js', 'cmake/**/*.js'],
     languageOptions: {
       ecmaVersion: 2022,

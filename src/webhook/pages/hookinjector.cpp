@@ -1,6 +1,6 @@
 #include "webhook/pages/hookinjector.h"
 
-#include "webhook/pages/inpagetext.h"
+#include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/setup/getjscode.h"
 #include "wrappers/web/setup/wrapperconfig.h"
 
