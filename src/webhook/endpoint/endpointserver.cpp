@@ -294,7 +294,7 @@ void EndpointServer::closed(const Exchange& exchange) {
   if (unread || exchange.stage == Stage::Reading) {
     noteMalformed(QStringLiteral("it could not be read, or not in time"));
   }
-  m_hasRoomAgain = m_hasRoomAgain || m_exchanges.size() >= std::size_t(m_limits.connections + roomForTheDropped);
+  m_hasRoomAgain = m_hasRoomAgain || m_exchanges.size() >= std::size_t(m_limits.connections) + roomForTheDropped;
   m_exchanges.erase(exchange.place);
 }
 

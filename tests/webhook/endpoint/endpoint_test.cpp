@@ -432,8 +432,8 @@ QByteArrayList badRequests(const QByteArray& ownHost, const QByteArray& path) {
   };
 }
 
-TEST_F(Endpoint, StandsTenThousandBadRequestsAndLosesNoMessage) {
-  const int total = 10000;
+TEST_F(Endpoint, StandsThousandsOfBadRequestsAndLosesNoMessage) {
+  const int total = 3000;
   const QByteArrayList bad = badRequests(ownHost(), path());
   std::atomic<bool> done{false};
   std::future<int> told = std::async(std::launch::async, [&] {
