@@ -71,9 +71,13 @@ module.exports = [
     rules
   },
   {
+    // Only browsers that speak the protocols get these.
+    files: ['src/webhook/protocol/**/*.js', 'src/webhook/pages/inpage/guard.js'],
+    languageOptions: { ecmaVersion: 2015 }
+  },
+  {
     // A block of its own for what the code sees, which only `let` gives.
     files: ['src/webhook/pages/inpage/guard.js'],
-    languageOptions: { ecmaVersion: 2015 },
     rules: { 'no-unused-vars': 'off' }
   },
   {

@@ -35,7 +35,7 @@ public:
   QString answerDialog(bool, const QString&) override { return QString(); }
   QString close() override { return QString(); }
   QString url() const override { return QString(); }
-  bool isAvailable() const override { return true; }
+  QString whyUnavailable() const override { return QString(); }
   bool isOpen() const override { return true; }
 };
 

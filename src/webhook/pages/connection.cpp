@@ -2,12 +2,10 @@
 
 #include "webhook/browser/pageerrors.h"
 #include "webhook/pages/extensioncheck.h"
-#include "webhook/pages/inpagetext.h"
+#include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/elements/html_text.h"
 #include "wrappers/web/page/escaping.h"
 #include "wrappers/web/widgets/widgetclasses.h"
-
-#include <QFileInfo>
 
 namespace Corvex::Webhook {
 
@@ -190,15 +188,7 @@ QString Connection::selectFileToUpload(WebWrapper::HTML_CustomText* field, const
 }
 
 QString Connection::upload(const QString& reference, const QString& path) {
-  const QFileInfo file(path);
-  // A browser on another machine looks for the file there.
-  if (m_browser.messagePort == 0) {
-    return m_page ? m_page->setFiles(reference, {path}) : closedPage();
-  }
-  if (!file.isFile()) {
-    return QStringLiteral("Cannot choose the file '%1': there is no such file. Give a path that exists.").arg(path);
-  }
-  return m_page ? m_page->setFiles(reference, {file.absoluteFilePath()}) : closedPage();
+  return m_page ? m_page->setFiles(reference, {path}) : closedPage();
 }
 
 }  // namespace Corvex::Webhook

@@ -1,7 +1,7 @@
 #include "webhook/pages/hookinjector.h"
 
 #include "webhook/pages/globaldeclarations.h"
-#include "webhook/pages/inpagetext.h"
+#include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/setup/extensionscripts.h"
 #include "wrappers/web/setup/getjscode.h"
 #include "wrappers/web/setup/wrapperconfig.h"
@@ -69,8 +69,8 @@ QString globals(const WrapperConfig& config, const BrowserIdentity& browser) {
   if (config.hookNewWindows()) {
     text += assignment("window.__corvex__newwindowhook", QStringLiteral("true"));
   }
-  if (browser.messagePort != 0) {
-    text += assignment("window.__corvex__port", QString::number(browser.messagePort));
+  if (!browser.messagePort.isEmpty()) {
+    text += assignment("window.__corvex__port", QLatin1Char('"') + browser.messagePort + QLatin1Char('"'));
     text += assignment("window.__corvex__asynclog", QStringLiteral("true"));
   }
   const int scheme = config.supportSinglePropertyNaming() ? singlePropertyNames : propertyNames;
@@ -86,7 +86,7 @@ QString members(const WrapperConfig& config, const BrowserIdentity& browser) {
   for (const ConfigVariable& row : namespaceMembers) {
     text += assignment(row, config);
   }
-  if (browser.messagePort == 0) {
+  if (browser.messagePort.isEmpty()) {
     text += assignment("window.__corvex.useSessionStorageForEvents", QStringLiteral("true"));
   }
   return text;

@@ -17,6 +17,9 @@ const QString alwaysMatch = QStringLiteral("alwaysMatch");
 const QString firstMatch = QStringLiteral("firstMatch");
 const QString wrapped = QStringLiteral("capabilities");
 
+constexpr int endTimeoutMs = 2000;
+constexpr qint64 answerLimit = 16 * 1024 * 1024;
+
 struct HttpAnswer {
   QJsonObject value;
   QString error;  ///< Without its end mark.
@@ -34,9 +37,20 @@ QString failureOf(const QNetworkReply& reply, const QJsonObject& value) {
 HttpAnswer finish(QNetworkReply* reply, const QDeadlineTimer& deadline) {
   const std::unique_ptr<QNetworkReply> owned(reply);
   const auto finished = std::make_shared<Pending>();
+  reply->setReadBufferSize(answerLimit + 1);
+  bool endless = false;
+  QObject::connect(reply, &QNetworkReply::readyRead, [reply, finished, &endless] {
+    endless = reply->bytesAvailable() > answerLimit;
+    if (endless) {
+      finished->complete();
+    }
+  });
   QObject::connect(reply, &QNetworkReply::finished, [finished] { finished->complete(); });
   if (waitFor(*finished, deadline) != WaitResult::Complete) {
     return {{}, QStringLiteral("there was no answer in time")};
+  }
+  if (endless) {
+    return {{}, QStringLiteral("its answer is longer than %1 MB").arg(answerLimit / (1024 * 1024))};
   }
   const QJsonObject body = QJsonDocument::fromJson(reply->readAll()).object();
   HttpAnswer answer{body.value(QLatin1String("value")).toObject(), {}};
@@ -102,16 +116,16 @@ WebDriverSession::Start WebDriverSession::create(const QString& url, const QJson
   if (!session->m_webSocketUrl.host().isEmpty()) {
     return {std::move(session), {}};
   }
-  session->end(deadline);
+  session->end();
   return {nullptr, noWebSocket(url)};
 }
 
-void WebDriverSession::end(const QDeadlineTimer& deadline) {
+void WebDriverSession::end() {
   if (m_ended || !QCoreApplication::instance()) {
     return;
   }
   m_ended = true;
-  finish(m_network->deleteResource(requestTo(m_url)), deadline);
+  finish(m_network->deleteResource(requestTo(m_url)), QDeadlineTimer(endTimeoutMs));
 }
 
 WantedCapabilities wantedCapabilities(const QString& text, const QString& browser) {

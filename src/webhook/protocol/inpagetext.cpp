@@ -1,4 +1,4 @@
-#include "webhook/pages/inpagetext.h"
+#include "webhook/protocol/inpagetext.h"
 
 #include <QFile>
 

@@ -4,7 +4,7 @@
 
 namespace Corvex::Webhook {
 
-/// The script text of a file of the folder inpage, behind a line break.
+/// The script text of a file of a folder `inpage`, behind a line break.
 QString inPageText(const char* name);
 
 }  // namespace Corvex::Webhook
