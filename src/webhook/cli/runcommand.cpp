@@ -2,9 +2,9 @@
 
 #include "corvexhook/inspector.h"
 #include "corvexhook/objectmap.h"
-#include "scripting/consolereporter.h"
-#include "scripting/junitreporter.h"
-#include "scripting/scriptengine.h"
+#include "scripting/report/consolereporter.h"
+#include "scripting/report/junitreporter.h"
+#include "scripting/engine/scriptengine.h"
 #include "webhook/cli/browseroptions.h"
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
