@@ -1,4 +1,5 @@
 #include "webhook/cli/commandline.h"
+#include "webhook/cli/output.h"
 #include "webhook/process/cleanup.h"
 
 #include <QCoreApplication>
@@ -20,6 +21,7 @@ int main(int argc, char** argv) {
   QCoreApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("corvexweb"));
   QCoreApplication::setApplicationVersion(QStringLiteral(CORVEX_VERSION));
+  Corvex::Webhook::makeLogVisible();
   setDefaultPrefix();
   return Corvex::Webhook::runCommandLine(QCoreApplication::arguments());
 }

@@ -84,9 +84,8 @@ TEST(BrowserFailure, NothingListensWhereToAttach) {
 
 TEST(BrowserFailure, AKilledBrowserEndsTheScriptAndLeavesNothing) {
   ProgramRun program;
-  program.write(
-      QStringLiteral("test.js"),
-      QStringLiteral("startBrowser('about:blank');\ntest.log('started');\npause(50);\ntest.log('reached');"));
+  program.write(QStringLiteral("test.js"),
+                QStringLiteral("startBrowser('about:blank');\ntest.log('started');\npause(50);\ntest.log('reached');"));
   program.start({QStringLiteral("run"), QStringLiteral("test.js")});
   ASSERT_TRUE(program.waitForOutput(QStringLiteral("started")));
   const QList<qint64> processes = program.browserProcesses();

@@ -56,13 +56,13 @@ TEST(VisibleText, IsValidInXml) {
 
 TEST(TextOutput, SaysWhyNothingCanBeWritten) {
   std::FILE* full = std::fopen("/dev/full", "w");
-  EXPECT_EQ(writeText(full, QStringLiteral("text")), QStringLiteral("No space left on device"));
+  EXPECT_EQ(writeText(full, QStringLiteral("text")), std::errc::no_space_on_device);
   std::fclose(full);
 
   char* written = nullptr;
   std::size_t size = 0;
   std::FILE* memory = open_memstream(&written, &size);
-  EXPECT_EQ(writeText(memory, QString::fromLatin1("a\0\xe4", 3)), QString());
+  EXPECT_FALSE(writeText(memory, QString::fromLatin1("a\0\xe4", 3)));
   EXPECT_EQ(QByteArray(written, static_cast<int>(size)), QByteArray("a\0\xc3\xa4", 4));
   std::fclose(memory);
   std::free(written);

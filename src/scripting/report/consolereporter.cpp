@@ -63,16 +63,19 @@ void ConsoleReporter::runFinished(const RunSummary& summary) {
 
 void ConsoleReporter::print(const QString& text, Colour colour) {
   static const char* const codes[] = {"", "\033[2m", "\033[32m", "\033[31m"};
-  if (!m_error.isEmpty()) {
+  if (m_error) {
     return;
   }
   const bool isColoured = m_colours && colour != Colour::Plain;
   const QString begin = QString::fromLatin1(isColoured ? codes[static_cast<int>(colour)] : "");
   const QString end = QString::fromLatin1(isColoured ? "\033[0m\n" : "\n");
   QString visible = visibleText(text);
+  while (visible.endsWith(QLatin1Char('\n'))) {
+    visible.chop(1);
+  }
   visible.replace(QLatin1Char('\n'), QLatin1Char('\n') + QLatin1String(indentation));
   m_error = writeText(m_out, begin + visible + end);
-  if (!m_error.isEmpty() && m_outputEnd) {
+  if (m_error && m_outputEnd) {
     m_outputEnd();
   }
 }

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <functional>
+#include <system_error>
 
 #include "scripting/scriptlistener.h"
 
@@ -21,8 +22,8 @@ public:
   void setColours(bool on) { m_colours = on; }
   /// Called once, when the stream takes no more. Nothing is written from then on.
   void setOutputEnd(const std::function<void()>& outputEnd) { m_outputEnd = outputEnd; }
-  /// Why the stream takes no more; empty as long as it does.
-  const QString& error() const { return m_error; }
+  /// Why the stream takes no more; none as long as it does.
+  std::error_code error() const { return m_error; }
 
   void scriptStarted(const QString& path) override;
   void step(const QString& text, qint64 durationMs) override;
@@ -41,7 +42,7 @@ private:
   Detail m_detail;
   bool m_colours;
   std::function<void()> m_outputEnd;
-  QString m_error;
+  std::error_code m_error;
 };
 
 }  // namespace Corvex::Scripting

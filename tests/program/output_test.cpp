@@ -1,0 +1,130 @@
+// What the program writes: nothing that pages say steers the terminal, and an output that takes no more is a failure.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QXmlStreamReader>
+
+#include "support/files.h"
+#include "support/printing.h"
+#include "support/programrun.h"
+
+namespace {
+
+using TestSupport::ProgramResult;
+using TestSupport::ProgramRun;
+
+// Escape, a C1 control, delete, carriage return, an override of direction and a NUL.
+const char* const hostilePage = R"(<!DOCTYPE html><title>t</title><p id=p>x</p><script>
+var hostile = 'a\u001b[31m\u009bm\u007f\r\u202eb\u0000c';
+document.getElementById('p').title = hostile;
+</script>)";
+
+/// Whether each character may be shown to people as it is.
+bool isVisible(const QString& text) {
+  for (const QChar c : text) {
+    const bool isBreak = c == QLatin1Char('\n') || c == QLatin1Char('\t');
+    if ((c.category() == QChar::Other_Control && !isBreak) || c.category() == QChar::Other_Format) {
+      return false;
+    }
+  }
+  return true;
+}
+
+class HostileText : public testing::Test {
+protected:
+  HostileText() { m_program.write(QStringLiteral("page.html"), QString::fromUtf8(hostilePage)); }
+
+  ProgramRun m_program;
+};
+
+TEST_F(HostileText, IsVisibleInReports) {
+  m_program.write(
+      QStringLiteral("test.js"),
+      QStringLiteral(
+          "startBrowser('page.html');\nvar p = findObject(\"{tagName='P'}\");\n"
+          "test.log(p.title + '\\ud800');\ntest.compare(p.title, p.title.length);\nthrow new Error(p.title);"));
+  const ProgramResult result =
+      m_program.run({QStringLiteral("run"), QStringLiteral("--verbose"), QStringLiteral("--junit"),
+                     QStringLiteral("out.xml"), QStringLiteral("test.js")});
+  EXPECT_EQ(result.exitCode, 1);
+  const QString start = QStringLiteral("a\\u001b[31m\\u009bm\\u007f\\r\\u202eb\\u0000");
+  for (const char* line : {"  log     ", "  FAILED  got '", "  ERROR   "}) {
+    EXPECT_TRUE(result.output.contains(QLatin1String(line) + start)) << line << qPrintable(result.output);
+  }
+  EXPECT_TRUE(isVisible(result.output)) << qPrintable(result.output);
+
+  QXmlStreamReader xml(TestSupport::readFile(m_program.folder() + QStringLiteral("/out.xml")));
+  QString message;
+  while (!xml.atEnd()) {
+    if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("error")) {
+      message = xml.attributes().value(QStringLiteral("message")).toString();
+    }
+  }
+  EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
+  EXPECT_TRUE(message.startsWith(start)) << qPrintable(message);
+}
+
+TEST_F(HostileText, IsVisibleWhereAPageIsShown) {
+  for (const char* command : {"tree", "names"}) {
+    const QString name = QString::fromLatin1(command);
+    const QString page = QStringLiteral("page.html");
+    const ProgramResult text = m_program.run(
+        name == QLatin1String("tree") ? QStringList{name, page} : QStringList{name, QStringLiteral("--all"), page});
+    EXPECT_TRUE(text.output.contains(QLatin1String("a\\u001b[31m\\u009bm\\u007f"))) << qPrintable(text.output);
+    EXPECT_TRUE(isVisible(text.output + text.errors)) << qPrintable(text.output + text.errors);
+    const ProgramResult json = m_program.run({name, QStringLiteral("--json"), page});
+    EXPECT_TRUE(isVisible(json.output + json.errors)) << qPrintable(json.output);
+    EXPECT_TRUE(QJsonDocument::fromJson(json.output.toUtf8()).isObject()) << qPrintable(json.output);
+  }
+}
+
+struct Command {
+  const char* name;
+  QStringList arguments;
+};
+
+void PrintTo(const Command& command, std::ostream* out) { *out << command.name; }
+
+class FullOutput : public testing::TestWithParam<Command> {};
+
+TEST_P(FullOutput, IsAFailureThatIsExplained) {
+  ProgramRun program;
+  program.write(QStringLiteral("page.html"), QStringLiteral("<p>x</p>"));
+  program.write(QStringLiteral("good.js"), QStringLiteral("test.log('ran');"));
+  const ProgramResult result = program.runInShell(QStringLiteral("\"$@\" > /dev/full"), GetParam().arguments);
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_TRUE(result.errors.contains(QLatin1String("corvexweb: The output cannot be written: No space left on device")))
+      << qPrintable(result.errors);
+  EXPECT_EQ(program.leftovers(), QStringList());
+}
+
+const Command commands[] = {
+    {"Run", {"run", "good.js"}},
+    {"Tree", {"tree", "page.html"}},
+    {"Names", {"names", "page.html"}},
+    {"HookScript", {"hook-script"}},
+    {"Help", {"--help"}},
+    {"CommandHelp", {"run", "--help"}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Program, FullOutput, testing::ValuesIn(commands),
+                         [](const auto& command) { return command.param.name; });
+
+TEST(ClosedOutput, EndsTheRunWhateverTheScriptDoes) {
+  ProgramRun program;
+  program.write(QStringLiteral("page.html"), QStringLiteral("<p>x</p>"));
+  program.write(QStringLiteral("test.js"),
+                QStringLiteral("startBrowser('page.html');\nfor (;;) { try { test.log('more'); } catch (e) {} }"));
+  // Closed outputs end programs unless these ignore the signal.
+  const ProgramResult result =
+      program.runInShell(QStringLiteral("trap '' PIPE; { \"$@\"; echo \"exit code $?\" >&2; } | head -n 3"),
+                         {QStringLiteral("run"), QStringLiteral("test.js"), QStringLiteral("test.js")});
+  EXPECT_EQ(result.errors, QStringLiteral("exit code 1\n"));
+  EXPECT_TRUE(result.output.endsWith(QLatin1String("  log     more\n"))) << qPrintable(result.output);
+  EXPECT_EQ(program.leftovers(), QStringList());
+  EXPECT_EQ(program.browserProcesses(), QList<qint64>());
+}
+
+}  // namespace
