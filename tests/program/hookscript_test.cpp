@@ -26,8 +26,9 @@ TEST(HookScript, PrintsTheTextAndNothingElse) {
 
 TEST(HookScript, BrokenSettingsLinesAreNamedAndCostNothing) {
   ProgramRun program;
-  program.write(QStringLiteral("ver1/webwrapper.ini"),
-                QStringLiteral("stray = 1\n[General]\nno \u001b[2Jequals sign\nCaseInsensitiveXPathNodeNameMatching = false\n"));
+  program.write(
+      QStringLiteral("ver1/webwrapper.ini"),
+      QStringLiteral("stray = 1\n[General]\nno \u001b[2Jequals sign\nCaseInsensitiveXPathNodeNameMatching = false\n"));
   const ProgramResult script = program.run({QStringLiteral("hook-script")});
   EXPECT_EQ(script.exitCode, 0);
   EXPECT_TRUE(script.output.endsWith(QLatin1String("caseInSensitiveMatching = 0;")));

@@ -15,13 +15,28 @@ QString countError(const QString& function, const QString& usage, int minArgumen
       .arg(function, expected, QString::number(got), usage);
 }
 
+namespace {
+
+QString nullError(const ScriptFunction& function, const ObjectList& arguments) {
+  for (int i = 0; i < function.minArguments && !function.takesNull; ++i) {
+    if (!arguments[i] || arguments[i]->isNull()) {
+      return QStringLiteral("%1 got null for argument number %2. Use it as %3.")
+          .arg(function.name, QString::number(i + 1), function.usage);
+    }
+  }
+  return QString();
+}
+
+}  // namespace
+
 GlobalFunctions::GlobalFunctions(const ScriptHost& host, const FunctionContext& context) : m_context(context) {
   for (const FunctionTable& family : {lookupFunctions(), treeFunctions(), inputFunctions(), waitingFunctions()}) {
     for (const FunctionRow& row : family) {
       add({QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments, row.maxArguments,
            [this, row](const ObjectList& arguments) {
              return row.run({row.name, m_context, arguments});
-           }});
+           },
+           true});
     }
   }
   for (const ScriptFunction& function : host.functions) {
@@ -46,7 +61,8 @@ ObjectResult GlobalFunctions::call(const QString& name, const ObjectList& argume
   if (found == m_functions.constEnd()) {
     return m_context.calls->callGlobalMethod(name, arguments);
   }
-  const QString error = countError(name, found->usage, found->minArguments, found->maxArguments, arguments.size());
+  QString error = countError(name, found->usage, found->minArguments, found->maxArguments, arguments.size());
+  error = error.isEmpty() ? nullError(*found, arguments) : error;
   if (!error.isEmpty()) {
     return ObjectResult::failure(error);
   }

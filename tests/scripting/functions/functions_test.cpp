@@ -175,6 +175,10 @@ TEST_F(ScriptFunctions, TheEmbeddingProcessAddsFunctions) {
                             }});
   EXPECT_EQ(errorOf("startBrowser('about:blank');\nstartBrowser('second');"), s("2: One is enough."));
   EXPECT_EQ(urls, QStringList({s("about:blank"), s("second")}));
+  for (const char* null : {"startBrowser(null);", "startBrowser(undefined);"}) {
+    EXPECT_EQ(errorOf(null), s("1: startBrowser got null for argument number 1. Use it as startBrowser(url)."));
+  }
+  EXPECT_EQ(urls.size(), 2);
 }
 
 TEST_F(ScriptFunctions, GlobalMethodsAreFunctionsWithOverloads) {
