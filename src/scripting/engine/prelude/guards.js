@@ -1,6 +1,6 @@
 // Turns recursion without end into script errors where it would end the program: the engine counts the calls of script
 // functions, but not how deep its own functions go into a value. Each step that these take now passes through a script
-// function, or is counted here.
+// function.
 (function (bridge, global) {
   function replace(holder, name, value) {
     Object.defineProperty(holder, name, { value: value, writable: true, configurable: true });
