@@ -17,6 +17,7 @@ void setDefaultPrefix() {
 }  // namespace
 
 int main(int argc, char** argv) {
+  Corvex::Webhook::holdClosedStreams();
   Corvex::Webhook::Cleanup::install();
   QCoreApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("corvexweb"));

@@ -78,33 +78,42 @@ TEST_F(HostileText, IsVisibleWhereAPageIsShown) {
   EXPECT_TRUE(QJsonDocument::fromJson(results[2].output.toUtf8()).isObject()) << qPrintable(results[2].output);
 }
 
-struct Command {
+struct Unwritable {
   const char* name;
+  const char* redirection;
+  const char* why;
   QStringList arguments;
 };
 
-void PrintTo(const Command& command, std::ostream* out) { *out << command.name; }
+void PrintTo(const Unwritable& unwritable, std::ostream* out) { *out << unwritable.name; }
 
-class FullOutput : public testing::TestWithParam<Command> {};
+class UnwritableOutput : public testing::TestWithParam<Unwritable> {};
 
-TEST_P(FullOutput, IsAFailureThatIsExplained) {
+TEST_P(UnwritableOutput, IsAFailureThatIsExplained) {
   ProgramRun program;
   program.write(QStringLiteral("page.html"), QStringLiteral("<p>x</p>"));
   program.write(QStringLiteral("good.js"), QStringLiteral("test.log('ran');"));
-  const ProgramResult result = program.runInShell(QStringLiteral("\"$@\" > /dev/full"), GetParam().arguments);
+  const ProgramResult result =
+      program.runInShell(QStringLiteral("\"$@\" ") + QString::fromLatin1(GetParam().redirection), GetParam().arguments);
   EXPECT_EQ(result.exitCode, 1);
-  EXPECT_TRUE(result.errors.contains(QLatin1String("corvexweb: The output cannot be written: No space left on device")))
-      << qPrintable(result.errors);
+  EXPECT_EQ(result.errors,
+            QStringLiteral("corvexweb: The output cannot be written: %1.\n").arg(QLatin1String(GetParam().why)));
   EXPECT_EQ(program.leftovers(), QStringList());
 }
 
-const Command commands[] = {
-    {"Run", {"run", "good.js"}}, {"Tree", {"tree", "page.html"}},    {"HookScript", {"hook-script"}},
-    {"Help", {"--help"}},        {"CommandHelp", {"run", "--help"}},
+const char* const full = "> /dev/full";
+const char* const noSpace = "No space left on device";
+const Unwritable unwritables[] = {
+    {"Run", full, noSpace, {"run", "good.js"}},
+    {"Closed", ">&-", "Bad file descriptor", {"run", "good.js"}},
+    {"Tree", full, noSpace, {"tree", "page.html"}},
+    {"HookScript", full, noSpace, {"hook-script"}},
+    {"Help", full, noSpace, {"--help"}},
+    {"CommandHelp", full, noSpace, {"run", "--help"}},
 };
 
-INSTANTIATE_TEST_SUITE_P(Program, FullOutput, testing::ValuesIn(commands),
-                         [](const auto& command) { return command.param.name; });
+INSTANTIATE_TEST_SUITE_P(Program, UnwritableOutput, testing::ValuesIn(unwritables),
+                         [](const auto& unwritable) { return unwritable.param.name; });
 
 TEST(ClosedOutput, EndsTheRunWhateverTheScriptDoes) {
   ProgramRun program;

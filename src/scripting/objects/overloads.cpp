@@ -14,6 +14,7 @@ namespace {
 
 // An array of a script may hold the same arrays many times.
 const int mostDescribed = 50;
+const int mostDescribedText = 1000;
 
 enum Distance { Unfit = -1, Same = 0, Near = 1, AsText = 100, ByCast = 200 };
 
@@ -117,7 +118,9 @@ QString describe(const SharedPtr<Object>& value, int* left) {
   }
   const QVariant primitive = primitiveValue(value);
   if (primitive.type() == QVariant::String) {
-    return QLatin1Char('\'') + primitive.toString() + QLatin1Char('\'');
+    const QString text = primitive.toString();
+    const QString end = text.size() > mostDescribedText ? QStringLiteral("...") : QString();
+    return QLatin1Char('\'') + text.left(mostDescribedText) + end + QLatin1Char('\'');
   }
   if (primitive.isValid()) {
     return primitive.toString();

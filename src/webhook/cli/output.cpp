@@ -6,6 +6,9 @@
 
 #include <QtGlobal>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace Corvex::Webhook {
 
 namespace {
@@ -34,6 +37,14 @@ int outputFailed(const std::error_code& error, int exitCode) {
 }
 
 void printError(const QString& text) { writeText(stderr, visibleText(text)); }
+
+void holdClosedStreams() {
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (fcntl(stream, F_GETFD) < 0) {
+      open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
+  }
+}
 
 void makeLogVisible() { qInstallMessageHandler(logVisibly); }
 

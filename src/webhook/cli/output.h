@@ -16,6 +16,10 @@ int outputFailed(const std::error_code& error, int exitCode);
 /// Prints sentences for the user to standard error, made visible.
 void printError(const QString& text);
 
+/// Has files that are opened later not take the places of standard streams that are closed, so that what is written to
+/// these fails. To be called first of all.
+void holdClosedStreams();
+
 /// From now on what is logged goes to standard error and is made visible: it may quote pages and browsers.
 void makeLogVisible();
 
