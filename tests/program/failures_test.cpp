@@ -55,6 +55,8 @@ const Failure failures[] = {
      "'/no/such.file': there is no such file", 1},
     {"NoServer", "startBrowser('http://127.0.0.1:1/');", "http://127.0.0.1:1/", 1},
     {"PageNeverAnswers", "startBrowser('stuck.html');", "stuck.html", 1},
+    {"NoName", "startBrowser('page.html');\nsetFrameContext(null);",
+     "setFrameContext got null for argument number 1. Use it as setFrameContext(path).", 1},
     {"ClosedWindow", "startBrowser('page.html');\ncloseWindow();\nfindObject('x');", "The browser window is closed.",
      1},
     {"SyntaxError", "startBrowser('page.html'\n", "test.js:", 1},

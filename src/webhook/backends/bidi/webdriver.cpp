@@ -1,11 +1,11 @@
 #include "webhook/backends/bidi/webdriver.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QJsonDocument>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 
+#include "shared/textfile.h"
 #include "shared/wait.h"
 #include "webhook/protocol/bidi.h"
 
@@ -131,11 +131,11 @@ void WebDriverSession::end() {
 WantedCapabilities wantedCapabilities(const QString& text, const QString& browser) {
   QByteArray json = text.isEmpty() ? QByteArray("{}") : text.toUtf8();
   if (text.startsWith(QLatin1Char('@'))) {
-    QFile file(text.mid(1));
-    if (!file.open(QIODevice::ReadOnly)) {
-      return {{}, badCapabilities(QStringLiteral("the file '%1' cannot be read").arg(file.fileName()))};
+    const FunctionCallResult<QString> file = readTextFile(text.mid(1));
+    if (file.failed()) {
+      return {{}, badCapabilities(QStringLiteral("the file '%1' cannot be read: %2").arg(text.mid(1), file.error))};
     }
-    json = file.readAll();
+    json = file.value.toUtf8();
   }
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(json, &error);

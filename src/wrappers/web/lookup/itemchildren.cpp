@@ -1,5 +1,6 @@
 #include "wrappers/web/lookup/itemchildren.h"
 
+#include "shared/visibletext.h"
 #include "wrappers/web/itemviews/html_calendarview.h"
 #include "wrappers/web/itemviews/html_menu.h"
 #include "wrappers/web/object/retrievehtmlobject.h"
@@ -62,7 +63,7 @@ ObjectList itemsOfView(HTML_Object* object) {
   const FunctionCallResult<ObjectList> items =
       fetchItems("__corvex__fetchItemViewChildren", *view, view->extensionObject());
   if (items.failed()) {
-    std::fprintf(stderr, "Error obtaining itemview children: %s\n", qUtf8Printable(items.error));
+    std::fprintf(stderr, "Error obtaining itemview children: %s\n", qUtf8Printable(visibleText(items.error)));
   }
   return items.value;
 }
@@ -72,12 +73,12 @@ ObjectList itemsOfMenu(HTML_Object* object) {
   auto* menu = dynamic_cast<HTML_Menu*>(object);
   const FunctionCallResult<int> count = menu ? menu->numItems() : FunctionCallResult<int>::success(0);
   if (count.failed()) {
-    std::fprintf(stderr, "Error obtaining number of menu items: %s\n", qUtf8Printable(count.error));
+    std::fprintf(stderr, "Error obtaining number of menu items: %s\n", qUtf8Printable(visibleText(count.error)));
   }
   for (int i = 0; i < count.value; ++i) {
     const FunctionCallResult<HTML_MenuItem*> item = menu->itemAt(i);
     if (item.failed()) {
-      std::fprintf(stderr, "%s\n", qUtf8Printable(item.error));
+      std::fprintf(stderr, "%s\n", qUtf8Printable(visibleText(item.error)));
       return list;
     }
     append(item.value, &list);
@@ -90,12 +91,12 @@ ObjectList eventsOfCalendar(HTML_Object* object) {
   auto* calendar = dynamic_cast<HTML_CalendarView*>(object);
   const FunctionCallResult<int> count = calendar ? calendar->numVisibleEvents() : FunctionCallResult<int>::success(0);
   if (count.failed()) {
-    std::fprintf(stderr, "Error obtaining number of events: %s\n", qUtf8Printable(count.error));
+    std::fprintf(stderr, "Error obtaining number of events: %s\n", qUtf8Printable(visibleText(count.error)));
   }
   for (int i = 0; i < count.value; ++i) {
     const FunctionCallResult<HTML_Object*> event = calendar->visibleEventAt(i);
     if (event.failed()) {
-      std::fprintf(stderr, "Error obtaining event at %d: %s\n", i, qUtf8Printable(event.error));
+      std::fprintf(stderr, "Error obtaining event at %d: %s\n", i, qUtf8Printable(visibleText(event.error)));
     }
     append(event.value, &list);
   }
