@@ -23,7 +23,7 @@ struct HookCase {
 
 std::vector<HookCase> allCases() {
   std::vector<HookCase> cases;
-  const QDir folder(TestSupport::testFile(QStringLiteral("hook")));
+  const QDir folder(TestSupport::testFile(QStringLiteral("wrappers/web/hook")));
   for (const QString& name : folder.entryList({QStringLiteral("*_cases.json")}, QDir::Files, QDir::Name)) {
     QFile file(folder.filePath(name));
     if (file.open(QIODevice::ReadOnly)) {
