@@ -48,7 +48,8 @@ __corvex__xpath.textOfNode = function (node) {
   var read = __corvex__xpath.read;
   var type = read.nodeType(node);
   if (type !== 1 && type !== 9 && type !== 11) {
-    return type === 2 ? node.value : node.nodeValue;
+    // A document type has no value.
+    return (type === 2 ? node.value : node.nodeValue) || "";
   }
   var text = type === 9 ? undefined : read.textContent(node);
   if (typeof text === "string") {
