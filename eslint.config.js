@@ -71,6 +71,18 @@ module.exports = [
     rules
   },
   {
+    files: ['tests/wrappers/web/hook/*.js'],
+    languageOptions: {
+      ecmaVersion: 2022,
+      sourceType: 'script',
+      globals: {
+        ...page, ...readonly('XPathResult frames innerWidth innerHeight screenX screenY outerWidth outerHeight devicePixelRatio'),
+        ...declaredIn(hook), ...declaredIn(extensions), __corvex: 'readonly', test: 'readonly'
+      }
+    },
+    rules
+  },
+  {
     files: ['eslint.config.js', 'cmake/**/*.js'],
     languageOptions: {
       ecmaVersion: 2022,
