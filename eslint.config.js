@@ -26,7 +26,7 @@ const page = readonly(`window top document location navigator screen event alert
   setTimeout setInterval clearTimeout clearInterval escape unescape
   Node Element HTMLElement HTMLFormElement ShadowRoot Document NodeFilter Event CustomEvent MouseEvent KeyboardEvent
   UIEvent TouchEvent Touch InputEvent FocusEvent PointerEvent DataTransfer XMLHttpRequest ActiveXObject
-  getComputedStyle sessionStorage Map WeakMap Set console Components`);
+  getComputedStyle sessionStorage Map WeakMap Set Symbol console Components`);
 
 // Placed in the page beside the script, and only read by it.
 const flags = readonly(`__corvex__filter__non__element__nodes __corvex__eventLoggerBridge

@@ -64,8 +64,8 @@ function __corvex__windowOfSource(win, elem) {
     return win;
   }
   var root = elem;
-  while (__corvex__node.parentNode(root)) {
-    root = __corvex__node.parentNode(root);
+  while (__corvex__nodeReader.parentNode(root)) {
+    root = __corvex__nodeReader.parentNode(root);
   }
   return root === win.document ? win : __corvex__findDocument(win, root) || win;
 }
@@ -158,7 +158,7 @@ function __corvex__logUnload(e) {
   window.old_onunload = undefined;
   try {
     if (handler) {
-      handler.call(window, e);
+      __corvex__natives.apply(handler, window, [e]);
     }
   } finally {
     __corvex__sendUnload(e);
@@ -235,10 +235,10 @@ function __corvex__tabIdLogEventParameter() {
 // url: the text to put the object behind.
 function __corvex__logPickEvent(e, o, url) {
   var node = o;
-  var nodeType = __corvex__node.nodeType(node);
+  var nodeType = __corvex__nodeReader.nodeType(node);
   while (node && nodeType !== 1 && nodeType !== 9) {
-    node = __corvex__node.parentNode(node);
-    nodeType = node && __corvex__node.nodeType(node);
+    node = __corvex__nodeReader.parentNode(node);
+    nodeType = node && __corvex__nodeReader.nodeType(node);
   }
   var text = url + "pickedObject&object=" + __corvex__nameOf(node) + __corvex__tabIdLogEventParameter();
   // So late that the click behind a press is swallowed, too.
@@ -249,7 +249,7 @@ function __corvex__logPickEvent(e, o, url) {
 }
 
 function __corvex__isFunction(obj) {
-  return typeof obj == "function" || Object.prototype.toString.call(obj) == "[object Function]";
+  return typeof obj == "function" || __corvex__natives.classOf(obj) == "[object Function]";
 }
 
 function __corvex__pickableObject(elem) {

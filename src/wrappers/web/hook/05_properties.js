@@ -56,7 +56,7 @@ function __corvex__readProperty(obj, propName) {
   return value;
 }
 
-window.top.__corvex.getPropertyValue = function (obj, propName) {
+function __corvex__propertyValue(obj, propName) {
   var value;
   try {
     if (__corvex__isReservedJsKeyword(propName)) {
@@ -74,4 +74,6 @@ window.top.__corvex.getPropertyValue = function (obj, propName) {
     return "";
   }
   return value === null ? "null" : value;
-};
+}
+
+window.top.__corvex.getPropertyValue = __corvex__propertyValue;

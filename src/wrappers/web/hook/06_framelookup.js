@@ -48,13 +48,13 @@ var __corvex__targetWindows = {
 
 // A named window that is no frame is not resolved: a reference to it would not outlive the page.
 function __corvex__findTargetWindow(elem) {
-  var start = __corvex__node.ownerDocument(elem).defaultView;
+  var start = __corvex__nodeReader.ownerDocument(elem).defaultView;
   // A field of that name hides the target of a form.
-  var target = typeof elem.target == "object" ? Element.prototype.getAttribute.call(elem, "target") : elem.target;
+  var target = typeof elem.target == "object" ? __corvex__attributeOf(elem, "target") : elem.target;
   if (!target) {
     return start;
   }
-  if (__corvex__targetWindows.hasOwnProperty(target)) {
+  if (__corvex__natives.has(__corvex__targetWindows, target)) {
     return __corvex__targetWindows[target](start);
   }
   var frame = __corvex__findFrameRecursive(__corvex__topWindow.document, target);

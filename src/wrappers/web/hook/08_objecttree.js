@@ -20,7 +20,7 @@ window.top.__corvex.readPropertiesFromObjects = function (objectinfolist) {
     if (object) {
       var values = {};
       for (var name in getters) {
-        if (Object.prototype.hasOwnProperty.call(getters, name)) {
+        if (__corvex__natives.has(getters, name)) {
           values[name] = getters[name]();
         }
       }

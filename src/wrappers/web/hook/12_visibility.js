@@ -6,7 +6,7 @@ function __corvex__styleInfo(elem) {
 }
 
 __corvex__styleInfo.prototype.hasComputedStyle = function (obj) {
-  return !!__corvex__node.ownerDocument(obj).defaultView.getComputedStyle;
+  return !!__corvex__nodeReader.ownerDocument(obj).defaultView.getComputedStyle;
 };
 
 // Undefined where the style cannot be read.
@@ -16,11 +16,11 @@ __corvex__styleInfo.prototype.styleProperty = function (prop) {
       return undefined;
     }
     if (this.hasComputedStyle(this.obj)) {
-      return __corvex__node.ownerDocument(this.obj).defaultView.getComputedStyle(this.obj, null)[prop];
+      return __corvex__nodeReader.ownerDocument(this.obj).defaultView.getComputedStyle(this.obj, null)[prop];
     }
     var obj = this.obj;
     while (obj.currentStyle[prop] == "inherit") {
-      obj = __corvex__node.parentNode(obj);
+      obj = __corvex__nodeReader.parentNode(obj);
     }
     return obj.currentStyle[prop];
   } catch (e) {
@@ -31,7 +31,7 @@ __corvex__styleInfo.prototype.styleProperty = function (prop) {
 function __corvex__hasDisplayNone(elem) {
   try {
     // A document ends the walk: it has no style.
-    for (var node = elem; node && __corvex__node.nodeType(node) !== 9; node = __corvex__node.parentNode(node)) {
+    for (var node = elem; node && __corvex__nodeReader.nodeType(node) !== 9; node = __corvex__nodeReader.parentNode(node)) {
       if (new __corvex__styleInfo(node).styleProperty("display") == "none") {
         return true;
       }
@@ -66,7 +66,7 @@ var __corvex__isSurelyVisible = (function () {
 
 function __corvex__isVisibleByStyle(elem) {
   try {
-    if (!elem || elem === __corvex__node.ownerDocument(elem)) {
+    if (!elem || elem === __corvex__nodeReader.ownerDocument(elem)) {
       return true;
     }
     var style = new __corvex__styleInfo(elem);
@@ -74,7 +74,7 @@ function __corvex__isVisibleByStyle(elem) {
     if (style.styleProperty("display") == "none" || style.styleProperty("visibility") == "hidden") {
       return false;
     }
-    return !__corvex__hasDisplayNone(__corvex__node.parentNode(elem));
+    return !__corvex__hasDisplayNone(__corvex__nodeReader.parentNode(elem));
   } catch (e) {
     return true;
   }

@@ -122,7 +122,7 @@ function __corvex__wantsTrue(value) {
 
 var __corvex__propertyTests = {
   id: function (o, value) {
-    return __corvex__propMatches(value, __corvex__idHelper(__corvex__node.id(o)));
+    return __corvex__propMatches(value, __corvex__idHelper(__corvex__nodeReader.id(o)));
   },
   img_alt: function (o, value) {
     return __corvex__matchesPlainOrCleaned(value, o.alt);
@@ -155,7 +155,7 @@ function __corvex__valueAtPath(o, path) {
 
 // A form may hide the function behind a field; what is no element has none.
 function __corvex__attributeOf(o, name) {
-  return typeof o.getAttribute === "function" ? o.getAttribute(name) : Element.prototype.getAttribute.call(o, name);
+  return typeof o.getAttribute === "function" ? o.getAttribute(name) : __corvex__natives.apply(Element.prototype.getAttribute, o, [name]);
 }
 
 function __corvex__otherPropertyMatches(o, prop, value) {
@@ -175,7 +175,7 @@ function __corvex__otherPropertyMatches(o, prop, value) {
 
 // A function that tells whether an element has this value of this property.
 function __corvex__testOfProperty(prop, value) {
-  if (Object.prototype.hasOwnProperty.call(__corvex__propertyTests, prop)) {
+  if (__corvex__natives.has(__corvex__propertyTests, prop)) {
     var test = __corvex__propertyTests[prop];
     return function (o) {
       return test(o, value);

@@ -12,7 +12,7 @@ window.top.__corvex.hasFocus = (function () {
   }
 
   return function (element) {
-    var doc = __corvex__node.ownerDocument(element);
+    var doc = __corvex__nodeReader.ownerDocument(element);
     if (typeof ShadowRoot != "undefined") {
       doc = element.getRootNode();
       while (__corvex__isShadowRoot(doc)) {

@@ -83,6 +83,7 @@ window.hookCases = (() => {
     Object.assign(__corvex__natives, {
       Request: kit.Request,
       setTimeout: (f, ms) => kit.timers.push({ f, ms }),
+      whenDone: (action) => action(),
       sendAndForget: (method, url) => kit.sent.push("kept " + method + " " + messageOf(url)) > 0
     });
     kit.useNetwork = () => Object.assign(__corvex__natives, { Request, setTimeout });

@@ -1,5 +1,5 @@
-// Gives: what pages replace and the runtime must not lose: __corvex__natives (requests, timers, clock), functions, maps.
-// Needs: nothing; it is evaluated before the page's own scripts.
+// Gives: __corvex__natives: what pages replace and the hook script must not lose: calls, requests, timers, the clock.
+// Needs: nothing.
 
 var __corvex__natives = (function () {
   var Request = window.XMLHttpRequest;
@@ -12,7 +12,19 @@ var __corvex__natives = (function () {
   var stopTimeout = window.clearTimeout;
   var startInterval = window.setInterval;
   var stopInterval = window.clearInterval;
+  var queueTask = window.queueMicrotask;
+  // A bound call looks nothing up when it is called.
+  var unbound = Function.prototype.bind.bind(Function.prototype.call);
+  var timeOf = unbound(Clock.prototype.getTime);
   return {
+    // A function for f.call( self, ... ), which gets self as its first argument.
+    unbound: unbound,
+    // As f.apply( self, args ).
+    apply: unbound(Function.prototype.apply),
+    has: unbound(Object.prototype.hasOwnProperty),
+    // "[object Array]" and the like.
+    classOf: unbound(Object.prototype.toString),
+    charCodeAt: unbound(String.prototype.charCodeAt),
     Request: Request,
     createRequest: function () {
       var request = new __corvex__natives.Request();
@@ -40,8 +52,16 @@ var __corvex__natives = (function () {
       }));
       return true;
     },
+    // Calls action as soon as the running script is done, or at once where the browser cannot.
+    whenDone: function (action) {
+      if (queueTask) {
+        queueTask(action);
+      } else {
+        action();
+      }
+    },
     milliseconds: function () {
-      return new Clock().getTime();
+      return timeOf(new Clock());
     },
     setTimeout: function (action, delay) {
       return startTimeout(action, delay);
@@ -59,10 +79,12 @@ var __corvex__natives = (function () {
 })();
 
 // A function of the browser to be kept, as it is now: a page may replace it later. null where it did so before.
-function __corvex__nativeFunction(f) {
-  var isNative = typeof f == "function" && Function.prototype.toString.call(f).indexOf("[native code]") != -1;
-  return isNative ? f : null;
-}
+var __corvex__nativeFunction = (function () {
+  var textOf = __corvex__natives.unbound(Function.prototype.toString);
+  return function (f) {
+    return typeof f === "function" && textOf(f).indexOf("[native code]") !== -1 ? f : null;
+  };
+})();
 
 // A map whose keys may be objects, also where a page replaces Map or its methods; null where there is none to trust.
 var __corvex__createMap = (function () {
@@ -79,18 +101,3 @@ var __corvex__createMap = (function () {
     return map;
   };
 })();
-
-// What the browser calls from outside has no caller of ours to catch an error: the page would see it as its own.
-function __corvex__quiet(action) {
-  return function () {
-    try {
-      return action.apply(this, arguments);
-    } catch (e) {
-      return undefined;
-    }
-  };
-}
-
-function __corvex__later(action, delay) {
-  __corvex__natives.setTimeout(__corvex__quiet(action), delay);
-}

@@ -39,7 +39,7 @@ function __corvex__nameHelper(o, n, nm) {
   if (n === "simplifiedInnerText") {
     value = window.top.__corvex.getSimplifiedInnerText(o);
   } else {
-    value = n === "tagName" || n === "id" ? __corvex__node[n](o) : o[n];
+    value = n === "tagName" || n === "id" ? __corvex__nodeReader[n](o) : o[n];
     if (n === "id") {
       value = __corvex__idHelper(value);
     } else if (n === "innerText") {

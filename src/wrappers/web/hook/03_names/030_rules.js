@@ -27,7 +27,7 @@ function __corvex__formOfInput(o) {
   if (!o.form || !__corvex__isElementAvailableFromForm(o, o.form)) {
     return "";
   }
-  var id = __corvex__node.id(o.form);
+  var id = __corvex__nodeReader.id(o.form);
   if (id) {
     return __corvex__formText(id);
   }
@@ -116,7 +116,7 @@ function __corvex__nameOfImage(o) {
 }
 
 function __corvex__nameOfBySingleProp(o) {
-  var id = __corvex__node.id(o);
+  var id = __corvex__nodeReader.id(o);
   if (id) {
     return id;
   }

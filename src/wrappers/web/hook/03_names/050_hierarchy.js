@@ -1,12 +1,12 @@
 // Gives: __corvex__uniqueNameInLeaf, __corvex__leafNamer and __corvex__qualifiedName: hierarchical names.
-// Needs: __corvex__node, __corvex__isShadowRoot; __corvexDOMAPI when called.
+// Needs: __corvex__nodeReader, __corvex__isShadowRoot; __corvexDOMAPI when called.
 
 // The leaf of a node whatever its siblings are; empty if they have to be counted.
 function __corvex__specialLeaf(o) {
   if (__corvex__isShadowRoot(o)) {
     return "SHADOW_ROOT";
   }
-  if (!__corvex__node.parentNode(o)) {
+  if (!__corvex__nodeReader.parentNode(o)) {
     return "DOCUMENT";
   }
   return o.classname && String(o.classname).indexOf("qx") !== -1 ? "qx_Widget" : "";
@@ -17,11 +17,11 @@ function __corvex__uniqueNameInLeaf(o) {
   if (special) {
     return special;
   }
-  var tagName = __corvex__node.tagName(o);
+  var tagName = __corvex__nodeReader.tagName(o);
   var count = 1;
-  var sibling = __corvexDOMAPI.firstChild(__corvex__node.parentNode(o));
+  var sibling = __corvexDOMAPI.firstChild(__corvex__nodeReader.parentNode(o));
   while (sibling && sibling !== o) {
-    if (__corvex__node.tagName(sibling) === tagName) {
+    if (__corvex__nodeReader.tagName(sibling) === tagName) {
       ++count;
     }
     sibling = __corvexDOMAPI.nextSibling(sibling);
@@ -34,7 +34,7 @@ function __corvex__uniqueNameInLeaf(o) {
 function __corvex__leafNamer() {
   var counts = {};
   return function (child) {
-    var tagName = __corvex__node.tagName(child);
+    var tagName = __corvex__nodeReader.tagName(child);
     // Behind a prefix, since a page may make an element of any name, NODE among them.
     var kind = tagName ? "tag " + tagName : "none";
     counts[kind] = (counts[kind] || 0) + 1;
@@ -46,7 +46,7 @@ function __corvex__qualifiedName(o) {
   var name = "";
   while (o) {
     name = __corvex__uniqueNameInLeaf(o) + "." + name;
-    o = __corvex__isShadowRoot(o) ? o.host : __corvex__node.parentNode(o);
+    o = __corvex__isShadowRoot(o) ? o.host : __corvex__nodeReader.parentNode(o);
   }
   return name.substring(0, name.length - 1);
 }

@@ -7,16 +7,16 @@ var __corvex__textElements = { SPAN: 1, DIV: 1, LI: 1, TD: 1, TR: 1, LABEL: 1 };
 var __corvex__controlElements = { INPUT: 1, SELECT: 1, BUTTON: 1 };
 
 function __corvex__enclosingLink(o) {
-  while (o && __corvex__node.tagName(o) !== "A") {
-    o = __corvex__node.parentNode(o);
+  while (o && __corvex__nodeReader.tagName(o) !== "A") {
+    o = __corvex__nodeReader.parentNode(o);
   }
   return o;
 }
 
 // The rule for an element that is neither control nor image nor part of a link; undefined if none applies.
 function __corvex__nameOfPlainElement(o, forceMultiProp) {
-  var tagName = __corvex__node.tagName(o);
-  if (tagName && (o.name || o.title || (__corvex__idsAreNamed() && __corvex__node.id(o)))) {
+  var tagName = __corvex__nodeReader.tagName(o);
+  if (tagName && (o.name || o.title || (__corvex__idsAreNamed() && __corvex__nodeReader.id(o)))) {
     return __corvex__nameOfNamedElement(o);
   }
   if (__corvex__textElements[String(tagName).toUpperCase()] === 1 && __corvex__clean(o.innerText)) {
@@ -26,7 +26,7 @@ function __corvex__nameOfPlainElement(o, forceMultiProp) {
 }
 
 function __corvex__propertyNameOf(o, noUnify, forceMultiProp) {
-  var tagName = __corvex__node.tagName(o);
+  var tagName = __corvex__nodeReader.tagName(o);
   var name, link;
   if (__corvex__controlElements[tagName] === 1) {
     name = __corvex__nameOfInput(o);

@@ -5,7 +5,7 @@ function __corvex__getFrameOffset(win) {
   var offset = { x: 0, y: 0 };
   try {
     for (var w = win; ; w = w.parent) {
-      for (var elem = w.frameElement; elem; elem = __corvex__node.offsetParent(elem)) {
+      for (var elem = w.frameElement; elem; elem = __corvex__nodeReader.offsetParent(elem)) {
         offset.x += elem.offsetLeft;
         offset.y += elem.offsetTop;
         // There the frame's border is not part of the offset.

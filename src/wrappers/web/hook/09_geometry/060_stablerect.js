@@ -27,7 +27,7 @@ window.top.__corvex.getElementRectAsObject = function (e) {
   if (box) {
     return { x: rect.x + box.x, y: rect.y + box.y, width: box.width, height: box.height };
   }
-  for (var elem = e; elem; elem = __corvex__node.offsetParent(elem)) {
+  for (var elem = e; elem; elem = __corvex__nodeReader.offsetParent(elem)) {
     rect.x += elem.offsetLeft;
     rect.y += elem.offsetTop;
   }

@@ -16,9 +16,9 @@ function __corvex__isClippingChildren(e) {
 function __corvex__hierarchyInformation(element) {
   var info = { offsetParents: [], clippingParent: null };
   var lastOffsetElement = element;
-  var parent = __corvex__node.parentNode(element);
-  while (parent && !__corvex__isDocumentNode(parent) && !/^(HTML|BODY)$/.test(__corvex__node.tagName(parent))) {
-    if (parent === __corvex__node.offsetParent(lastOffsetElement)) {
+  var parent = __corvex__nodeReader.parentNode(element);
+  while (parent && !__corvex__isDocumentNode(parent) && !/^(HTML|BODY)$/.test(__corvex__nodeReader.tagName(parent))) {
+    if (parent === __corvex__nodeReader.offsetParent(lastOffsetElement)) {
       info.offsetParents.push(parent);
       lastOffsetElement = parent;
     }
@@ -26,7 +26,7 @@ function __corvex__hierarchyInformation(element) {
       info.clippingParent = parent;
       break;
     }
-    parent = __corvex__node.parentNode(parent);
+    parent = __corvex__nodeReader.parentNode(parent);
   }
   return info;
 }
@@ -39,7 +39,7 @@ function __corvex__isRectOutsideOfClippingElementBounds(rectangle, element) {
 }
 
 function __corvex__isElementScrolledOutOfClippingParent(element) {
-  if (__corvex__node.tagName(element) == "BODY") {
+  if (__corvex__nodeReader.tagName(element) == "BODY") {
     return false;
   }
   var info = __corvex__hierarchyInformation(element);
@@ -87,7 +87,7 @@ window.top.__corvex.getElementRectangleInDocument = function (element, zoomFacto
     width: Math.max(element.scrollWidth, element.offsetWidth),
     height: Math.max(element.scrollHeight, element.offsetHeight)
   };
-  for (; element; element = __corvex__node.offsetParent(element)) {
+  for (; element; element = __corvex__nodeReader.offsetParent(element)) {
     rect.x += element.offsetLeft || 0;
     rect.y += element.offsetTop || 0;
   }

@@ -7,7 +7,7 @@ function __corvex__formControls(form) {
   if (list && !list.nodeType && typeof list.length === "number") {
     return list;
   }
-  return Object.getOwnPropertyDescriptor(HTMLFormElement.prototype, "elements").get.call(form);
+  return __corvex__natives.apply(Object.getOwnPropertyDescriptor(HTMLFormElement.prototype, "elements").get, form, []);
 }
 
 // A shadow root has only the selection by selectors. A document or a form may hide the function behind an element.
@@ -19,7 +19,7 @@ function __corvex__elementsByTag(container, tagName) {
     return container.querySelectorAll(tagName);
   }
   var type = __corvex__isDocumentNode(container) ? Document : Element;
-  return type.prototype.getElementsByTagName.call(container, tagName);
+  return __corvex__natives.apply(type.prototype.getElementsByTagName, container, [tagName]);
 }
 
 function __corvex__findFormInContainer(container, formName) {
@@ -70,7 +70,7 @@ function __corvex__candidates(container, map) {
 
 // The candidates with those of the container's own shadow root behind them, where the object model shows it too.
 function __corvex__withShadowCandidates(candidates, container, tagName) {
-  var shadowRoot = __corvex__node.shadowRoot(container);
+  var shadowRoot = __corvex__nodeReader.shadowRoot(container);
   if (!shadowRoot) {
     return candidates;
   }

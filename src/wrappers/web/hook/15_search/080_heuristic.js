@@ -28,7 +28,7 @@ function __corvex__labelledOrButton(doc, text) {
 
 function __corvex__findObjectByHeuristic(nm) {
   var doc = __corvex__ctxwin.document;
-  return __corvex__firstWithText(__corvex__node.links(doc), nm) ||
+  return __corvex__firstWithText(__corvex__nodeReader.links(doc), nm) ||
     __corvex__askDocument(doc, "getElementById", nm) ||
     __corvex__askDocument(doc, "getElementsByName", nm)[0] ||
     __corvex__labelledOrButton(doc, nm) ||

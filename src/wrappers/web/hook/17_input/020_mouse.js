@@ -11,7 +11,7 @@ function __corvex__hookupViewOf(o) {
 function __corvex__runClickHooks(args) {
   var hooks = window.__corvex__click__hooks;
   for (var i = 0; i < hooks.length; ++i) {
-    if (hooks[i].apply(window, args)) {
+    if (__corvex__natives.apply(hooks[i], window, args)) {
       return true;
     }
   }

@@ -9,7 +9,7 @@ function __corvex__makeTouchEvent(evtType, o, touches, ctrl, shift, alt) {
     if (__corvex__isCocoaTouchWebViewBrowser() || __corvex__isProxyOnMobileDevice()) {
       args.push(1.0, 0.0);
     }
-    touchevent.initTouchEvent.apply(touchevent, args);
+    __corvex__natives.apply(touchevent.initTouchEvent, touchevent, args);
     return touchevent;
   } catch (e) {
     return new TouchEvent(evtType, {

@@ -6,7 +6,7 @@ function __corvex__sendKeyEvent(o, ev, ch) {
   if (!o) {
     return;
   }
-  var keycode = ch.charCodeAt(0);
+  var keycode = __corvex__natives.charCodeAt(ch, 0);
   var evt;
   if (__corvex__useIE8AndOlderEventDispatching(o)) {
     evt = o.ownerDocument.createEventObject();
@@ -37,7 +37,7 @@ function __corvex__sendTextInputEvent(o, c) {
 // Sends keys only: the value of a field is set by __corvex__setTextFieldValue.
 function __corvex__typeText(o, txt) {
   for (var i = 0; i < txt.length; ++i) {
-    var c = txt.charAt(i);
+    var c = txt[i];
     __corvex__sendKeyEvent(o, "keydown", c);
     __corvex__sendKeyEvent(o, "keypress", c);
     if (__corvex__isEmbeddedAppleWebkitBrowser()) {

@@ -63,13 +63,13 @@ function __corvex__selectOptions(e, values, getValueFromOptionFunc) {
 }
 
 // The last character tells the separator, where it is one.
-function __corvex__createTextArrayFromMultiOptionString(text) {
+var __corvex__createTextArrayFromMultiOptionString = __corvex__withBuiltIns(function (text) {
   var separator = text.charAt(text.length - 1);
   if (separator !== "" && __corvex__seps.indexOf(separator) != -1) {
     return text.substring(0, text.length - 1).split(separator);
   }
   return text.split(",");
-}
+});
 
 function __corvex__selectMultiOption(e, text) {
   var values = __corvex__createTextArrayFromMultiOptionString(text);

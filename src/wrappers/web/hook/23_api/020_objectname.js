@@ -33,7 +33,7 @@ Corvex.ObjectName.prototype.getPropertyNames = function () {
   }
   var names = [];
   for (var name in this.properties) {
-    if (Object.prototype.hasOwnProperty.call(this.properties, name)) {
+    if (__corvex__natives.has(this.properties, name)) {
       names.push(name);
     }
   }

@@ -38,9 +38,9 @@ __corvex__xpath.textOfNumber = function (number) {
       this.value = value;
       this.type = type;
     };
-    Value.prototype.booleanValue = toBoolean;
-    Value.prototype.numberValue = toNumber;
-    Value.prototype.stringValue = toText;
+    Value.prototype.booleanValue = __corvex__withBuiltIns(toBoolean);
+    Value.prototype.numberValue = __corvex__withBuiltIns(toNumber);
+    Value.prototype.stringValue = __corvex__withBuiltIns(toText);
     Value.prototype.nodeSetValue = noNodeSet;
     return Value;
   }

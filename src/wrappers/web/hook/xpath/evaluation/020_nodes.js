@@ -1,15 +1,16 @@
 // Gives: __corvex__xpath.read, parentOf, rootOf, textOfNode, ordered: what nodes hold, also where a page hides it.
-// Needs: __corvex__xpath, __corvex__node.
+// Needs: __corvex__xpath, __corvex__nodeReader.
 
-// As __corvex__node, with further properties.
+// As __corvex__nodeReader, with further properties.
 __corvex__xpath.read = (function () {
   function reader(type, name) {
     var getter;
     try {
       getter = Object.getOwnPropertyDescriptor(type.prototype, name).get;
     } catch (e) { /* an engine without getters on prototypes */ }
+    var get = getter && __corvex__natives.unbound(getter);
     return function (node) {
-      return getter ? getter.call(node) : node[name];
+      return get ? get(node) : node[name];
     };
   }
 
@@ -18,9 +19,9 @@ __corvex__xpath.read = (function () {
     localName: reader(window.Element, "localName"),
     textContent: reader(window.Node, "textContent")
   };
-  for (var name in __corvex__node) {
-    if (Object.prototype.hasOwnProperty.call(__corvex__node, name)) {
-      read[name] = __corvex__node[name];
+  for (var name in __corvex__nodeReader) {
+    if (__corvex__natives.has(__corvex__nodeReader, name)) {
+      read[name] = __corvex__nodeReader[name];
     }
   }
   return read;
@@ -39,9 +40,13 @@ __corvex__xpath.rootOf = function (node) {
   return node;
 };
 
+// As a.compareDocumentPosition( b ); undefined where the browser has none.
+__corvex__xpath.comparePlaces = window.Node && window.Node.prototype.compareDocumentPosition &&
+  __corvex__natives.unbound(window.Node.prototype.compareDocumentPosition);
+
 __corvex__xpath.isBelow = function (node, ancestor) {
-  var compare = window.Node && window.Node.prototype.compareDocumentPosition;
-  return !!compare && node.nodeType !== 2 && (compare.call(ancestor, node) & 16) !== 0;
+  var compare = __corvex__xpath.comparePlaces;
+  return !!compare && node.nodeType !== 2 && (compare(ancestor, node) & 16) !== 0;
 };
 
 __corvex__xpath.textOfNode = function (node) {
@@ -68,10 +73,10 @@ __corvex__xpath.textOfNode = function (node) {
 // The nodes in document order, each once.
 __corvex__xpath.ordered = (function () {
   var NativeSet = typeof Set === "function" && Set.prototype.has ? Set : null;
-  var compareNodes = window.Node && window.Node.prototype.compareDocumentPosition;
+  var compareNodes = __corvex__xpath.comparePlaces;
 
   function precedes(a, b) {
-    return compareNodes.call(a, b) & 4;
+    return compareNodes(a, b) & 4;
   }
 
   function unique(nodes) {

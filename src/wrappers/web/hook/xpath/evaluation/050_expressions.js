@@ -78,7 +78,7 @@ __corvex__xpath.evaluate = (function () {
   }
 
   function call(tree, ctx) {
-    var known = Object.prototype.hasOwnProperty.call(__corvex__xpath.functions, tree.name);
+    var known = __corvex__natives.has(__corvex__xpath.functions, tree.name);
     if (!known) {
       throw new Error("XPath 1.0 has no function " + tree.name + "()");
     }

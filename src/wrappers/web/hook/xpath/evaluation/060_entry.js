@@ -36,16 +36,16 @@ ExprContext.prototype.setVariable = function (name, value) {
 
 ExprContext.prototype.getVariable = function (name) {
   for (var ctx = this; ctx; ctx = ctx.parent) {
-    if (Object.prototype.hasOwnProperty.call(ctx.variables, name)) {
+    if (__corvex__natives.has(ctx.variables, name)) {
       return ctx.variables[name];
     }
   }
   throw new Error("The XPath variable $" + name + " has no value");
 };
 
-function xpathDomEval(expr, node) {
+var xpathDomEval = __corvex__withBuiltIns(function (expr, node) {
   var tree = __corvex__xpath.parse(expr);
   var ctx = new ExprContext(node);
   ctx.setCaseInsensitive(!!top.__corvex__xpath__caseInSensitiveMatching);
   return __corvex__xpath.evaluate(tree, ctx);
-}
+});

@@ -197,7 +197,7 @@ __corvex__xpath.parse = (function () {
       return true;
     }
     for (var key in node) {
-      if (Object.prototype.hasOwnProperty.call(node, key) && asksForPosition(node[key])) {
+      if (__corvex__natives.has(node, key) && asksForPosition(node[key])) {
         return true;
       }
     }

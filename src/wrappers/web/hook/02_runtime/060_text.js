@@ -42,7 +42,7 @@ function __corvex__listContains(s, entry) {
     return false;
   }
   // An animated string of SVG.
-  var list = Object.prototype.hasOwnProperty.call(s, "baseVal") ? s.baseVal : s;
+  var list = __corvex__natives.has(s, "baseVal") ? s.baseVal : s;
   if (!list) {
     return false;
   }
@@ -56,7 +56,7 @@ function __corvex__listContains(s, entry) {
 }
 
 function __corvex__hasClass(elem, className) {
-  return typeof elem != "function" && __corvex__listContains(__corvex__node.className(elem), className);
+  return typeof elem != "function" && __corvex__listContains(__corvex__nodeReader.className(elem), className);
 }
 
 function __corvex__getElementByClassName(context, className, tagName) {

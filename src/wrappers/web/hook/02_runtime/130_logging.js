@@ -32,7 +32,7 @@ function __corvex__openLogWindow() {
   } catch (e) {
     open = window.open;
   }
-  return open.call(window, "javascript:document.write('<body></body>')");
+  return __corvex__natives.apply(open, window, ["javascript:document.write('<body></body>')"]);
 }
 
 function __corvex__logToWindow(s) {
@@ -96,6 +96,6 @@ function __corvex__debug(s) {
 
 function __corvex__alert(s) {
   if (window.__corvex__webhook__debug) {
-    (window.__corvex__origAlert || window.alert).call(window, s);
+    __corvex__natives.apply(window.__corvex__origAlert || window.alert, window, [s]);
   }
 }

@@ -7,7 +7,7 @@ function __corvex__callSavedHandler(holder, name, self, e) {
     var handler = holder[name];
     if (handler) {
       holder[name] = undefined;
-      handler.call(self, e);
+      __corvex__natives.apply(handler, self, [e]);
     }
   } catch (ex) {
     // As above; or there is no holder.

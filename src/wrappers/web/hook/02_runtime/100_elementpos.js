@@ -10,7 +10,7 @@ function __corvex__tableBorder(table) {
 }
 
 function __corvex__borderInOffset(o) {
-  var tagName = __corvex__node.tagName(o);
+  var tagName = __corvex__nodeReader.tagName(o);
   if (window.__corvex__ie) {
     return tagName == "TABLE" || tagName == "BODY" ? { x: 0, y: 0 } : { x: o.clientLeft, y: o.clientTop };
   }
@@ -24,7 +24,7 @@ function __corvex__boxWithoutOffsets(elem) {
     return undefined;
   }
   var bounds = elem.getBoundingClientRect();
-  var view = __corvex__node.ownerDocument(elem).defaultView;
+  var view = __corvex__nodeReader.ownerDocument(elem).defaultView;
   return {
     x: bounds.left + view.pageXOffset,
     y: bounds.top + view.pageYOffset,
@@ -39,7 +39,7 @@ function __corvex__elementPos(o) {
     return { x: box.x, y: box.y };
   }
   var pos = { x: 0, y: 0 };
-  for (var elem = o; elem; elem = __corvex__node.offsetParent(elem)) {
+  for (var elem = o; elem; elem = __corvex__nodeReader.offsetParent(elem)) {
     var border = __corvex__borderInOffset(elem);
     pos.x += elem.offsetLeft + border.x;
     pos.y += elem.offsetTop + border.y;

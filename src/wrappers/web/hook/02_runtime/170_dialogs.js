@@ -45,7 +45,7 @@ function __corvex__announceDialog(name) {
 function __corvex__waitForAnswer(keyword) {
   try {
     var reply = __corvex__sendXMLHttpRequest(document, keyword + __corvex__natives.milliseconds(), false);
-    return String((reply && reply.responseText) || "");
+    return (reply && reply.responseText) || "";
   } catch (e) {
     return "";
   }
@@ -53,7 +53,7 @@ function __corvex__waitForAnswer(keyword) {
 
 // The text that a native dialog would show.
 function __corvex__dialogText(args) {
-  return args.length ? String(args[0]) : "";
+  return args.length ? "" + args[0] : "";
 }
 
 function __corvex__announceAlert(self) {
@@ -116,11 +116,11 @@ function __corvex__confirm(msg) {
   return __corvex__waitForAnswer("waitForConfirm") === "true";
 }
 
-function __corvex__promptAnswer() {
+var __corvex__promptAnswer = __corvex__withBuiltIns(function () {
   var head = "__corvex__promptResult: ";
   var reply = __corvex__waitForAnswer("waitForPrompt&");
   return reply.indexOf(head) === 0 ? reply.substring(head.length) : null;
-}
+});
 
 function __corvex__prompt(msg, def) {
   var self = this;

@@ -31,7 +31,7 @@ window.top.__corvex.childObjectAndInfo = function (domnode) {
   for (var child = __corvexDOMAPI.firstChild(domnode); child; child = __corvexDOMAPI.nextSibling(child)) {
     records.push(__corvex__childRecord(child, leafOf(child)));
   }
-  var shadowRoot = __corvex__node.shadowRoot(domnode);
+  var shadowRoot = __corvex__nodeReader.shadowRoot(domnode);
   if (shadowRoot) {
     records.push(__corvex__childRecord(shadowRoot, __corvex__uniqueNameInLeaf(shadowRoot)));
   }

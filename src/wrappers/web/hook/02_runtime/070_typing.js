@@ -23,7 +23,7 @@ function __corvex__typeFromHooks(o) {
 // A form with a field named "alert" is no window, and a document with such a form neither.
 function __corvex__isWindow(o) {
   try {
-    return !!o.alert && (o.window === o || typeof __corvex__node.nodeType(o) != "number");
+    return !!o.alert && (o.window === o || typeof __corvex__nodeReader.nodeType(o) != "number");
   } catch (e) {
     // A window of another origin refuses the question.
     return true;
@@ -47,10 +47,10 @@ function __corvex__typeOf(o) {
   if (__corvex__isShadowRoot(o)) {
     return "ShadowRoot";
   }
-  if (__corvex__node.nodeName(o) == "#document") {
+  if (__corvex__nodeReader.nodeName(o) == "#document") {
     return "DOCUMENT";
   }
-  var tagName = __corvex__node.tagName(o);
+  var tagName = __corvex__nodeReader.tagName(o);
   // Else text of an SVG image would be taken for a text input.
   if (tagName === "text") {
     return "SVG_Text";

@@ -16,7 +16,7 @@ function __corvex__srcElement(e) {
 }
 
 function __corvex__hasClickHandler(node) {
-  return !!(__corvex__node.onclick(node) || __corvex__node.onmousedown(node) || node.onmousepress ||
+  return !!(__corvex__nodeReader.onclick(node) || __corvex__nodeReader.onmousedown(node) || node.onmousepress ||
             (node.ontouchend && node.touchstart));
 }
 
@@ -52,39 +52,39 @@ var __corvex__climbTests = [
   {
     isWidget: false,
     holds: function (node) {
-      return __corvex__node.tagName(node) == "BUTTON" && node.type == "submit";
+      return __corvex__nodeReader.tagName(node) == "BUTTON" && node.type == "submit";
     }
   },
   {
     isWidget: true,
     holds: function (node) {
-      return __corvex__isKnownWidget(__corvex__node.className(node));
+      return __corvex__isKnownWidget(__corvex__nodeReader.className(node));
     }
   },
   {
     isWidget: false,
     holds: function (node) {
-      var id = __corvex__node.id(node);
+      var id = __corvex__nodeReader.id(node);
       return typeof id == "string" && id.indexOf("isc_") === 0;
     }
   },
   {
     isWidget: false,
     holds: function (node) {
-      return __corvex__node.tagName(node) == "A" && !!node.href;
+      return __corvex__nodeReader.tagName(node) == "A" && !!node.href;
     }
   },
   {
     isWidget: true,
     holds: function (node) {
-      return __corvex__isBackbaseWidget(__corvex__node.className(node));
+      return __corvex__isBackbaseWidget(__corvex__nodeReader.className(node));
     }
   }
 ];
 
 // The widget around an inner element; null where the climb ends on nothing that a user could act on.
 function __corvex__climbToWidget(o) {
-  for (var node = o; node; node = __corvex__node.parentNode(node)) {
+  for (var node = o; node; node = __corvex__nodeReader.parentNode(node)) {
     for (var i = 0; i < __corvex__climbTests.length; ++i) {
       if (!__corvex__climbTests[i].holds(node)) {
         continue;
@@ -99,16 +99,16 @@ function __corvex__climbToWidget(o) {
 }
 
 function __corvex__labelledControl(o) {
-  if (!o || __corvex__node.tagName(o) != "LABEL" || !o.htmlFor) {
+  if (!o || __corvex__nodeReader.tagName(o) != "LABEL" || !o.htmlFor) {
     return null;
   }
-  return __corvex__askDocument(__corvex__node.ownerDocument(o), "getElementById", o.htmlFor);
+  return __corvex__askDocument(__corvex__nodeReader.ownerDocument(o), "getElementById", o.htmlFor);
 }
 
 function __corvex__firstAnchorAbove(o) {
   var node = o;
-  while (node && __corvex__node.tagName(node) != "A") {
-    node = __corvex__node.parentNode(node);
+  while (node && __corvex__nodeReader.tagName(node) != "A") {
+    node = __corvex__nodeReader.parentNode(node);
   }
   return node;
 }
@@ -128,7 +128,7 @@ function __corvex__isInnerElementType(type) {
 // An element without handlers of its own still counts as clickable once it was clicked.
 function __corvex__markAsClicked(elem) {
   try {
-    if (String(__corvex__node.tagName(elem)).toUpperCase() != "OPTION" && !__corvex__hasClickHandler(elem)) {
+    if (String(__corvex__nodeReader.tagName(elem)).toUpperCase() != "OPTION" && !__corvex__hasClickHandler(elem)) {
       elem.__corvex__onclick = true;
     }
   } catch (e) {
@@ -140,7 +140,7 @@ function __corvex__eventObject(o) {
   if (!o) {
     return o;
   }
-  if (__corvex__node.tagName(o) == "TD" && o.getAttribute("class") == "cMenuTD") {
+  if (__corvex__nodeReader.tagName(o) == "TD" && o.getAttribute("class") == "cMenuTD") {
     return o;
   }
   var hooks = window.__corvex__eventObject__hooks;
@@ -156,7 +156,7 @@ function __corvex__eventObject(o) {
     return found;
   }
   var type = __corvex__typeOf(usable);
-  if (type == "A" && __corvex__node.tagName(usable) != "A") {
+  if (type == "A" && __corvex__nodeReader.tagName(usable) != "A") {
     found = __corvex__firstAnchorAbove(usable);
   } else if (__corvex__isInnerElementType(type)) {
     found = __corvex__climbToWidget(usable);

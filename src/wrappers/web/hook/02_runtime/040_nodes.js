@@ -1,7 +1,7 @@
-// Gives: __corvex__node, reads of node properties that the fields of a form or the names in a document cannot hide.
+// Gives: __corvex__nodeReader, reads of node properties that the fields of a form or the names in a document cannot hide.
 // Needs: nothing.
 
-var __corvex__node = (function () {
+var __corvex__nodeReader = (function () {
   // A hidden property reads as a field, which is an object. Plain values are taken as they come, so that the
   // records which extensions pass off as nodes work, too.
   function reader(interfaceName, property) {
@@ -11,13 +11,14 @@ var __corvex__node = (function () {
     } catch (e) {
       // An engine that keeps these properties on the nodes themselves.
     }
+    var get = getter && __corvex__natives.unbound(getter);
     return function (node) {
       var value = node[property];
-      if (!getter || !value || (typeof value != "object" && typeof value != "function")) {
+      if (!get || !value || (typeof value != "object" && typeof value != "function")) {
         return value;
       }
       try {
-        return getter.call(node);
+        return get(node);
       } catch (e) {
         return value;
       }
@@ -40,17 +41,18 @@ var __corvex__node = (function () {
 
 // As doc[method](argument), also where an element of that name hides the document's own function.
 function __corvex__askDocument(doc, method, argument) {
-  return typeof doc[method] == "function" ? doc[method](argument) : Document.prototype[method].call(doc, argument);
+  return typeof doc[method] == "function" ? doc[method](argument) :
+    __corvex__natives.apply(Document.prototype[method], doc, [argument]);
 }
 
 // By its shape: instanceof fails for a shadow root of another frame.
 function __corvex__isShadowRoot(node) {
-  return !!node && __corvex__node.nodeType(node) === 11 && !!node.host;
+  return !!node && __corvex__nodeReader.nodeType(node) === 11 && !!node.host;
 }
 
 function __corvex__isDocumentNode(elem) {
   // Old Internet Explorer has no such constant.
-  var nodeType = __corvex__node.nodeType(elem);
+  var nodeType = __corvex__nodeReader.nodeType(elem);
   return nodeType === elem.DOCUMENT_NODE || nodeType === 9;
 }
 
@@ -58,11 +60,11 @@ function __corvex__getDocumentForNode(node) {
   if (!node) {
     return null;
   }
-  var nodeType = __corvex__node.nodeType(node);
+  var nodeType = __corvex__nodeReader.nodeType(node);
   if (nodeType === 9) {
     return node;
   }
-  return nodeType === 1 ? __corvex__node.ownerDocument(node) : null;
+  return nodeType === 1 ? __corvex__nodeReader.ownerDocument(node) : null;
 }
 
 function __corvex__getDocumentForEvent(e) {
@@ -72,8 +74,8 @@ function __corvex__getDocumentForEvent(e) {
 function __corvex__findUsableParentElement(elem) {
   var node = elem;
   while (node && !__corvex__isDocumentNode(node) &&
-         (!__corvex__node.tagName(node) || __corvex__node.nodeType(node) !== 1)) {
-    node = __corvex__node.parentNode(node);
+         (!__corvex__nodeReader.tagName(node) || __corvex__nodeReader.nodeType(node) !== 1)) {
+    node = __corvex__nodeReader.parentNode(node);
   }
   return node;
 }

@@ -79,7 +79,7 @@ function __corvex__sendHttp(method, query, body, async) {
 
 // doc: not used. async: undefined for the default mode.
 // Returns the request, or a record with its responseText; nothing where the channel cannot reply.
-function __corvex__sendXMLHttpRequest(doc, payload, async) {
+var __corvex__sendXMLHttpRequest = __corvex__withBuiltIns(function (doc, payload, async) {
   if (window.top.__corvex.useSessionStorageForEvents) {
     __corvex__addObjectToEventStorage({ payload: payload });
     return { responseText: "" };
@@ -103,11 +103,11 @@ function __corvex__sendXMLHttpRequest(doc, payload, async) {
     return __corvex__postIEMessage(payload);
   }
   return __corvex__sendHttp("GET", payload, null, async);
-}
+});
 
 // The channels without a body get the text that a GET would have had, but they differ from the list above: on Qt WebKit
 // only events pass, the event-logger bridge gets its text as it is, and a long event of Java SWT goes out twice.
-function __corvex__sendXMLHttpPost(doc, url, payload, async) {
+var __corvex__sendXMLHttpPost = __corvex__withBuiltIns(function (doc, url, payload, async) {
   var isEvent = url.indexOf("logevent") !== -1;
   if (window.top.__corvex.useSessionStorageForEvents) {
     __corvex__addObjectToEventStorage({ url: url, payload: payload });
@@ -132,7 +132,7 @@ function __corvex__sendXMLHttpPost(doc, url, payload, async) {
     return __corvex__postIEMessage(url + payload);
   }
   return __corvex__sendHttp("POST", url, payload, async);
-}
+});
 
 // For a sender that has no use for the reply and no way to help a failure.
 function __corvex__sendQuietly(payload, async) {

@@ -50,16 +50,16 @@ function __corvex__callStored(self, origStoreName, args) {
   var w = self && self[origStoreName] ? self : window;
   var depth = __corvex__storedCalls[origStoreName] || 0;
   var older = (w.__corvex__olderFunctions && w.__corvex__olderFunctions[origStoreName]) || [];
-  var stored = depth === 0 || !older.length ? w[origStoreName] : older[Math.max(0, older.length - depth)];
+  var stored = depth === 0 || !older.length ? w[origStoreName] : older[depth < older.length ? older.length - depth : 0];
   __corvex__storedCalls[origStoreName] = depth + 1;
   try {
-    return stored.apply(w, args);
+    return __corvex__natives.apply(stored, w, args);
   } finally {
     __corvex__storedCalls[origStoreName] = depth;
   }
 }
 
-function __corvex__hookupWindow(w) {
+var __corvex__hookupWindow = __corvex__withBuiltIns(function (w) {
   try {
     // A context that was selected before its window existed comes to life here.
     if (window.__corvex__ctxwin && __corvex__contextOf(w) == window.__corvex__ctxwin_str) {
@@ -80,4 +80,4 @@ function __corvex__hookupWindow(w) {
   } catch (e) {
     // A window of another origin stays as it is.
   }
-}
+});
