@@ -58,6 +58,9 @@ const rules = {
   'no-unused-expressions': 'error'
 };
 
+// Text that is run as code runs in the page of whoever sees to it.
+const noEval = { 'no-eval': 'error', 'no-implied-eval': 'error', 'no-new-func': 'error' };
+
 module.exports = [
   { linterOptions: { reportUnusedDisableDirectives: 'off' } },
   { ignores: ['node_modules/**', 'build/**', 'build-*/**'] },
@@ -68,7 +71,7 @@ module.exports = [
       sourceType: 'script',
       globals: { ...page, ...flags, ...declaredIn(hook), ...declaredIn(extensions), __corvex: 'readonly' }
     },
-    rules
+    rules: { ...rules, ...noEval }
   },
   {
     files: ['tests/wrappers/web/hook/*.js'],

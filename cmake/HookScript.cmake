@@ -18,7 +18,7 @@ set(CORVEX_HOOK_FRAGMENTS
   02_runtime
   03_names
   04_objectstore.js
-  05_properties.js
+  05_properties
   06_framelookup.js
   07_browsers.js
   08_objecttree.js

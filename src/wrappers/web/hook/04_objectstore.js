@@ -71,8 +71,7 @@ function __corvex__idForObject(obj) {
   return "top.__corvex__globalObjectRefStore[" + index + "]";
 }
 
-// The store's own references are read without eval, which a page's policy may forbid.
 function __corvex__objectOfReference(reference) {
   var place = /^top\.__corvex__globalObjectRefStore\[(\d+)\]$/.exec(reference);
-  return place ? top.__corvex__globalObjectRefStore[place[1]] : eval(reference);
+  return place ? top.__corvex__globalObjectRefStore[place[1]] : __corvex__valueAtPath(window, reference);
 }

@@ -141,18 +141,6 @@ var __corvex__propertyTests = {
   }
 };
 
-// A plain path is walked, since a page's policy may forbid eval.
-function __corvex__valueAtPath(o, path) {
-  if (!/^[\w$]+(\.[\w$]+)*$/.test(path)) {
-    return eval("o." + path);
-  }
-  var names = path.split(".");
-  for (var i = 0; i < names.length; ++i) {
-    o = o[names[i]];
-  }
-  return o;
-}
-
 // A form may hide the function behind a field; what is no element has none.
 function __corvex__attributeOf(o, name) {
   return typeof o.getAttribute === "function" ? o.getAttribute(name) : __corvex__natives.apply(Element.prototype.getAttribute, o, [name]);

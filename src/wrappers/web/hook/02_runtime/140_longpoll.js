@@ -3,7 +3,7 @@
 
 function __corvex__processWebhookMsg(req) {
   // By another name, so that the code runs in the window and not in this function.
-  var evaluateInWindow = eval;
+  var evaluateInWindow = eval; // eslint-disable-line no-eval -- it is there to run the driver's code
   evaluateInWindow(req.responseText);
 }
 
