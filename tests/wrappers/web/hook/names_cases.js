@@ -161,3 +161,17 @@ test("colours: the unknown give null, and the support libraries leave no globals
   ["red", "rgba(10%,0,0,.5)", "nocolour", "constructor", "", undefined].map(__corvex__parseCSSColor),
   [typeof module, typeof exports, typeof require, typeof kCSSColorTable]
 ], [[[255, 0, 0, 1], [26, 0, 0, 0.5], null, null, null, null], ["undefined", "undefined", "undefined", "undefined"]]);
+
+test("a name is read up to a length and a depth, and says so beyond", {}, () => {
+  const nested = (levels) => "{a=".repeat(levels - 1) + "{tagName='P'}" + "}".repeat(levels - 1);
+  const long = (length) => "{tagName='" + "x".repeat(length - 12) + "'}";
+  const innermost = (name) => {
+    const inner = name.getPropertyValue("a");
+    return inner ? innermost(inner) : name.toString();
+  };
+  return [nested(100), nested(101), nested(20000), long(1000000), long(1000001), "{a=" + "{".repeat(200000)].map((text) => {
+    const fault = __corvex.faultOfName(text);
+    return fault ? fault.fault : innermost(__corvex.parseMultiPropertyName(text)).length;
+  });
+}, [13, "it holds names in more than 100 levels", "it holds names in more than 100 levels", 1000000,
+  "it has 1000001 characters, and 1000000 are read at most", 2]);
