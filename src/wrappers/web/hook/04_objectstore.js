@@ -16,22 +16,29 @@ var __corvex__refPlaces = (function () {
     known = 0;
   }
 
-  function learn() {
-    for (; known < store.length; ++known) {
-      if (places.get(store[known]) === undefined) {
-        places.set(store[known], known);
+  // An entry that cannot be read, such as a node of a closed window, hides no other.
+  function isAt(theStore, place, obj) {
+    try {
+      return theStore[place] === obj;
+    } catch (e) {
+      return false;
+    }
+  }
+
+  function learnEntry(place) {
+    try {
+      if (places.get(store[place]) === undefined) {
+        places.set(store[place], place);
       }
+    } catch (e) {
+      // As above.
     }
   }
 
   function walk(theStore, obj) {
     for (var i = 0; i < theStore.length; ++i) {
-      try {
-        if (theStore[i] === obj) {
-          return i;
-        }
-      } catch (e) {
-        // A node of a closed window.
+      if (isAt(theStore, i, obj)) {
+        return i;
       }
     }
     return -1;
@@ -46,12 +53,14 @@ var __corvex__refPlaces = (function () {
       if (!places) {
         return walk(theStore, obj);
       }
-      learn();
+      for (; known < store.length; ++known) {
+        learnEntry(known);
+      }
       var place = places.get(obj);
       if (place === undefined) {
         return -1;
       }
-      if (theStore[place] === obj) {
+      if (isAt(theStore, place, obj)) {
         return place;
       }
       // The entry was overwritten, so that other places may be wrong, too.

@@ -21,6 +21,16 @@ test("an object keeps its reference, whatever others do to the store", {}, ({ fl
   return places.concat(place(b));
 }, [1, 0, 1, 2, 4, 4, 0, true, 0]);
 
+test("an entry of the store that cannot be read hides no other", {}, ({ flags }) => {
+  const [a, b, c] = [{}, {}, {}];
+  const store = [a, {}, b];
+  Object.defineProperty(store, 1, { get: () => { throw new Error("closed"); } });
+  flags({ globalObjectRefStore: store });
+  const places = [place(b), place(c), place(a)];
+  Object.defineProperty(store, 0, { get: () => { throw new Error("closed"); } });
+  return places.concat(place(a), place(c), place(a));
+}, [2, 3, 0, 4, 3, 4]);
+
 test("ten thousand references do not take a walk each, nor live on what the page makes of Map", {}, ({ flags, set }) => {
   let reads = 0;
   const store = [];
