@@ -11,7 +11,7 @@ window.__corvex.namesCheck = (function () {
   // Calls action, which leaves the page as it is. Searches do not report as they would each, as if a recording were on.
   function quietly(action) {
     var recording = window.__corvex__recording;
-    var context = window.__corvex__ctxwin;
+    var context = __corvex__windowState.ctxwin;
     window.__corvex__recording = true;
     hierarchy = [];
     plainWords = null;
@@ -19,7 +19,7 @@ window.__corvex.namesCheck = (function () {
       return __corvex__whilePageStays(action);
     } finally {
       window.__corvex__recording = recording;
-      window.__corvex__ctxwin = context;
+      __corvex__windowState.ctxwin = context;
     }
   }
 
@@ -61,7 +61,7 @@ window.__corvex.namesCheck = (function () {
   // As when the user's first action on the element is recorded: its own window is the current context.
   function nameOf(element) {
     try {
-      window.__corvex__ctxwin = __corvex__nodeReader.ownerDocument(element).defaultView;
+      __corvex__windowState.ctxwin = __corvex__nodeReader.ownerDocument(element).defaultView;
       return { name: String(__corvex__nameOf(element)), element: describe(element) };
     } catch (e) {
       return { error: escape(String(e)), element: describe(element) };
@@ -126,7 +126,7 @@ window.__corvex.namesCheck = (function () {
 
   function descend(path) {
     var context = /^DOCUMENT\[(.*)\]$/.exec(path[0]);
-    var node = context ? __corvex__documentOfContext(context[1]) : window.__corvex__ctxwin.document;
+    var node = context ? __corvex__documentOfContext(context[1]) : __corvex__windowState.ctxwin.document;
     for (var i = 1; node && i < path.length; ++i) {
       node = childOf(node, i - 1, path[i]);
     }
@@ -207,7 +207,7 @@ window.__corvex.namesCheck = (function () {
       return !!context && !__corvex__hasContext(context.replace(/\|/g, "."));
     }],
     ["percent", function (c) {
-      if (__corvex__currentContext(c.element) === (window.__corvex__explicitContext || window)) {
+      if (__corvex__currentContext(c.element) === (__corvex__windowState.explicitContext || window)) {
         return false;
       }
       var name = unescape(__corvex__propertyNameOf(c.element));
@@ -280,7 +280,7 @@ window.__corvex.namesCheck = (function () {
     var wanted = namedInstead(element);
     var found = [];
     var road;
-    window.__corvex__ctxwin = window;
+    __corvex__windowState.ctxwin = window;
     try {
       for (var i = 0; i < roads.length && !last(found); ++i) {
         road = roads[i];

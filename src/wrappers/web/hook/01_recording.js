@@ -72,12 +72,12 @@ function __corvex__windowOfSource(win, elem) {
 
 function __corvex__enterEventContext(win, d, source) {
   if (d) {
-    window.__corvex__ctxwin = __corvex__findDocument(win, d) || window.__corvex__ctxwin;
+    __corvex__windowState.ctxwin = __corvex__findDocument(win, d) || __corvex__windowState.ctxwin;
     return;
   }
   try {
     var found = __corvex__findDocument(win, __corvex__getDocumentForNode(source));
-    window.__corvex__ctxwin = found || window.__corvex__ctxwin;
+    __corvex__windowState.ctxwin = found || __corvex__windowState.ctxwin;
   } catch (e) {
     // The source is no node, or its document is out of reach: the context stays.
   }
@@ -86,7 +86,7 @@ function __corvex__enterEventContext(win, d, source) {
 // e: the event, where the browser passes one; d: the document that the listener sits on, for a frame's document.
 // There is no early exit while nothing is recorded: replay of some pages lives on what happens here.
 function __corvex__handler(e, d) {
-  var cw = window.__corvex__ctxwin;
+  var cw = __corvex__windowState.ctxwin;
   var current = __corvex__findCurrentEvent(e);
   var ev = current.event;
   if (!ev || !current.win) {
@@ -104,7 +104,7 @@ function __corvex__handler(e, d) {
   __corvex__enterEventContext(current.win, d, source);
   var result = __corvex__logEvent(ev, w);
   if (cw) {
-    window.__corvex__ctxwin = cw;
+    __corvex__windowState.ctxwin = cw;
   }
   return result;
 }
@@ -121,19 +121,6 @@ function __corvex__swallowEvent(e) {
   }
   if (e.preventDefault) {
     e.preventDefault();
-  }
-}
-
-// A waiting request must not catch code that is meant for the next page.
-function __corvex__stopLongPoll() {
-  try {
-    var wait = window.__corvex__asyncWaitRequest;
-    if (wait && wait.request) {
-      wait.startAgain = false;
-      wait.request.abort();
-    }
-  } catch (e) {
-    // It goes with the page.
   }
 }
 
@@ -182,8 +169,8 @@ function __corvex__logEvent(e, w) {
     return undefined;
   }
   if (__corvex__isSelectionElement(o)) {
-    __corvex__lastSelectEvent = e;
-    __corvex__lastSelectEventObject = o;
+    __corvex__recordingState.lastSelectEvent = e;
+    __corvex__recordingState.lastSelectEventObject = o;
   }
   if (isPicking) {
     __corvex__swallowEvent(e);
@@ -201,30 +188,30 @@ function __corvex__logEventByWindow(e, w) {
   if (!__corvex__isEventObject(ev)) {
     ev = __corvex__determineEventObject(ev, window);
   }
-  var ctxwin = window.__corvex__ctxwin;
+  var ctxwin = __corvex__windowState.ctxwin;
   if (w.document) {
-    window.__corvex__ctxwin = w;
+    __corvex__windowState.ctxwin = w;
   }
   if (ev && (ev.type == "mousedown" || ev.type == "click")) {
     __corvex__install__handler(ev, w);
   }
   __corvex__logEvent(ev, w);
-  window.__corvex__ctxwin = ctxwin;
+  __corvex__windowState.ctxwin = ctxwin;
 }
 
 // Change handler of old Internet Explorer for selection elements.
 function __corvex__onChangeHandler() {
-  var source = __corvex__lastSelectEventObject;
+  var source = __corvex__recordingState.lastSelectEventObject;
   var doc = __corvex__getDocumentForNode(source);
-  if (source && doc && __corvex__lastSelectEvent) {
-    var ev = doc.createEventObject(__corvex__lastSelectEvent);
+  if (source && doc && __corvex__recordingState.lastSelectEvent) {
+    var ev = doc.createEventObject(__corvex__recordingState.lastSelectEvent);
     ev.type = "change";
     ev.secElement = source;
-    __corvex__handler(__corvex__lastSelectEvent, source);
+    __corvex__handler(__corvex__recordingState.lastSelectEvent, source);
   }
   // A later widget of another kind must not run into them.
-  __corvex__lastSelectEvent = null;
-  __corvex__lastSelectEventObject = null;
+  __corvex__recordingState.lastSelectEvent = null;
+  __corvex__recordingState.lastSelectEventObject = null;
 }
 
 function __corvex__tabIdLogEventParameter() {
@@ -270,11 +257,11 @@ function __corvex__pickableObject(elem) {
 
 // The name of the message is misspelled, and the driver knows it so.
 function __corvex__hoverElement() {
-  __corvex__hoverTimer = null;
+  __corvex__recordingState.hoverTimer = null;
   try {
-    var rect = __corvex__getScreenRect(__corvex__mouseElement);
+    var rect = __corvex__getScreenRect(__corvex__recordingState.mouseElement);
     __corvex__sendXMLHttpRequest(document, "highlighteWidget&info=" + rect + "," +
-      __corvex__nameOf(__corvex__mouseElement, true) + "&" + __corvex__natives.milliseconds(), true);
+      __corvex__nameOf(__corvex__recordingState.mouseElement, true) + "&" + __corvex__natives.milliseconds(), true);
   } catch (e) {
     // The element is gone.
   }
@@ -298,16 +285,16 @@ function __corvex__mousemove(e) {
     return;
   }
   var picked = __corvex__pickableObject(source);
-  if (!picked || picked === window.__corvex__selectedObject) {
+  if (!picked || picked === __corvex__recordingState.selectedObject) {
     return;
   }
-  window.__corvex__selectedObject = picked;
-  __corvex__mouseElement = picked;
+  __corvex__recordingState.selectedObject = picked;
+  __corvex__recordingState.mouseElement = picked;
   // A pointer that crosses many objects fast causes one message.
-  if (__corvex__hoverTimer) {
-    __corvex__natives.clearTimeout(__corvex__hoverTimer);
+  if (__corvex__recordingState.hoverTimer) {
+    __corvex__natives.clearTimeout(__corvex__recordingState.hoverTimer);
   }
-  __corvex__hoverTimer = __corvex__natives.setTimeout(__corvex__hoverElement, 50);
+  __corvex__recordingState.hoverTimer = __corvex__natives.setTimeout(__corvex__hoverElement, 50);
 }
 
 function __corvex__touchstart(ev) {

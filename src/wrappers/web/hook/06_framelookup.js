@@ -33,7 +33,7 @@ function __corvex__findFrameRecursive(ctxdoc, frameName) {
 
 var __corvex__targetWindows = {
   _top: function () {
-    return __corvex__topWindow;
+    return __corvex__windowState.topWindow;
   },
   _parent: function (start) {
     return start.parent;
@@ -57,6 +57,6 @@ function __corvex__findTargetWindow(elem) {
   if (__corvex__natives.has(__corvex__targetWindows, target)) {
     return __corvex__targetWindows[target](start);
   }
-  var frame = __corvex__findFrameRecursive(__corvex__topWindow.document, target);
+  var frame = __corvex__findFrameRecursive(__corvex__windowState.topWindow.document, target);
   return frame ? frame.contentWindow : start;
 }

@@ -167,15 +167,15 @@ test("a frame without a body waits for one on old Internet Explorer", {}, ({ fla
   const waiting = [ticks.length];
   const tick = () => {
     ticks[0]();
-    waiting.push(__corvex__lazyHookWindows.length);
+    waiting.push(window.__corvex__lazyHookWindows.length);
   };
   tick();
   doc.body = {};
   tick();
-  __corvex__lazyHookWindows.length = 0;
+  window.__corvex__lazyHookWindows.length = 0;
   waiting.push(stopped);
   tick();
-  return [waiting, doc.body.onload === __corvex__rehookFrames__load, stopped, __corvex__lazyHookTimer];
+  return [waiting, doc.body.onload === __corvex__rehookFrames__load, stopped, window.__corvex__lazyHookTimer];
 }, [[1, 2, 1, 0, 0], true, 100, null]);
 
 test("a frame that changes its state gets its dialogs", {}, ({ sent }) => {
@@ -261,7 +261,7 @@ test("handlers leave the current context as it was and mark what was pressed", {
   const ctxwin = frame("f");
   flags({ ctxwin });
   __corvex__sendMouseEvent(el("p"), "mousedown", false, false, false, 1, 1, 1);
-  return [__corvex__ctxwin === ctxwin, el("p").__corvex__onclick, __corvex__handler({})];
+  return [window.__corvex__ctxwin === ctxwin, el("p").__corvex__onclick, __corvex__handler({})];
 }, [true, true, true]);
 
 test("the pointer is followed only while picking, and reported once it settled", { page: '<p id="a">a</p><p id="b">b</p>' },

@@ -19,6 +19,8 @@ window.hookCases = (() => {
   const cases = [];
   const STORE = "__corvex__globalObjectRefStore";
 
+  const states = () => [__corvex__windowState, __corvex__dialogState, __corvex__recordingState];
+
   // A function that gives the wanted properties of an object back the values, and its lists the members, of now.
   function remember(object, wanted) {
     const names = () => Object.getOwnPropertyNames(object).filter(wanted);
@@ -110,13 +112,11 @@ window.hookCases = (() => {
     ["filter__non__element__nodes", "throwErrorForUnknownContextName", "namegen__scheme", "namegen__singleprop",
       "namegen__hierarchical"].forEach((name) => delete window["__corvex__" + name]);
     delete __corvex.includeIdPropertyInGeneratedNames;
-    ["lastAlertMessage", "lastConfirmMessage", "lastPromptMessage", "lastPromptDefaultValue"].forEach((name) => {
-      Object.defineProperty(window, "__corvex__" + name, { value: "", writable: true, configurable: true });
-    });
+    delete __corvex.dialogTextKept;
+    states().forEach((state) => state.reset());
     kit.flags({ ie: false, mozilla: false, safari: false, googlechrome: false, chromiumbased: false, microsoftedge: false,
       edge: false, proxy: false, recording: false, newwindowhook: false, improvedTabAndWindowSupport: false,
-      os: "Linux", port: 8000, asynclog: true, windows: [], wcnt: -1, popups: [], popupcnt: 0, framewin: undefined,
-      ctxwin: window, ctxwin_str: "", explicitContext: undefined });
+      os: "Linux", port: 8000, asynclog: true });
     __corvex.useSessionStorageForEvents = false;
     window.scrollTo(0, 0);
     document.body.innerHTML = body || "";
@@ -127,8 +127,8 @@ window.hookCases = (() => {
   const textOf = (value) => JSON.stringify([value], inOrder);
 
   function resultOf(one) {
-    const undos = [remember(window, (name) => /^__corvex__/.test(name)), remember(__corvex, () => true),
-      remember(__corvex__natives, () => true)];
+    const undos = [remember(window, (name) => /^__corvex__/.test(name))].concat(
+      [__corvex, __corvex__natives].concat(states()).map((object) => remember(object, () => true)));
     try {
       const kit = newKit(undos);
       preparePage(kit, one.options.page);

@@ -84,7 +84,7 @@ test("the current context wins, and a hit moves it", {
   page: '<iframe id="f"></iframe><p id="outer" title="t"></p>'
 }, ({ frame }) => {
   frame("f", '<p id="inner" title="t"></p><p id="only" title="u"></p>');
-  return ["t", "u", "t", "zz"].map((title) => [found("{tagName='P' title='" + title + "'}"), __corvex__ctxwin === window]);
+  return ["t", "u", "t", "zz"].map((title) => [found("{tagName='P' title='" + title + "'}"), window.__corvex__ctxwin === window]);
 }, [["outer", true], ["only", false], ["inner", false], [null, false]]);
 
 test("a context overrides the container; an unknown one fails only when asked to", {
@@ -110,7 +110,7 @@ test("a name among many like it in other documents takes a few searches", { page
       window.__corvex__ctxwin = window;
       return __corvex__uniquifyName(name, element);
     });
-    return [names, __corvex__ctxwin === inner, asked < 5000];
+    return [names, window.__corvex__ctxwin === inner, asked < 5000];
   }, [["{tagName='B' title='t'}", "{tagName='B' title='t' occurrence='300'}"], true, true]);
 
 test("a search in vain asks each document once, an extension's matchers as often as it comes by", {
@@ -156,7 +156,7 @@ test("plain words: labels lead to controls, a lost label ends the scan, buttons 
 
 test("plain words: found in a frame, which becomes the context", { page: '<iframe id="f"></iframe>' }, ({ frame }) => {
   const w = frame("f", '<div id="x">words</div>');
-  return [found("words"), __corvex__ctxwin === w];
+  return [found("words"), window.__corvex__ctxwin === w];
 }, ["x", true]);
 
 const box = (id, left, top, width, height, inner, more) => `<div id="${id}" ${more || ""} style="position:absolute;` +

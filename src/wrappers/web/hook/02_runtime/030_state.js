@@ -1,26 +1,80 @@
-// Gives: the state globals, the hook arrays that extensions fill, and the script-level variables.
-// Needs: nothing; the standard matcher is looked up when the first name is searched.
+// Gives: __corvex__windowState, __corvex__dialogState, __corvex__recordingState; the arrays that extensions fill with hooks.
+// Needs: __corvex__natives.
 
-window.__corvex__windows = [];
-window.__corvex__wcnt = -1;
-window.__corvex__ctxwin = window;
-window.__corvex__ctxwin_str = "";
-window.__corvex__framewin = undefined;
-window.__corvex__popupcnt = 0;
-window.__corvex__popups = [];
-window.__corvex__knownWidgets = [];
-window.__corvex__lastAlertMessage = "";
-window.__corvex__lastConfirmMessage = "";
-window.__corvex__lastPromptMessage = "";
-window.__corvex__lastPromptDefaultValue = "";
-// Global because it has to be aborted before the page unloads: else it could receive code meant for the next page.
-window.__corvex__asyncWaitRequest = { request: null, startAgain: true };
-window.__corvex__objects = [];
-window.__corvex__bgcolors = [];
-window.__corvex__lastSelected = undefined;
-window.__corvex__innerText = function (elem) {
-  return elem.textContent;
-};
+// What the script remembers of one concern, as initial() makes it; reset() makes it so again. Each field is also the
+// window's variable of that name after "__corvex__", by which the driver and extensions know it.
+function __corvex__makeState(initial) {
+  var state = {};
+
+  function expose(field) {
+    Object.defineProperty(window, "__corvex__" + field, {
+      configurable: true,
+      enumerable: true,
+      get: function () {
+        return state[field];
+      },
+      set: function (value) {
+        state[field] = value;
+      }
+    });
+  }
+
+  function forEachField(act) {
+    var values = initial();
+    for (var field in values) {
+      if (__corvex__natives.has(values, field)) {
+        act(field, values[field]);
+      }
+    }
+  }
+
+  forEachField(expose);
+  state.reset = function () {
+    forEachField(function (field, value) {
+      state[field] = value;
+    });
+  };
+  state.reset();
+  return state;
+}
+
+var __corvex__windowState = __corvex__makeState(function () {
+  return {
+    // The script's window, the current context, the one that was selected by name, and the name last asked for.
+    topWindow: window,
+    ctxwin: window,
+    explicitContext: undefined,
+    ctxwin_str: "",
+    // Further top-level windows; the index of the newest.
+    windows: [],
+    wcnt: -1,
+    // The window whose frames are to be hooked at the next sweep; the windows that came so, from 1; the index of the newest.
+    framewin: undefined,
+    popups: [],
+    popupcnt: 0,
+    rehookLoadLock: false,
+    rehookUnLoadLock: false,
+    lazyHookWindows: [],
+    lazyHookTimer: null,
+    isPageLeaving: false
+  };
+});
+
+// The texts of the last dialog of each kind.
+var __corvex__dialogState = __corvex__makeState(function () {
+  return { lastAlertMessage: "", lastConfirmMessage: "", lastPromptMessage: "", lastPromptDefaultValue: "" };
+});
+
+var __corvex__recordingState = __corvex__makeState(function () {
+  return {
+    lastSelectEvent: null,
+    lastSelectEventObject: null,
+    // Of the pointer, while picking: the object that is under it, and the timer that tells of it.
+    selectedObject: undefined,
+    mouseElement: null,
+    hoverTimer: null
+  };
+});
 
 window.__corvex__eventObject__hooks = [];
 window.__corvex__pickableObjectHooks = [];
@@ -38,20 +92,14 @@ window.__corvex__selectSingleOption__hooks = [];
 window.__corvex__eventType__hooks = [];
 window.__corvex__objectNameAndType__hooks = [];
 window.__corvex__itemTextForEvent__hooks = [];
+window.__corvex__nameOf__hooks = [];
+window.__corvex__knownWidgets = [];
 
 // Filled by the extension of a toolkit: records, and the field of a record that holds its class name.
 window.__corvex__backbase__descriptors = [];
 window.__corvex__backbase__className = "className";
 
-var __corvex__topWindow = null;
-var __corvex__log__window = null;
-var __corvex__rehookLoadLock = false;
-var __corvex__rehookUnLoadLock = false;
-var __corvex__isPageLeaving = false;
-var __corvex__lazyHookWindows = [];
-var __corvex__lazyHookTimer = null;
-var __corvex__lastSelectEvent = null;
-var __corvex__lastSelectEventObject = null;
-var __corvex__mouseElement = null;
-var __corvex__hoverTimer = null;
-var __corvex__seps = ",;|-+*!/,";
+// Known to extensions, and not used here.
+window.__corvex__objects = [];
+window.__corvex__bgcolors = [];
+window.__corvex__lastSelected = undefined;

@@ -61,7 +61,7 @@ function __corvex__contextOfForUrl(w) {
 // How many top-level windows have this name, up to w where w is among them. A closed window has none.
 function __corvex__findContext(ctx, w) {
   var count = 0;
-  var windows = [window].concat(window.__corvex__windows);
+  var windows = [window].concat(__corvex__windowState.windows);
   for (var i = 0; i < windows.length; ++i) {
     if (windows[i] && !windows[i].closed && __corvex__contextOf(windows[i], true) == ctx) {
       ++count;
@@ -83,9 +83,9 @@ function __corvex__isUsableContext(w) {
 
 function __corvex__contextList() {
   var list = [window];
-  for (var i = 0; i < window.__corvex__windows.length; ++i) {
-    if (__corvex__isUsableContext(window.__corvex__windows[i])) {
-      list.push(window.__corvex__windows[i]);
+  for (var i = 0; i < __corvex__windowState.windows.length; ++i) {
+    if (__corvex__isUsableContext(__corvex__windowState.windows[i])) {
+      list.push(__corvex__windowState.windows[i]);
     }
   }
   return list;
@@ -156,8 +156,8 @@ function __corvex__findContext2(ctx) {
     return window;
   }
   var i;
-  for (i = 0; i < window.__corvex__windows.length; ++i) {
-    var w = window.__corvex__windows[i];
+  for (i = 0; i < __corvex__windowState.windows.length; ++i) {
+    var w = __corvex__windowState.windows[i];
     if (w && !w.closed && __corvex__contextOf(w) == ctx) {
       return w;
     }
@@ -183,7 +183,7 @@ function __corvex__hasContext(ctx) {
 // context: as in a hierarchical name, where "|" stands for ".". Undefined where unknown names are to fail.
 function __corvex__documentOfContext(context) {
   var ctx = context.replace(/\|/g, ".");
-  var w = window.__corvex__ctxwin;
+  var w = __corvex__windowState.ctxwin;
   if (ctx !== "") {
     if (__corvex__hasContext(ctx)) {
       w = __corvex__findContext2(ctx);

@@ -73,7 +73,7 @@ function __corvex__sendHttp(method, query, body, async) {
   // An undefined mode would be a synchronous request.
   var isAsync = mode === undefined || !!mode;
   var url = __corvex__XMLHttpRequestDestination() + "/?" + query;
-  var send = __corvex__isPageLeaving ? __corvex__sendWhileLeaving : __corvex__sendRequest;
+  var send = __corvex__windowState.isPageLeaving ? __corvex__sendWhileLeaving : __corvex__sendRequest;
   return send(method, url, body, isAsync);
 }
 

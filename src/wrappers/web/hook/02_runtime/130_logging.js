@@ -25,6 +25,8 @@ function __corvex__logTarget() {
   }
 }
 
+var __corvex__log__window = null;
+
 function __corvex__openLogWindow() {
   var open;
   try {

@@ -1,6 +1,9 @@
 // Gives: the request of proxy mode that waits at the page's own origin for code to evaluate.
 // Needs: __corvex__natives, __corvex__asyncWaitRequest.
 
+// Global because it has to be aborted before the page unloads: else it could receive code meant for the next page.
+window.__corvex__asyncWaitRequest = { request: null, startAgain: true };
+
 function __corvex__processWebhookMsg(req) {
   // By another name, so that the code runs in the window and not in this function.
   var evaluateInWindow = eval; // eslint-disable-line no-eval -- it is there to run the driver's code
@@ -35,4 +38,17 @@ function __corvex__asyncWaitForWebhookMsg() {
   request.onreadystatechange = __corvex__quiet(__corvex__onWaitRequestChange);
   request.open("GET", location.protocol + "//" + location.host + "/__corvex__waitForEval__/", true);
   request.send(null);
+}
+
+// A waiting request must not catch code that is meant for the next page.
+function __corvex__stopLongPoll() {
+  try {
+    var wait = window.__corvex__asyncWaitRequest;
+    if (wait && wait.request) {
+      wait.startAgain = false;
+      wait.request.abort();
+    }
+  } catch (e) {
+    // It goes with the page.
+  }
 }

@@ -62,8 +62,8 @@ function __corvex__callStored(self, origStoreName, args) {
 var __corvex__hookupWindow = __corvex__withBuiltIns(function (w) {
   try {
     // A context that was selected before its window existed comes to life here.
-    if (window.__corvex__ctxwin && __corvex__contextOf(w) == window.__corvex__ctxwin_str) {
-      window.__corvex__ctxwin = w;
+    if (__corvex__windowState.ctxwin && __corvex__contextOf(w) == __corvex__windowState.ctxwin_str) {
+      __corvex__windowState.ctxwin = w;
     }
     if (window.__corvex__newwindowhook === undefined) {
       if (w.__corvex__hooked__alertAndCo) {

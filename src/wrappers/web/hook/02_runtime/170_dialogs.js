@@ -56,6 +56,15 @@ function __corvex__dialogText(args) {
   return args.length ? "" + args[0] : "";
 }
 
+// Whoever set dialogTextKept learns of each text.
+function __corvex__keepDialogText(field, text) {
+  __corvex__dialogState[field] = text;
+  var tell = window.top.__corvex.dialogTextKept;
+  if (tell) {
+    tell(field, text);
+  }
+}
+
 function __corvex__announceAlert(self) {
   try {
     if (!window.__corvex__webhook__debug) {
@@ -83,7 +92,7 @@ function __corvex__alert2(msg) {
     __corvex__announceAlert(self);
     var isNative = __corvex__opensNativeDialogs();
     if (!isNative || window.top.__corvex__chromiumbased) {
-      window.__corvex__lastAlertMessage = __corvex__dialogText(args);
+      __corvex__keepDialogText("lastAlertMessage", __corvex__dialogText(args));
     }
     if (isNative) {
       show();
@@ -108,7 +117,7 @@ function __corvex__confirm(msg) {
   __corvex__announceDialog("ConfirmOpened");
   var isNative = __corvex__opensNativeDialogs();
   if (!isNative || window.top.__corvex__chromiumbased) {
-    window.__corvex__lastConfirmMessage = __corvex__dialogText(args);
+    __corvex__keepDialogText("lastConfirmMessage", __corvex__dialogText(args));
   }
   if (isNative) {
     return __corvex__callStored(window.top, "__corvex__origConfirm", args);
@@ -141,8 +150,8 @@ function __corvex__prompt(msg, def) {
   __corvex__announceDialog("PromptOpened");
   var isNative = __corvex__opensNativeDialogs();
   if (!isNative || window.top.__corvex__chromiumbased || __corvex__isSafariUsingWebDriver()) {
-    window.__corvex__lastPromptMessage = __corvex__dialogText(arguments);
-    window.__corvex__lastPromptDefaultValue = String(args[1]);
+    __corvex__keepDialogText("lastPromptMessage", __corvex__dialogText(arguments));
+    __corvex__keepDialogText("lastPromptDefaultValue", "" + args[1]);
   }
   return isNative ? __corvex__callStored(window.top, "__corvex__origPrompt", args) : __corvex__promptAnswer();
 }

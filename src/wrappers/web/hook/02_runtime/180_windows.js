@@ -2,8 +2,8 @@
 // Needs: the transport, contexts, __corvex__logEventByWindow, the frame sweep.
 
 function __corvex__isListedWindow(w) {
-  for (var i = 0; i < window.__corvex__windows.length; ++i) {
-    if (window.__corvex__windows[i] === w) {
+  for (var i = 0; i < __corvex__windowState.windows.length; ++i) {
+    if (__corvex__windowState.windows[i] === w) {
       return true;
     }
   }
@@ -45,7 +45,7 @@ function __corvex__listenInWindow(w) {
 // Old Internet Explorer. With several windows, each handler speaks for the newest one.
 function __corvex__listenInOldWindow(w) {
   var handler = __corvex__quiet(function () {
-    __corvex__logEventByWindow(null, window.__corvex__windows[window.__corvex__wcnt]);
+    __corvex__logEventByWindow(null, __corvex__windowState.windows[__corvex__windowState.wcnt]);
   });
   w.document.onkeyup = handler;
   w.document.onmousedown = handler;
@@ -77,8 +77,8 @@ function __corvex__hookInWindow(w) {
     }
     return;
   }
-  window.__corvex__wcnt += 1;
-  window.__corvex__windows[window.__corvex__wcnt] = w;
+  __corvex__windowState.wcnt += 1;
+  __corvex__windowState.windows[__corvex__windowState.wcnt] = w;
   try {
     if (w.document.addEventListener) {
       __corvex__listenInWindow(w);
@@ -92,7 +92,7 @@ function __corvex__hookInWindow(w) {
 }
 
 function __corvex__hookFramesLater(w) {
-  window.__corvex__framewin = w;
+  __corvex__windowState.framewin = w;
   __corvex__later(function () {
     __corvex__hookFrames(w);
   }, 2000);
@@ -108,10 +108,10 @@ function __corvex__rehookWindow(w) {
 }
 
 function __corvex__announceWindow(w) {
-  var ctxwin = window.__corvex__ctxwin;
-  window.__corvex__ctxwin = w;
+  var ctxwin = __corvex__windowState.ctxwin;
+  __corvex__windowState.ctxwin = w;
   __corvex__sendQuietly("eventHandler" + __corvex__natives.milliseconds() + "&name=WindowOpened", true);
-  window.__corvex__ctxwin = ctxwin;
+  __corvex__windowState.ctxwin = ctxwin;
 }
 
 // Windows opened by name are not remembered: a variable would not outlive the next page.

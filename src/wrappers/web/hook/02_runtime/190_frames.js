@@ -77,7 +77,7 @@ function __corvex__hookInFrame(f) {
 function __corvex__popupUnload(e) {
   __corvex__callSavedHandler(this.document && this.document.body, "old_onunload", this, e);
   __corvex__later(function () {
-    __corvex__rehookWindow(window.__corvex__popups[window.__corvex__popupcnt]);
+    __corvex__rehookWindow(__corvex__windowState.popups[__corvex__windowState.popupcnt]);
   }, 1000);
 }
 
@@ -91,13 +91,13 @@ function __corvex__watchPopup(popup) {
 
 // Takes the mailbox. Errors stay here: a popup that went to another origin must not keep frames from being hooked.
 function __corvex__hookMailboxWindow(w) {
-  var popup = window.__corvex__framewin;
-  window.__corvex__framewin = undefined;
+  var popup = __corvex__windowState.framewin;
+  __corvex__windowState.framewin = undefined;
   if (!popup || popup === window) {
     return;
   }
-  window.__corvex__popupcnt += 1;
-  window.__corvex__popups[window.__corvex__popupcnt] = popup;
+  __corvex__windowState.popupcnt += 1;
+  __corvex__windowState.popups[__corvex__windowState.popupcnt] = popup;
   try {
     if (window.__corvex__ie && !popup.document.body) {
       __corvex__addWindowForLazyHook(w);
@@ -112,7 +112,7 @@ function __corvex__hookMailboxWindow(w) {
 // w: may be absent.
 function __corvex__hookFrames(w) {
   try {
-    var target = w || window.__corvex__framewin || window;
+    var target = w || __corvex__windowState.framewin || window;
     __corvex__hookMailboxWindow(target);
     var frames = window.top.__corvex.getAllFrames(target.document);
     for (var i = 0; i < frames.length; ++i) {

@@ -32,17 +32,17 @@ function __corvex__callSavedHandlers(w, name, e) {
 function __corvex__rehookFrames__load(e) {
   try {
     var w = __corvex__topmostWindow(this);
-    window.__corvex__framewin = w;
-    if (__corvex__rehookLoadLock) {
+    __corvex__windowState.framewin = w;
+    if (__corvex__windowState.rehookLoadLock) {
       return;
     }
-    __corvex__rehookLoadLock = true;
+    __corvex__windowState.rehookLoadLock = true;
     __corvex__callSavedHandlers(this, "old_onload", e);
     __corvex__logEvent("__clear__");
     __corvex__later(function () {
       __corvex__hookFrames(w);
     }, 2000);
-    __corvex__rehookLoadLock = false;
+    __corvex__windowState.rehookLoadLock = false;
   } catch (ex) {
     // See above; the page is not to see it.
   }
@@ -56,18 +56,18 @@ function __corvex__rehookFrames__unload(e) {
     } catch (ex) {
       // A parent that is gone ends the walk.
     }
-    window.__corvex__framewin = w;
-    if (__corvex__rehookUnLoadLock) {
+    __corvex__windowState.framewin = w;
+    if (__corvex__windowState.rehookUnLoadLock) {
       return;
     }
-    __corvex__rehookUnLoadLock = true;
+    __corvex__windowState.rehookUnLoadLock = true;
     __corvex__callSavedHandlers(this, "old_onunload", e);
     __corvex__logEvent("__clear__");
     __corvex__triggerUnloadEventHandler(this);
     __corvex__later(function () {
       __corvex__hookFrames(w);
     }, 2000);
-    __corvex__rehookUnLoadLock = false;
+    __corvex__windowState.rehookUnLoadLock = false;
   } catch (ex) {
     // As at the load of a frame.
   }
@@ -117,25 +117,25 @@ function __corvex__hookLazyWindow(w) {
 }
 
 function __corvex__lazyHookIE() {
-  if (!__corvex__lazyHookWindows.length) {
-    __corvex__natives.clearInterval(__corvex__lazyHookTimer);
-    __corvex__lazyHookTimer = null;
+  if (!__corvex__windowState.lazyHookWindows.length) {
+    __corvex__natives.clearInterval(__corvex__windowState.lazyHookTimer);
+    __corvex__windowState.lazyHookTimer = null;
     return;
   }
   // Hooking can add windows.
-  var windows = __corvex__lazyHookWindows;
-  __corvex__lazyHookWindows = [];
+  var windows = __corvex__windowState.lazyHookWindows;
+  __corvex__windowState.lazyHookWindows = [];
   for (var i = 0; i < windows.length; ++i) {
     if (!__corvex__hookLazyWindow(windows[i])) {
-      __corvex__lazyHookWindows.push(windows[i]);
+      __corvex__windowState.lazyHookWindows.push(windows[i]);
     }
   }
 }
 
 // For a window whose document has no body yet.
 function __corvex__addWindowForLazyHook(w) {
-  __corvex__lazyHookWindows.push(w);
-  if (!__corvex__lazyHookTimer) {
-    __corvex__lazyHookTimer = __corvex__natives.setInterval(__corvex__quiet(__corvex__lazyHookIE), 100);
+  __corvex__windowState.lazyHookWindows.push(w);
+  if (!__corvex__windowState.lazyHookTimer) {
+    __corvex__windowState.lazyHookTimer = __corvex__natives.setInterval(__corvex__quiet(__corvex__lazyHookIE), 100);
   }
 }

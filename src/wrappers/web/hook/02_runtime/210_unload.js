@@ -16,12 +16,12 @@ function __corvex__triggerUnloadEventHandler(win) {
 }
 
 function __corvex__topLevelUnloadHandler(event, d) {
-  __corvex__isPageLeaving = true;
+  __corvex__windowState.isPageLeaving = true;
   try {
     __corvex__triggerUnloadEventHandler(window.top);
     __corvex__handler(event, d);
   } finally {
-    __corvex__isPageLeaving = false;
+    __corvex__windowState.isPageLeaving = false;
   }
 }
 

@@ -1,6 +1,10 @@
 // Gives: innerText on every browser, with the same text on all of them.
 // Needs: __corvex__innerText.
 
+window.__corvex__innerText = function (elem) {
+  return elem.textContent;
+};
+
 function __corvex__setupInnerTextFunctions(w) {
   try {
     Object.defineProperty(w.HTMLElement.prototype, "innerText", {

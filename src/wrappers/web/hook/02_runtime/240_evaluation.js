@@ -17,7 +17,6 @@ __corvex__listenInOwnDocument();
 window.old_onunload = window.onunload;
 window.onunload = __corvex__topLevelUnloadHandler;
 
-__corvex__topWindow = window;
 __corvex__hookupWindow(window);
 
 __corvex__natives.setInterval(__corvex__quiet(__corvex__hookFramesOfAllWindows), 1000);

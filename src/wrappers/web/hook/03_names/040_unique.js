@@ -30,7 +30,7 @@ function __corvex__uniquifyName(n, o, ignore) {
   var found = __corvex__findObjectByProps4(n);
   var counter = 1;
   while (found && found !== o) {
-    var hits = __corvex__hitsInDocument(__corvex__ctxwin.document, n, o, counter);
+    var hits = __corvex__hitsInDocument(__corvex__windowState.ctxwin.document, n, o, counter);
     if (hits.place !== 0) {
       return head + hits.place + "'}";
     }

@@ -1,7 +1,5 @@
-// Gives: __corvex__nameOf and __corvex__propertyNameOf, window.__corvex__nameOf__hooks.
+// Gives: __corvex__nameOf and __corvex__propertyNameOf.
 // Needs: the other files of this folder; __corvex__currentContext, __corvex__contextOfForUrl when called.
-
-window.__corvex__nameOf__hooks = [];
 
 var __corvex__textElements = { SPAN: 1, DIV: 1, LI: 1, TD: 1, TR: 1, LABEL: 1 };
 var __corvex__controlElements = { INPUT: 1, SELECT: 1, BUTTON: 1 };
@@ -56,7 +54,7 @@ function __corvex__addFrameContextToName(objectToGenerateNameFor, objectName) {
     return objectName;
   }
   var ctx = __corvex__currentContext(objectToGenerateNameFor);
-  var ectx = window.__corvex__explicitContext || window;
+  var ectx = __corvex__windowState.explicitContext || window;
   if (ctx && ectx && ctx === ectx) {
     return objectName;
   }

@@ -3,9 +3,9 @@
 
 // An element that is found leaves the current context on the window that holds it: the next search starts there.
 function __corvex__findObjectByProps2(nm, w, vain) {
-  var before = __corvex__ctxwin;
+  var before = __corvex__windowState.ctxwin;
   var found;
-  __corvex__ctxwin = w;
+  __corvex__windowState.ctxwin = w;
   try {
     found = __corvex__findObjectByProps(w.document, nm, vain);
   } catch (e) { /* not found in this document */ }
@@ -23,7 +23,7 @@ function __corvex__findObjectByProps2(nm, w, vain) {
       }
     }
   } catch (e) { /* a document whose frames cannot be read */ }
-  __corvex__ctxwin = before;
+  __corvex__windowState.ctxwin = before;
   return undefined;
 }
 
@@ -44,7 +44,7 @@ function __corvex__findObjectByProps4(nm) {
   // The document of the current context comes a second time among all the others.
   var vain = [];
   try {
-    var found = __corvex__findObjectByProps(__corvex__ctxwin.document, nm, vain);
+    var found = __corvex__findObjectByProps(__corvex__windowState.ctxwin.document, nm, vain);
     if (found) {
       return found;
     }

@@ -27,7 +27,7 @@ function __corvex__labelledOrButton(doc, text) {
 }
 
 function __corvex__findObjectByHeuristic(nm) {
-  var doc = __corvex__ctxwin.document;
+  var doc = __corvex__windowState.ctxwin.document;
   return __corvex__firstWithText(__corvex__nodeReader.links(doc), nm) ||
     __corvex__askDocument(doc, "getElementById", nm) ||
     __corvex__askDocument(doc, "getElementsByName", nm)[0] ||
@@ -36,9 +36,9 @@ function __corvex__findObjectByHeuristic(nm) {
 }
 
 function __corvex__findObjectByHeuristic2(nm, w) {
-  var before = __corvex__ctxwin;
+  var before = __corvex__windowState.ctxwin;
   var found;
-  __corvex__ctxwin = w;
+  __corvex__windowState.ctxwin = w;
   try {
     found = __corvex__findObjectByHeuristic(nm);
   } catch (e) { /* not found in this document */ }
@@ -54,7 +54,7 @@ function __corvex__findObjectByHeuristic2(nm, w) {
       }
     }
   } catch (e) { /* a document whose frames cannot be read */ }
-  __corvex__ctxwin = before;
+  __corvex__windowState.ctxwin = before;
   return undefined;
 }
 

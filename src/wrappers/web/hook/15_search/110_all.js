@@ -38,7 +38,7 @@ function __corvex__addWindows(w, windows) {
 
 // The windows in the order of a search: the current context, then all others.
 function __corvex__windowsToSearch() {
-  var windows = [__corvex__ctxwin];
+  var windows = [__corvex__windowState.ctxwin];
   var contexts = __corvex__contextList();
   for (var i = 0; i < contexts.length; ++i) {
     __corvex__addWindows(contexts[i], windows);
@@ -49,10 +49,10 @@ function __corvex__windowsToSearch() {
 function __corvex__hitsInPage(nm) {
   var hits = [];
   var searched = [];
-  var before = __corvex__ctxwin;
+  var before = __corvex__windowState.ctxwin;
   var windows = __corvex__windowsToSearch();
   for (var i = 0; i < windows.length; ++i) {
-    __corvex__ctxwin = windows[i];
+    __corvex__windowState.ctxwin = windows[i];
     try {
       // A name with a context leads into the same document from everywhere.
       var doc = __corvex__effectiveContainer(windows[i].document, __corvex__propertyMap(nm), nm);
@@ -62,7 +62,7 @@ function __corvex__hitsInPage(nm) {
       }
     } catch (e) { /* none in this document */ }
   }
-  __corvex__ctxwin = before;
+  __corvex__windowState.ctxwin = before;
   return hits;
 }
 

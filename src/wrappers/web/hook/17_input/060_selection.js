@@ -62,6 +62,8 @@ function __corvex__selectOptions(e, values, getValueFromOptionFunc) {
   __corvex__sendChangeEvent(e);
 }
 
+var __corvex__seps = ",;|-+*!/,";
+
 // The last character tells the separator, where it is one.
 var __corvex__createTextArrayFromMultiOptionString = __corvex__withBuiltIns(function (text) {
   var separator = text.charAt(text.length - 1);

@@ -1,18 +1,15 @@
 // Gives: the selection of the current context, by context name and by frame path.
 // Needs: contexts, getAllFrames.
 
-// The window that was selected by name; object names are relative to it.
-window.__corvex__explicitContext = undefined;
-
 function __corvex__setContext(ctx) {
   // Kept also on failure: a window that takes this name later becomes the current one.
-  window.__corvex__ctxwin_str = ctx;
+  __corvex__windowState.ctxwin_str = ctx;
   var w = __corvex__findContext2(ctx);
   if (!w) {
     return false;
   }
-  window.__corvex__ctxwin = w;
-  window.__corvex__explicitContext = w;
+  __corvex__windowState.ctxwin = w;
+  __corvex__windowState.explicitContext = w;
   return true;
 }
 
@@ -64,6 +61,6 @@ function __corvex__setFrameContext(frameId) {
   if (!frame) {
     return false;
   }
-  window.__corvex__ctxwin = frame.contentWindow;
+  __corvex__windowState.ctxwin = frame.contentWindow;
   return true;
 }

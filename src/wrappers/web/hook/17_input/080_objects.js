@@ -34,17 +34,17 @@ function __corvex__getObjectAttribute(obj, attrName) {
 }
 
 function __corvex__lastAlertText() {
-  return window.__corvex__lastAlertMessage;
+  return __corvex__dialogState.lastAlertMessage;
 }
 
 function __corvex__lastConfirmText() {
-  return window.__corvex__lastConfirmMessage;
+  return __corvex__dialogState.lastConfirmMessage;
 }
 
 function __corvex__lastPromptText() {
-  return window.__corvex__lastPromptMessage;
+  return __corvex__dialogState.lastPromptMessage;
 }
 
 function __corvex__lastPromptDefault() {
-  return window.__corvex__lastPromptDefaultValue;
+  return __corvex__dialogState.lastPromptDefaultValue;
 }
