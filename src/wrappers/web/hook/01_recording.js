@@ -16,22 +16,9 @@ function __corvex__determineEventObject(eventParameter, win) {
 }
 
 function __corvex__findEventInFrameWindowsForOldIE(w) {
-  var frames = window.top.__corvex.getAllFrames(w.document);
-  for (var i = 0; i < frames.length; ++i) {
-    try {
-      var frameWindow = frames[i].contentWindow;
-      if (__corvex__isEventObject(frameWindow.event)) {
-        return frameWindow.event;
-      }
-      var nested = __corvex__findEventInFrameWindowsForOldIE(frameWindow);
-      if (nested) {
-        return nested;
-      }
-    } catch (e) {
-      // A frame of another origin.
-    }
-  }
-  return undefined;
+  return __corvex__firstInFrames(w.document, function (frameWindow) {
+    return __corvex__isEventObject(frameWindow.event) && frameWindow.event;
+  });
 }
 
 // A canvas that is driven, recorded and picked in by the hook inside the application which paints it.

@@ -13,22 +13,9 @@ function __corvex__findFrameRecursive(ctxdoc, frameName) {
   if (!ctxdoc) {
     return null;
   }
-  var found = __corvex__findFrameByIdOrName(ctxdoc, frameName);
-  if (found) {
-    return found;
-  }
-  var frames = window.top.__corvex.getAllFrames(ctxdoc);
-  for (var i = 0; i < frames.length; ++i) {
-    try {
-      found = __corvex__findFrameRecursive(frames[i].contentWindow.document, frameName);
-      if (found) {
-        return found;
-      }
-    } catch (e) {
-      // A frame of another origin.
-    }
-  }
-  return null;
+  return __corvex__findFrameByIdOrName(ctxdoc, frameName) || __corvex__firstInFrames(ctxdoc, function (frameWindow) {
+    return __corvex__findFrameByIdOrName(frameWindow.document, frameName);
+  }) || null;
 }
 
 var __corvex__targetWindows = {

@@ -1,43 +1,52 @@
-// Gives: the order of documents in which a search by properties looks; __corvex__findObject, the entry for a name.
+// Gives: the order of documents in which a search looks; __corvex__findObject, the entry for a name.
 // Needs: 30_properties.js; contexts and frames of the runtime when called.
 
-// An element that is found leaves the current context on the window that holds it: the next search starts there.
-function __corvex__findObjectByProps2(nm, w, vain) {
+// Calls search with the document of w, and those of its frames that enters lets in, until it finds an element. That leaves
+// the current context on the window that holds it: the next search starts there.
+function __corvex__searchWindow(w, search, enters) {
   var before = __corvex__windowState.ctxwin;
-  var found;
-  __corvex__windowState.ctxwin = w;
-  try {
-    found = __corvex__findObjectByProps(w.document, nm, vain);
-  } catch (e) { /* not found in this document */ }
-  if (found) {
-    return found;
-  }
-  try {
-    var frames = window.top.__corvex.getAllFrames(w.document);
-    for (var i = 0; i < frames.length; ++i) {
-      if (__corvex__isFrameAccessible(frames[i])) {
-        found = __corvex__findObjectByProps2(nm, frames[i].contentWindow, vain);
-        if (found) {
-          return found;
-        }
-      }
+  function look(current) {
+    __corvex__windowState.ctxwin = current;
+    try {
+      return search(current.document);
+    } catch (e) {
+      // Not found in this document.
+      return undefined;
     }
-  } catch (e) { /* a document whose frames cannot be read */ }
-  __corvex__windowState.ctxwin = before;
+  }
+  var found = look(w);
+  try {
+    found = found || __corvex__firstInFrames(w.document, look, enters);
+  } catch (e) {
+    // A document whose frames cannot be read.
+  }
+  if (!found) {
+    __corvex__windowState.ctxwin = before;
+  }
+  return found;
+}
+
+function __corvex__searchContexts(searchIn) {
+  var windows = __corvex__contextList();
+  for (var i = 0; i < windows.length; ++i) {
+    var found = searchIn(windows[i]);
+    if (found) {
+      return found;
+    }
+  }
   return undefined;
 }
 
+function __corvex__findObjectByProps2(nm, w, vain) {
+  return __corvex__searchWindow(w, function (doc) {
+    return __corvex__findObjectByProps(doc, nm, vain);
+  }, __corvex__isFrameAccessible);
+}
+
 function __corvex__findObjectByProps3(nm, vain) {
-  var windows = __corvex__contextList();
-  for (var i = 0; i < windows.length; ++i) {
-    try {
-      var found = __corvex__findObjectByProps2(nm, windows[i], vain);
-      if (found) {
-        return found;
-      }
-    } catch (e) { /* the next window is still tried */ }
-  }
-  return undefined;
+  return __corvex__searchContexts(function (w) {
+    return __corvex__findObjectByProps2(nm, w, vain);
+  });
 }
 
 function __corvex__findObjectByProps4(nm) {
@@ -48,7 +57,9 @@ function __corvex__findObjectByProps4(nm) {
     if (found) {
       return found;
     }
-  } catch (e) { /* not found in the current context */ }
+  } catch (e) {
+    // Not found in the current context.
+  }
   return __corvex__findObjectByProps3(nm, vain);
 }
 

@@ -36,39 +36,15 @@ function __corvex__findObjectByHeuristic(nm) {
 }
 
 function __corvex__findObjectByHeuristic2(nm, w) {
-  var before = __corvex__windowState.ctxwin;
-  var found;
-  __corvex__windowState.ctxwin = w;
-  try {
-    found = __corvex__findObjectByHeuristic(nm);
-  } catch (e) { /* not found in this document */ }
-  if (found) {
-    return found;
-  }
-  try {
-    var frames = window.top.__corvex.getAllFrames(w.document);
-    for (var i = 0; i < frames.length; ++i) {
-      found = __corvex__findObjectByHeuristic2(nm, frames[i].contentWindow);
-      if (found) {
-        return found;
-      }
-    }
-  } catch (e) { /* a document whose frames cannot be read */ }
-  __corvex__windowState.ctxwin = before;
-  return undefined;
+  return __corvex__searchWindow(w, function () {
+    return __corvex__findObjectByHeuristic(nm);
+  });
 }
 
 function __corvex__findObjectByHeuristic3(nm) {
-  var windows = __corvex__contextList();
-  for (var i = 0; i < windows.length; ++i) {
-    try {
-      var found = __corvex__findObjectByHeuristic2(nm, windows[i]);
-      if (found) {
-        return found;
-      }
-    } catch (e) { /* the next window is still tried */ }
-  }
-  return undefined;
+  return __corvex__searchContexts(function (w) {
+    return __corvex__findObjectByHeuristic2(nm, w);
+  });
 }
 
 function __corvex__findObjectByHeuristic4(nm) {
@@ -77,6 +53,8 @@ function __corvex__findObjectByHeuristic4(nm) {
     if (found) {
       return found;
     }
-  } catch (e) { /* not found in the current context */ }
+  } catch (e) {
+    // Not found in the current context.
+  }
   return __corvex__findObjectByHeuristic3(nm);
 }

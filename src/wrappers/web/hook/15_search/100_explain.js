@@ -1,28 +1,6 @@
 // Gives: why a name finds nothing: how many elements have its tag, and which of its properties none of them has.
 // Needs: the search by properties, getAllFrames, __corvex__contextList.
 
-function __corvex__eachDocument(visit) {
-  function walk(w) {
-    visit(w.document);
-    var frames = window.top.__corvex.getAllFrames(w.document);
-    for (var i = 0; i < frames.length; ++i) {
-      try {
-        walk(frames[i].contentWindow);
-      } catch (e) {
-        continue;
-      }
-    }
-  }
-  var windows = __corvex__contextList();
-  for (var i = 0; i < windows.length; ++i) {
-    try {
-      walk(windows[i]);
-    } catch (e) {
-      continue;
-    }
-  }
-}
-
 // What is wrong with a name, whatever there is in the page, as the fault of a record; undefined where nothing is.
 window.top.__corvex.faultOfName = function (nm) {
   var map;

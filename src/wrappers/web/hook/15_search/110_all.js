@@ -22,26 +22,14 @@ function __corvex__addHits(container, nm, hits) {
   });
 }
 
-function __corvex__addWindows(w, windows) {
-  if (!__corvex__listHolds(windows, w)) {
-    windows[windows.length] = w;
-  }
-  try {
-    var frames = window.top.__corvex.getAllFrames(w.document);
-    for (var i = 0; i < frames.length; ++i) {
-      if (__corvex__isFrameAccessible(frames[i])) {
-        __corvex__addWindows(frames[i].contentWindow, windows);
-      }
-    }
-  } catch (e) { /* a document whose frames cannot be read */ }
-}
-
 // The windows in the order of a search: the current context, then all others.
 function __corvex__windowsToSearch() {
   var windows = [__corvex__windowState.ctxwin];
-  var contexts = __corvex__contextList();
-  for (var i = 0; i < contexts.length; ++i) {
-    __corvex__addWindows(contexts[i], windows);
+  var all = __corvex__everyWindow(__corvex__isFrameAccessible);
+  for (var i = 0; i < all.length; ++i) {
+    if (all[i] !== windows[0]) {
+      windows[windows.length] = all[i];
+    }
   }
   return windows;
 }

@@ -1,14 +1,5 @@
-// Gives: the frames of a document, and the children of a node with reference, type and leaf name.
+// Gives: the children of a node with reference, type and leaf name.
 // Needs: traversal, typing, references, leaf names.
-
-window.top.__corvex.getAllFrames = function (doc) {
-  var found = __corvex__askDocument(doc, "querySelectorAll", "iframe,frame");
-  var frames = [];
-  for (var i = 0; i < found.length; ++i) {
-    frames.push(found[i]);
-  }
-  return frames;
-};
 
 function __corvex__childRecord(child, nameInLeaf) {
   return {

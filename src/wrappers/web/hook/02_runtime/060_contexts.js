@@ -92,22 +92,9 @@ function __corvex__contextList() {
 }
 
 function __corvex__findDocument(w, doc) {
-  var frames = window.top.__corvex.getAllFrames(w.document);
-  for (var i = 0; i < frames.length; ++i) {
-    try {
-      var frameWindow = frames[i].contentWindow;
-      if (frameWindow.document === doc) {
-        return frameWindow;
-      }
-      var nested = __corvex__findDocument(frameWindow, doc);
-      if (nested) {
-        return nested;
-      }
-    } catch (e) {
-      // A frame of another origin.
-    }
-  }
-  return undefined;
+  return __corvex__firstInFrames(w.document, function (frameWindow) {
+    return frameWindow.document === doc && frameWindow;
+  });
 }
 
 function __corvex__currentContext(o) {
@@ -134,21 +121,13 @@ function __corvex__currentContext(o) {
 
 function __corvex__findContextWindow(w, ctx) {
   try {
-    var frames = window.top.__corvex.getAllFrames(w.document);
-    for (var i = 0; i < frames.length; ++i) {
-      var frameWindow = frames[i].contentWindow;
-      if (__corvex__contextOf(frameWindow) == ctx) {
-        return frameWindow;
-      }
-      var nested = __corvex__findContextWindow(frameWindow, ctx);
-      if (nested) {
-        return nested;
-      }
-    }
+    return __corvex__firstInFrames(w.document, function (frameWindow) {
+      return __corvex__contextOf(frameWindow) === ctx && frameWindow;
+    });
   } catch (e) {
     // What cannot be read holds no context.
+    return undefined;
   }
-  return undefined;
 }
 
 function __corvex__findContext2(ctx) {
