@@ -35,6 +35,7 @@ const flags = readonly(`__corvex__filter__non__element__nodes __corvex__eventLog
 const rules = {
   'no-undef': ['error', { typeof: false }],
   'no-unused-vars': ['error', { vars: 'local', args: 'none', caughtErrors: 'none' }],
+  'eqeqeq': ['error', 'always', { null: 'ignore' }],
   'no-dupe-keys': 'error',
   'no-dupe-args': 'error',
   'no-dupe-else-if': 'error',
@@ -62,7 +63,7 @@ const rules = {
 const noEval = { 'no-eval': 'error', 'no-implied-eval': 'error', 'no-new-func': 'error' };
 
 module.exports = [
-  { linterOptions: { reportUnusedDisableDirectives: 'off' } },
+  { linterOptions: { reportUnusedDisableDirectives: 'error' } },
   { ignores: ['node_modules/**', 'build/**', 'build-*/**'] },
   {
     files: ['src/wrappers/web/hook/**/*.js', 'extensions/web/*.js', 'src/webhook/**/*.js'],

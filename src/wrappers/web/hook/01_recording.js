@@ -2,7 +2,7 @@
 // Needs: event objects and sources, contexts, names, the change-listener installer, the touch switches, the transport.
 
 function __corvex__isEventObject(ev) {
-  return !!ev && typeof ev.type == "string" && __corvex__srcElement(ev) !== undefined;
+  return !!ev && typeof ev.type === "string" && __corvex__srcElement(ev) !== undefined;
 }
 
 function __corvex__determineEventObject(eventParameter, win) {
@@ -23,7 +23,7 @@ function __corvex__findEventInFrameWindowsForOldIE(w) {
 
 // A canvas that is driven, recorded and picked in by the hook inside the application which paints it.
 function __corvex__isHookedWasmCanvas(elem) {
-  return elem.tagName == "CANVAS" && __corvex__listContains(elem.className, "corvex-qt-application-screen");
+  return elem.tagName === "CANVAS" && __corvex__listContains(elem.className, "corvex-qt-application-screen");
 }
 
 // The event that is going on and its window; both undefined where there is none.
@@ -34,7 +34,7 @@ function __corvex__findCurrentEvent(e) {
   }
   var contexts = __corvex__contextList();
   for (var i = 0; i < contexts.length; ++i) {
-    if (typeof contexts[i] == "function") {
+    if (typeof contexts[i] === "function") {
       continue;
     }
     ev = __corvex__findEventInFrameWindowsForOldIE(contexts[i]);
@@ -79,7 +79,7 @@ function __corvex__handler(e, d) {
   if (!ev || !current.win) {
     return true;
   }
-  if (ev.type == "mousedown" || ev.type == "click") {
+  if (ev.type === "mousedown" || ev.type === "click") {
     __corvex__install__handler(ev, cw);
     // One tap is recorded once: as the touch.
     if (window.top.__corvex__recordTouchEvents()) {
@@ -97,7 +97,7 @@ function __corvex__handler(e, d) {
 }
 
 function __corvex__isSelectionElement(o) {
-  return !!o && typeof o.type == "string" && o.type.indexOf("select") != -1;
+  return !!o && typeof o.type === "string" && o.type.indexOf("select") !== -1;
 }
 
 // While it picks, the page never sees the event.
@@ -144,7 +144,7 @@ function __corvex__logEvent(e, w) {
   if (!e) {
     return undefined;
   }
-  if (e.type == "unload") {
+  if (e.type === "unload") {
     __corvex__logUnload(e);
     return undefined;
   }
@@ -161,7 +161,7 @@ function __corvex__logEvent(e, w) {
   }
   if (isPicking) {
     __corvex__swallowEvent(e);
-    if (o && (e.type == "mousedown" || e.type == "click")) {
+    if (o && (e.type === "mousedown" || e.type === "click")) {
       __corvex__logPickEvent(e, o, text);
     }
     return false;
@@ -179,7 +179,7 @@ function __corvex__logEventByWindow(e, w) {
   if (w.document) {
     __corvex__windowState.ctxwin = w;
   }
-  if (ev && (ev.type == "mousedown" || ev.type == "click")) {
+  if (ev && (ev.type === "mousedown" || ev.type === "click")) {
     __corvex__install__handler(ev, w);
   }
   __corvex__logEvent(ev, w);
@@ -223,7 +223,7 @@ function __corvex__logPickEvent(e, o, url) {
 }
 
 function __corvex__isFunction(obj) {
-  return typeof obj == "function" || __corvex__natives.classOf(obj) == "[object Function]";
+  return typeof obj === "function" || __corvex__natives.classOf(obj) === "[object Function]";
 }
 
 function __corvex__pickableObject(elem) {

@@ -73,7 +73,7 @@ var __corvex__refPlaces = (function () {
 function __corvex__idForObject(obj) {
   var store = top.__corvex__globalObjectRefStore;
   var index = __corvex__refPlaces.find(store, obj);
-  if (index == -1) {
+  if (index === -1) {
     index = store.length;
     store[index] = obj;
   }

@@ -3,7 +3,7 @@
 
 function __corvex__findFrameByIdOrName(ctxdoc, frame) {
   var elem = __corvex__askDocument(ctxdoc, "getElementById", frame);
-  if (elem && (elem.tagName == "IFRAME" || elem.tagName == "FRAME")) {
+  if (elem && (elem.tagName === "IFRAME" || elem.tagName === "FRAME")) {
     return elem;
   }
   return __corvex__matchFrameByName(window.top.__corvex.getAllFrames(ctxdoc), frame);
@@ -37,7 +37,7 @@ var __corvex__targetWindows = {
 function __corvex__findTargetWindow(elem) {
   var start = __corvex__nodeReader.ownerDocument(elem).defaultView;
   // A field of that name hides the target of a form.
-  var target = typeof elem.target == "object" ? __corvex__attributeOf(elem, "target") : elem.target;
+  var target = typeof elem.target === "object" ? __corvex__attributeOf(elem, "target") : elem.target;
   if (!target) {
     return start;
   }

@@ -65,7 +65,7 @@ function __corvex__isSafariUsingWebDriver() {
 
 function __corvex__needToApplyDevicePixelRatio(win) {
   try {
-    return win.devicePixelRatio !== undefined && window.__corvex__os != "MacOSX" && !__corvex__isWKWebViewBrowser() &&
+    return win.devicePixelRatio !== undefined && window.__corvex__os !== "MacOSX" && !__corvex__isWKWebViewBrowser() &&
            !__corvex__isCocoaTouchWebViewBrowser();
   } catch (e) {
     return false;

@@ -19,7 +19,7 @@ __corvex__styleInfo.prototype.styleProperty = function (prop) {
       return __corvex__nodeReader.ownerDocument(this.obj).defaultView.getComputedStyle(this.obj, null)[prop];
     }
     var obj = this.obj;
-    while (obj.currentStyle[prop] == "inherit") {
+    while (obj.currentStyle[prop] === "inherit") {
       obj = __corvex__nodeReader.parentNode(obj);
     }
     return obj.currentStyle[prop];
@@ -32,7 +32,7 @@ function __corvex__hasDisplayNone(elem) {
   try {
     // A document ends the walk: it has no style.
     for (var node = elem; node && __corvex__nodeReader.nodeType(node) !== 9; node = __corvex__nodeReader.parentNode(node)) {
-      if (new __corvex__styleInfo(node).styleProperty("display") == "none") {
+      if (new __corvex__styleInfo(node).styleProperty("display") === "none") {
         return true;
       }
     }
@@ -71,7 +71,7 @@ function __corvex__isVisibleByStyle(elem) {
     }
     var style = new __corvex__styleInfo(elem);
     // The computed visibility holds the parents' state already; the computed display does not.
-    if (style.styleProperty("display") == "none" || style.styleProperty("visibility") == "hidden") {
+    if (style.styleProperty("display") === "none" || style.styleProperty("visibility") === "hidden") {
       return false;
     }
     return !__corvex__hasDisplayNone(__corvex__nodeReader.parentNode(elem));
@@ -85,5 +85,5 @@ function __corvex__isVisible(elem) {
 }
 
 function __corvex__cssToPx(sizeVal) {
-  return typeof sizeVal == "string" && /px$/.test(sizeVal) ? parseInt(sizeVal, 10) : sizeVal;
+  return typeof sizeVal === "string" && /px$/.test(sizeVal) ? parseInt(sizeVal, 10) : sizeVal;
 }

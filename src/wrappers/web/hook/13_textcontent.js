@@ -41,7 +41,7 @@ window.top.__corvex.getTextContent = (function () {
     }
     // The parent holds the text already.
     var parent = __corvex__nodeReader.parentNode(element);
-    return !(parent && __corvex__nodeReader.tagName(parent) && upperTagName(parent) != "BODY" &&
+    return !(parent && __corvex__nodeReader.tagName(parent) && upperTagName(parent) !== "BODY" &&
              shouldHaveTextContent(parent));
   }
 
@@ -53,9 +53,9 @@ window.top.__corvex.getTextContent = (function () {
       var tagName = upperTagName(child);
       if (!isElement(child)) {
         parts.push(window.top.__corvex.simplifyText(child.nodeValue));
-      } else if (tagName == "BR") {
+      } else if (tagName === "BR") {
         parts.push("\n");
-      } else if (tagName == "SELECT" || tagName == "TEXTAREA") {
+      } else if (tagName === "SELECT" || tagName === "TEXTAREA") {
         parts.push(assembleTextContent(child));
       }
     }

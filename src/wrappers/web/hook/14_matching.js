@@ -77,7 +77,7 @@ function __corvex__wildcardToRegExp(s) {
 function __corvex__propMatches(prop, s, clean) {
   switch (prop.modifiers) {
     case PropertyValue_StrictMatch:
-      return (clean ? __corvex__clean(prop.value) : prop.value) == s;
+      return (clean ? __corvex__clean(prop.value) : prop.value) == s; // eslint-disable-line eqeqeq -- numbers match their digits
     case PropertyValue_RegExp:
     case PropertyValue_Wildcard:
       return prop.value.test(s);

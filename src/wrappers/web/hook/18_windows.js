@@ -4,7 +4,7 @@
 // Year, month from 1, day, hours, minutes in the local zone; undefined for anything but a date.
 function __corvex__convertJSDateToDateTimeString(date) {
   // By its class text: instanceof fails for a date of another frame.
-  if (__corvex__natives.classOf(date) != "[object Date]") {
+  if (__corvex__natives.classOf(date) !== "[object Date]") {
     return undefined;
   }
   return [date.getFullYear(), date.getMonth() + 1, date.getDate(), date.getHours(), date.getMinutes()].join(",");

@@ -10,7 +10,7 @@ var __corvexDOMAPI = (function () {
   function filterNonElementNodes() {
     try {
       // Asked first: an exception at each step of a walk would be dear where the flag is not set.
-      return typeof __corvex__filter__non__element__nodes != "undefined" && !!__corvex__filter__non__element__nodes;
+      return typeof __corvex__filter__non__element__nodes !== "undefined" && !!__corvex__filter__non__element__nodes;
     } catch (e) {
       return false;
     }

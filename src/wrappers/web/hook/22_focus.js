@@ -13,7 +13,7 @@ window.top.__corvex.hasFocus = (function () {
 
   return function (element) {
     var doc = __corvex__nodeReader.ownerDocument(element);
-    if (typeof ShadowRoot != "undefined") {
+    if (typeof ShadowRoot !== "undefined") {
       doc = element.getRootNode();
       while (__corvex__isShadowRoot(doc)) {
         if (doc.activeElement !== element) {

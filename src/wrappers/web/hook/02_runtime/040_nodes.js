@@ -14,7 +14,7 @@ var __corvex__nodeReader = (function () {
     var get = getter && __corvex__natives.unbound(getter);
     return function (node) {
       var value = node[property];
-      if (!get || !value || (typeof value != "object" && typeof value != "function")) {
+      if (!get || !value || (typeof value !== "object" && typeof value !== "function")) {
         return value;
       }
       try {
@@ -41,7 +41,7 @@ var __corvex__nodeReader = (function () {
 
 // As doc[method](argument), also where an element of that name hides the document's own function.
 function __corvex__askDocument(doc, method, argument) {
-  return typeof doc[method] == "function" ? doc[method](argument) :
+  return typeof doc[method] === "function" ? doc[method](argument) :
     __corvex__natives.apply(Document.prototype[method], doc, [argument]);
 }
 

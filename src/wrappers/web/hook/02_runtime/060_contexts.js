@@ -18,11 +18,11 @@ function __corvex__pageOfLocation(location) {
   if (s.indexOf("data:") === 0) {
     s = "/top";
   }
-  if (s !== "" && s.charAt(s.length - 1) == "/") {
+  if (s !== "" && s.charAt(s.length - 1) === "/") {
     s += "index.html";
   }
   var query = s.indexOf("?");
-  s = s.substring(s.lastIndexOf("/", query == -1 ? s.length - 1 : query) + 1);
+  s = s.substring(s.lastIndexOf("/", query === -1 ? s.length - 1 : query) + 1);
   return s.split("?")[0].split("#")[0].split(";")[0];
 }
 
@@ -34,7 +34,7 @@ function __corvex__contextOf(w, noUnify) {
     }
     var framePart = "";
     try {
-      while (w.parent && w.parent != w) {
+      while (w.parent && w.parent !== w) {
         framePart = ".FRAME" + __corvex__frameInWindow(w.frameElement, w.parent) + framePart;
         w = w.parent;
       }
@@ -63,9 +63,9 @@ function __corvex__findContext(ctx, w) {
   var count = 0;
   var windows = [window].concat(__corvex__windowState.windows);
   for (var i = 0; i < windows.length; ++i) {
-    if (windows[i] && !windows[i].closed && __corvex__contextOf(windows[i], true) == ctx) {
+    if (windows[i] && !windows[i].closed && __corvex__contextOf(windows[i], true) === ctx) {
       ++count;
-      if (windows[i] == w) {
+      if (windows[i] === w) {
         return count;
       }
     }
@@ -131,20 +131,20 @@ function __corvex__findContextWindow(w, ctx) {
 }
 
 function __corvex__findContext2(ctx) {
-  if (__corvex__contextOf(window) == ctx) {
+  if (__corvex__contextOf(window) === ctx) {
     return window;
   }
   var i;
   for (i = 0; i < __corvex__windowState.windows.length; ++i) {
     var w = __corvex__windowState.windows[i];
-    if (w && !w.closed && __corvex__contextOf(w) == ctx) {
+    if (w && !w.closed && __corvex__contextOf(w) === ctx) {
       return w;
     }
   }
   var found = __corvex__findContextWindow(window, ctx);
   var contexts = __corvex__contextList();
   for (i = 0; !found && i < contexts.length; ++i) {
-    if (typeof contexts[i] != "function") {
+    if (typeof contexts[i] !== "function") {
       found = __corvex__findContextWindow(contexts[i], ctx);
     }
   }
@@ -179,5 +179,5 @@ function __corvex__documentOfContext(context) {
 }
 
 function __corvex__isPageLoaded() {
-  return document.readyState == "complete";
+  return document.readyState === "complete";
 }

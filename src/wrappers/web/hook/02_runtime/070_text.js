@@ -24,7 +24,7 @@ function __corvex__collectWords(s) {
     var word = "";
     for (var i = 0; i < s.length; ++i) {
       var c = s.charAt(i);
-      if (c == " ") {
+      if (c === " ") {
         words.push(word);
         word = "";
       } else {
@@ -56,7 +56,7 @@ function __corvex__listContains(s, entry) {
 }
 
 function __corvex__hasClass(elem, className) {
-  return typeof elem != "function" && __corvex__listContains(__corvex__nodeReader.className(elem), className);
+  return typeof elem !== "function" && __corvex__listContains(__corvex__nodeReader.className(elem), className);
 }
 
 function __corvex__getElementByClassName(context, className, tagName) {

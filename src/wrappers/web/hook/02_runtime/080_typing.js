@@ -23,7 +23,7 @@ function __corvex__typeFromHooks(o) {
 // A form with a field named "alert" is no window, and a document with such a form neither.
 function __corvex__isWindow(o) {
   try {
-    return !!o.alert && (o.window === o || typeof __corvex__nodeReader.nodeType(o) != "number");
+    return !!o.alert && (o.window === o || typeof __corvex__nodeReader.nodeType(o) !== "number");
   } catch (e) {
     // A window of another origin refuses the question.
     return true;
@@ -41,13 +41,13 @@ function __corvex__typeOf(o) {
   if (type) {
     return type;
   }
-  if (typeof o.type == "string" && o.type !== "") {
+  if (typeof o.type === "string" && o.type !== "") {
     return o.type;
   }
   if (__corvex__isShadowRoot(o)) {
     return "ShadowRoot";
   }
-  if (__corvex__nodeReader.nodeName(o) == "#document") {
+  if (__corvex__nodeReader.nodeName(o) === "#document") {
     return "DOCUMENT";
   }
   var tagName = __corvex__nodeReader.tagName(o);

@@ -23,7 +23,7 @@ function __corvex__hasClickHandler(node) {
 function __corvex__isKnownWidget(className) {
   var widgets = window.__corvex__knownWidgets;
   for (var i = 0; i < widgets.length; ++i) {
-    if (typeof widgets[i] != "function" && __corvex__listContains(className, widgets[i].Class)) {
+    if (typeof widgets[i] !== "function" && __corvex__listContains(className, widgets[i].Class)) {
       return true;
     }
   }
@@ -33,7 +33,7 @@ function __corvex__isKnownWidget(className) {
 function __corvex__isBackbaseWidget(className) {
   var descriptors = __corvex__backbase__descriptors;
   for (var i = 0; i < descriptors.length; ++i) {
-    if (typeof descriptors[i] != "function" &&
+    if (typeof descriptors[i] !== "function" &&
         __corvex__listContains(className, descriptors[i][__corvex__backbase__className])) {
       return true;
     }
@@ -52,7 +52,7 @@ var __corvex__climbTests = [
   {
     isWidget: false,
     holds: function (node) {
-      return __corvex__nodeReader.tagName(node) == "BUTTON" && node.type == "submit";
+      return __corvex__nodeReader.tagName(node) === "BUTTON" && node.type === "submit";
     }
   },
   {
@@ -65,13 +65,13 @@ var __corvex__climbTests = [
     isWidget: false,
     holds: function (node) {
       var id = __corvex__nodeReader.id(node);
-      return typeof id == "string" && id.indexOf("isc_") === 0;
+      return typeof id === "string" && id.indexOf("isc_") === 0;
     }
   },
   {
     isWidget: false,
     holds: function (node) {
-      return __corvex__nodeReader.tagName(node) == "A" && !!node.href;
+      return __corvex__nodeReader.tagName(node) === "A" && !!node.href;
     }
   },
   {
@@ -99,7 +99,7 @@ function __corvex__climbToWidget(o) {
 }
 
 function __corvex__labelledControl(o) {
-  if (!o || __corvex__nodeReader.tagName(o) != "LABEL" || !o.htmlFor) {
+  if (!o || __corvex__nodeReader.tagName(o) !== "LABEL" || !o.htmlFor) {
     return null;
   }
   return __corvex__askDocument(__corvex__nodeReader.ownerDocument(o), "getElementById", o.htmlFor);
@@ -107,7 +107,7 @@ function __corvex__labelledControl(o) {
 
 function __corvex__firstAnchorAbove(o) {
   var node = o;
-  while (node && __corvex__nodeReader.tagName(node) != "A") {
+  while (node && __corvex__nodeReader.tagName(node) !== "A") {
     node = __corvex__nodeReader.parentNode(node);
   }
   return node;
@@ -118,7 +118,7 @@ var __corvex__innerElementTypes = ["SPAN", "DIV", "[UNKNOWN_TYPE]", "IMG", "P", 
 function __corvex__isInnerElementType(type) {
   var upper = String(type).toUpperCase();
   for (var i = 0; i < __corvex__innerElementTypes.length; ++i) {
-    if (__corvex__innerElementTypes[i] == upper) {
+    if (__corvex__innerElementTypes[i] === upper) {
       return true;
     }
   }
@@ -128,7 +128,7 @@ function __corvex__isInnerElementType(type) {
 // An element without handlers of its own still counts as clickable once it was clicked.
 function __corvex__markAsClicked(elem) {
   try {
-    if (String(__corvex__nodeReader.tagName(elem)).toUpperCase() != "OPTION" && !__corvex__hasClickHandler(elem)) {
+    if (String(__corvex__nodeReader.tagName(elem)).toUpperCase() !== "OPTION" && !__corvex__hasClickHandler(elem)) {
       elem.__corvex__onclick = true;
     }
   } catch (e) {
@@ -140,7 +140,7 @@ function __corvex__eventObject(o) {
   if (!o) {
     return o;
   }
-  if (__corvex__nodeReader.tagName(o) == "TD" && o.getAttribute("class") == "cMenuTD") {
+  if (__corvex__nodeReader.tagName(o) === "TD" && o.getAttribute("class") === "cMenuTD") {
     return o;
   }
   var hooks = window.__corvex__eventObject__hooks;
@@ -156,7 +156,7 @@ function __corvex__eventObject(o) {
     return found;
   }
   var type = __corvex__typeOf(usable);
-  if (type == "A" && __corvex__nodeReader.tagName(usable) != "A") {
+  if (type === "A" && __corvex__nodeReader.tagName(usable) !== "A") {
     found = __corvex__firstAnchorAbove(usable);
   } else if (__corvex__isInnerElementType(type)) {
     found = __corvex__climbToWidget(usable);

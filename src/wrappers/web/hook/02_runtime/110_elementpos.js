@@ -12,9 +12,9 @@ function __corvex__tableBorder(table) {
 function __corvex__borderInOffset(o) {
   var tagName = __corvex__nodeReader.tagName(o);
   if (window.__corvex__ie) {
-    return tagName == "TABLE" || tagName == "BODY" ? { x: 0, y: 0 } : { x: o.clientLeft, y: o.clientTop };
+    return tagName === "TABLE" || tagName === "BODY" ? { x: 0, y: 0 } : { x: o.clientLeft, y: o.clientTop };
   }
-  var border = tagName == "TABLE" ? __corvex__tableBorder(o) : 0;
+  var border = tagName === "TABLE" ? __corvex__tableBorder(o) : 0;
   return { x: border, y: border };
 }
 

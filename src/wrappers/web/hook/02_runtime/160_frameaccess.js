@@ -32,7 +32,7 @@ function __corvex__isFrameAccessible(frm) {
     return true;
   }
   var count = frm.retryCount;
-  if (typeof count != "number" || Math.floor(count) !== count || count > MAX_RETRY_COUNT) {
+  if (typeof count !== "number" || Math.floor(count) !== count || count > MAX_RETRY_COUNT) {
     frm.retryCount = MAX_RETRY_COUNT;
   }
   if (frm.retryCount > 0) {

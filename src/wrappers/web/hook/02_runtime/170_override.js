@@ -62,7 +62,7 @@ function __corvex__callStored(self, origStoreName, args) {
 var __corvex__hookupWindow = __corvex__withBuiltIns(function (w) {
   try {
     // A context that was selected before its window existed comes to life here.
-    if (__corvex__windowState.ctxwin && __corvex__contextOf(w) == __corvex__windowState.ctxwin_str) {
+    if (__corvex__windowState.ctxwin && __corvex__contextOf(w) === __corvex__windowState.ctxwin_str) {
       __corvex__windowState.ctxwin = w;
     }
     if (window.__corvex__newwindowhook === undefined) {

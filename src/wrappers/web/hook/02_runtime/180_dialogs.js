@@ -11,7 +11,7 @@ function __corvex__isDialogRecorded() {
 
 // On Windows the native dialogs would be recorded a second time, by the recorder of native windows.
 function __corvex__needsFallbackMessages() {
-  return !!window.__corvex__recording && window.top.__corvex__os == "Windows" &&
+  return !!window.__corvex__recording && window.top.__corvex__os === "Windows" &&
          (!window.top.__corvex__mozilla || window.top.__corvex.browsermajorversion < 64);
 }
 

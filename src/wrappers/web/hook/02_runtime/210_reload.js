@@ -89,7 +89,7 @@ function __corvex__frameChanged(e) {
   try {
     var frame = __corvex__srcElement(e || window.event);
     __corvex__hookupWindow(frame.contentWindow);
-    if (frame.readyState == "interactive") {
+    if (frame.readyState === "interactive") {
       __corvex__logEvent("__clear__");
     }
   } catch (ex) {

@@ -60,7 +60,7 @@ function __corvex__addChangeListener(control) {
     control.addEventListener("change", __corvex__quiet(function (e) {
       __corvex__handler(e, this);
     }), true);
-  } else if (control.type == "file") {
+  } else if (control.type === "file") {
     control.attachEvent("onchange", __corvex__quiet(function () {
       __corvex__handler(undefined, this);
     }));
@@ -76,10 +76,10 @@ function __corvex__install__handler(e) {
     return;
   }
   var source = __corvex__srcElement(e);
-  if (!source || typeof source.type != "string" || source.__corvex__onchange) {
+  if (!source || typeof source.type !== "string" || source.__corvex__onchange) {
     return;
   }
-  if (source.type.indexOf("select") === 0 || source.type == "file") {
+  if (source.type.indexOf("select") === 0 || source.type === "file") {
     __corvex__addChangeListener(source);
   }
 }

@@ -71,12 +71,14 @@ function __corvex__nameOf(o, noUnify) {
     return "[Window]";
   }
   var scheme = window.top.__corvex__namegen__scheme;
+  /* eslint-disable eqeqeq -- a driver may give one as a number and the other as a text */
   if (scheme == window.top.__corvex__namegen__singleprop) {
     return escape(__corvex__nameOfBySingleProp(o));
   }
   if (scheme == window.top.__corvex__namegen__hierarchical) {
     return __corvex__addFrameContextToName(o, escape(__corvex__qualifiedName(o)));
   }
+  /* eslint-enable eqeqeq */
   var hooks = window.__corvex__nameOf__hooks;
   for (var i = 0; i < hooks.length; ++i) {
     var name = hooks[i](o);

@@ -2,7 +2,7 @@
 // Needs: nothing.
 
 function __corvex__getPageOffset() {
-  if (typeof window.pageYOffset == "number") {
+  if (typeof window.pageYOffset === "number") {
     return [window.pageXOffset, window.pageYOffset];
   }
   if (document.body && (document.body.scrollLeft || document.body.scrollTop)) {

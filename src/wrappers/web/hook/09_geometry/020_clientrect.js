@@ -2,7 +2,7 @@
 // Needs: node property reads.
 
 function __corvex__nativeClientRect(elem) {
-  if (__corvex__nodeReader.nodeType(elem) === 1 && __corvex__nodeReader.tagName(elem) == "A") {
+  if (__corvex__nodeReader.nodeType(elem) === 1 && __corvex__nodeReader.tagName(elem) === "A") {
     try {
       var rects = elem.getClientRects();
       // The bounding rectangle of a wrapped link would be too large.

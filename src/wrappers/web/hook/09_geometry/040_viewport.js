@@ -33,7 +33,7 @@ function __corvex__edgeViewPosition(win) {
 
 function __corvex__viewPositionFromOuterSize(win) {
   var top = win.top;
-  if (window.top.__corvex__safari && window.__corvex__os == "MacOSX") {
+  if (window.top.__corvex__safari && window.__corvex__os === "MacOSX") {
     // The inner sizes shrink with the page zoom.
     var zoomFactor = top.outerWidth / top.innerWidth;
     return { x: top.screenX, y: top.screenY + top.outerHeight - top.innerHeight * zoomFactor };

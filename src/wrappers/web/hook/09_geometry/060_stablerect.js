@@ -13,10 +13,10 @@ window.top.__corvex.getElementRectAsObject = function (e) {
   var frameOffset = __corvex__getFrameOffset(win);
   rect.x += frameOffset.x;
   rect.y += frameOffset.y;
-  if (window.__corvex__mozilla && window.__corvex__os == "Windows") {
+  if (window.__corvex__mozilla && window.__corvex__os === "Windows") {
     rect.y -= 25;
     rect.x -= 4;
-  } else if (window.__corvex__mozilla && window.__corvex__os == "MacOSX") {
+  } else if (window.__corvex__mozilla && window.__corvex__os === "MacOSX") {
     rect.y -= 18;
   }
   if (window.__corvex__safari || window.__corvex__safariproxy) {

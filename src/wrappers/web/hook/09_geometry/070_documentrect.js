@@ -39,7 +39,7 @@ function __corvex__isRectOutsideOfClippingElementBounds(rectangle, element) {
 }
 
 function __corvex__isElementScrolledOutOfClippingParent(element) {
-  if (__corvex__nodeReader.tagName(element) == "BODY") {
+  if (__corvex__nodeReader.tagName(element) === "BODY") {
     return false;
   }
   var info = __corvex__hierarchyInformation(element);
@@ -110,7 +110,7 @@ function __corvex__documentExtent(ownSize, dimension) {
   var body = document.body;
   var root = document.documentElement;
   // An element of that name hides what the document says itself.
-  return typeof ownSize == "number" && ownSize ||
+  return typeof ownSize === "number" && ownSize ||
     Math.max(body["scroll" + dimension], body["offset" + dimension], root["client" + dimension],
       root["scroll" + dimension], root["offset" + dimension]);
 }

@@ -44,7 +44,7 @@ function __corvex__dispatchMouseEvent(o, ev, ctrl, shift, alt, clientX, clientY,
   } catch (e) {
     evt = o.ownerDocument.createEvent("MouseEvents");
   }
-  var relatedTarget = ev == "mouseout" || ev == "mouseover" ? o.ownerDocument.body : null;
+  var relatedTarget = ev === "mouseout" || ev === "mouseover" ? o.ownerDocument.body : null;
   evt.initMouseEvent(ev, true, true, document.defaultView, 1, 0, 0, clientX, clientY, ctrl, alt, shift, false, button,
     relatedTarget);
   o.dispatchEvent(evt);
@@ -64,10 +64,10 @@ function __corvex__fireOldMouseEvent(o, ev, ctrl, shift, alt, clientX, clientY, 
   if (alt) {
     evt.altKey = true;
   }
-  if (ev == "mouseout") {
+  if (ev === "mouseout") {
     evt.toElement = document.body;
     evt.fromElement = o;
-  } else if (ev == "mouseover") {
+  } else if (ev === "mouseover") {
     evt.fromElement = document.body;
     evt.toElement = o;
   }

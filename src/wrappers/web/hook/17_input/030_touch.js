@@ -28,8 +28,8 @@ function __corvex__makeTouchPoint(o, x, y) {
   var screenRect = __corvex__getScreenRectAsObject(o);
   var checkedX = x === undefined ? 0 : x;
   var checkedY = y === undefined ? 0 : y;
-  var checkedScreenX = screenRect.x == -1 ? 0 : screenRect.x;
-  var checkedScreenY = screenRect.y == -1 ? 0 : screenRect.y;
+  var checkedScreenX = screenRect.x === -1 ? 0 : screenRect.x;
+  var checkedScreenY = screenRect.y === -1 ? 0 : screenRect.y;
   var pageX = boundingRect.x + checkedX;
   var pageY = boundingRect.y + checkedY;
   return new Touch({

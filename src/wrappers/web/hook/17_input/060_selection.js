@@ -14,8 +14,7 @@ function __corvex__markOption(e, value, getValueFromOptionFunc) {
   for (var i = 0; i < e.options.length; ++i) {
     var option = e.options[i];
     option.selected = false;
-    // Loose: indexes arrive as text.
-    if (getValueFromOptionFunc(option) == value) {
+    if (getValueFromOptionFunc(option) == value) { // eslint-disable-line eqeqeq -- indexes arrive as text
       option.selected = true;
       return i;
     }
@@ -32,7 +31,7 @@ function __corvex__selectOption(e, value, getValueFromOptionFunc) {
     }
   }
   var index = __corvex__markOption(e, value, getValueFromOptionFunc);
-  if (index == -1) {
+  if (index === -1) {
     return;
   }
   e.selectedIndex = index;
@@ -56,7 +55,7 @@ function __corvex__selectOptions(e, values, getValueFromOptionFunc) {
     var option = e.options[i];
     option.selected = false;
     for (var j = 0; j < values.length && !option.selected; ++j) {
-      option.selected = getValueFromOptionFunc(option) == values[j];
+      option.selected = getValueFromOptionFunc(option) == values[j]; // eslint-disable-line eqeqeq -- as above
     }
   }
   __corvex__sendChangeEvent(e);
@@ -67,7 +66,7 @@ var __corvex__seps = ",;|-+*!/,";
 // The last character tells the separator, where it is one.
 var __corvex__createTextArrayFromMultiOptionString = __corvex__withBuiltIns(function (text) {
   var separator = text.charAt(text.length - 1);
-  if (separator !== "" && __corvex__seps.indexOf(separator) != -1) {
+  if (separator !== "" && __corvex__seps.indexOf(separator) !== -1) {
     return text.substring(0, text.length - 1).split(separator);
   }
   return text.split(",");

@@ -15,7 +15,7 @@ function __corvex__setContext(ctx) {
 
 function __corvex__matchFrameByName(frameselements, frame) {
   for (var i = 0; i < frameselements.length; ++i) {
-    if (frameselements[i].name == frame) {
+    if (frameselements[i].name === frame) {
       return frameselements[i];
     }
   }
