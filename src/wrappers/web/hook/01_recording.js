@@ -1,5 +1,7 @@
 // Gives: the event handlers of documents and windows, picking with the pointer, and the touch listeners.
-// Needs: event objects and sources, contexts, names, the change-listener installer, the touch switches, the transport.
+// Needs: runtime/natives, runtime/builtins, runtime/state, runtime/nodes, runtime/framewalk, runtime/contexts,
+//   runtime/text, runtime/eventobject, runtime/transport, runtime/longpoll, runtime/listeners, names/entry,
+//   geometry/screenrect, visibility, touch.
 
 function __corvex__isEventObject(ev) {
   return !!ev && typeof ev.type === "string" && __corvex__srcElement(ev) !== undefined;

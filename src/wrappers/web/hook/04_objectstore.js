@@ -1,5 +1,5 @@
 // Gives: top.__corvex__globalObjectRefStore, references of page objects into it, and the objects of references.
-// Needs: __corvex__createMap.
+// Needs: runtime/natives, properties/path.
 
 top.__corvex__globalObjectRefStore = [];
 

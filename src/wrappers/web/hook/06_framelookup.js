@@ -1,5 +1,5 @@
 // Gives: frames by the names that a page gave them, and the window that a link or form addresses.
-// Needs: getAllFrames, the name test of frames.
+// Needs: runtime/natives, runtime/state, runtime/nodes, runtime/framewalk, input/contexts.
 
 function __corvex__findFrameByIdOrName(ctxdoc, frame) {
   var elem = __corvex__askDocument(ctxdoc, "getElementById", frame);

@@ -1,5 +1,5 @@
 // Gives: the questions that other fragments ask about the browser and the embedding.
-// Needs: nothing; an undefined flag counts as false.
+// Needs: nothing.
 
 // The flag's value, which is no boolean in general.
 function __corvex__topFlag(name) {

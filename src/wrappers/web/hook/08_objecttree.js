@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.objectTreeInformation and readPropertiesFromObjects: a whole tree in one answer each.
-// Needs: childObjectAndInfo, the object store.
+// Needs: runtime/natives, runtime/children, objectstore.
 
 window.top.__corvex.objectTreeInformation = function (domNode) {
   var records = window.top.__corvex.childObjectAndInfo(domNode);

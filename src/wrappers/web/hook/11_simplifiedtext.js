@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.simplifyText and getSimplifiedInnerText.
-// Needs: property values.
+// Needs: properties/values.
 
 function __corvex__simplifiedText(text) {
   if (!text) {

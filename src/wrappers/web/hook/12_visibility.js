@@ -1,5 +1,5 @@
 // Gives: computed styles, and whether an element is shown at all (wherever it stands, whatever its size).
-// Needs: node property reads.
+// Needs: runtime/natives, runtime/nodes.
 
 function __corvex__styleInfo(elem) {
   this.obj = elem;
@@ -31,7 +31,8 @@ __corvex__styleInfo.prototype.styleProperty = function (prop) {
 function __corvex__hasDisplayNone(elem) {
   try {
     // A document ends the walk: it has no style.
-    for (var node = elem; node && __corvex__nodeReader.nodeType(node) !== 9; node = __corvex__nodeReader.parentNode(node)) {
+    var reader = __corvex__nodeReader;
+    for (var node = elem; node && reader.nodeType(node) !== 9; node = reader.parentNode(node)) {
       if (new __corvex__styleInfo(node).styleProperty("display") === "none") {
         return true;
       }

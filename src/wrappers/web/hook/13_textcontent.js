@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.getTextContent, the text that a reader takes as this element's own.
-// Needs: simplifyText, node property reads.
+// Needs: runtime/natives, runtime/nodes, simplifiedtext.
 
 window.top.__corvex.getTextContent = (function () {
   var textTags = {

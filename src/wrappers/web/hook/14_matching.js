@@ -1,5 +1,6 @@
 // Gives: __corvex__matchObject and its parts: does an element have a property's value?; the standard matcher.
-// Needs: window.top.__corvex; when called, the text, visibility and name functions, Corvex.hasClassName, the transport.
+// Needs: runtime/natives, runtime/state, runtime/nodes, runtime/text, runtime/transport, names/properties,
+//   properties/path, simplifiedtext, visibility, search/kept, api/forwarders.
 
 var PropertyValue_StrictMatch = 0;
 var PropertyValue_RegExp = 1;
@@ -77,7 +78,8 @@ function __corvex__wildcardToRegExp(s) {
 function __corvex__propMatches(prop, s, clean) {
   switch (prop.modifiers) {
     case PropertyValue_StrictMatch:
-      return (clean ? __corvex__clean(prop.value) : prop.value) == s; // eslint-disable-line eqeqeq -- numbers match their digits
+      // eslint-disable-next-line eqeqeq -- numbers match their digits
+      return (clean ? __corvex__clean(prop.value) : prop.value) == s;
     case PropertyValue_RegExp:
     case PropertyValue_Wildcard:
       return prop.value.test(s);
@@ -140,11 +142,6 @@ var __corvex__propertyTests = {
     return __corvex__propMatches(value, __corvex__kept(window.top.__corvex.getSimplifiedInnerText, o));
   }
 };
-
-// A form may hide the function behind a field; what is no element has none.
-function __corvex__attributeOf(o, name) {
-  return typeof o.getAttribute === "function" ? o.getAttribute(name) : __corvex__natives.apply(Element.prototype.getAttribute, o, [name]);
-}
 
 function __corvex__otherPropertyMatches(o, prop, value) {
   var current = o[prop];

@@ -1,5 +1,5 @@
 // Gives: dates as text for the driver, and whether the browser side watches windows itself.
-// Needs: the top-window flags.
+// Needs: runtime/natives, browsers.
 
 // Year, month from 1, day, hours, minutes in the local zone; undefined for anything but a date.
 function __corvex__convertJSDateToDateTimeString(date) {

@@ -1,5 +1,5 @@
 // Gives: __corvexDOMAPI, traversal that honours the node filter.
-// Needs: node property reads.
+// Needs: runtime/nodes.
 /* global __corvex__filter__non__element__nodes */
 
 var __corvexDOMAPI = (function () {

@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.hasFocus, through shadow roots and frames.
-// Needs: node property reads, contexts.
+// Needs: runtime/nodes, runtime/contexts.
 
 window.top.__corvex.hasFocus = (function () {
   function isFocusedInFrames(window_) {

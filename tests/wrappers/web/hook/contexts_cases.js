@@ -71,7 +71,8 @@ test("the document of a name: bars for dots, unknown names by the flag", { page:
   ({ frame, flags }) => {
     const w = frame("f");
     const name = __corvex__contextOf(w).replace(/\./g, "|");
-    const of = () => [name, "", "no|html"].map((text) => [undefined, document, w.document].indexOf(__corvex__documentOfContext(text)));
+    const documents = [undefined, document, w.document];
+    const of = () => [name, "", "no|html"].map((text) => documents.indexOf(__corvex__documentOfContext(text)));
     const lenient = of();
     flags({ throwErrorForUnknownContextName: true });
     return [lenient, of()];

@@ -280,7 +280,8 @@ test("the pointer is followed only while picking, and reported once it settled",
 test("a pick swallows press and click, and ends a moment later", { page: '<p><b id="b">x</b></p>' },
   ({ el, flags, timers, sent }) => {
     let stopped = 0;
-    const e = { type: "mousedown", target: el("b").firstChild, stopPropagation: () => ++stopped, preventDefault: () => ++stopped };
+    const stop = () => ++stopped;
+    const e = { type: "mousedown", target: el("b").firstChild, stopPropagation: stop, preventDefault: stop };
     flags({ pickObject: true, browsertabid: "t1" });
     const answer = [__corvex__logEvent(e, window), stopped, e.cancelBubble, sent.length,
       /event=pickedObject&object=.*&tabId=t1$/.test(sent[0]), timers[0].ms];

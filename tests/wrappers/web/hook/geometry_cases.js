@@ -38,8 +38,8 @@ const inView = (element, w) => {
 
 test("screen rectangles are clipped at the far sides, and invalid beyond", {
   page: box("a", 100, 110, 5000, 6000) + box("b", 6000, 0, 5, 5) + box("c", 5, 5, 0, 5)
-}, ({ el }) => [inView(el("a")).join() === [100, 110, innerWidth - 100, innerHeight - 110].join(), __corvex__getScreenRect(el("b")),
-  __corvex__getScreenRect(el("c"))], [true, "-1,-1,-1,-1", "-1,-1,-1,-1"]);
+}, ({ el }) => [inView(el("a")).join() === [100, 110, innerWidth - 100, innerHeight - 110].join(),
+  __corvex__getScreenRect(el("b")), __corvex__getScreenRect(el("c"))], [true, "-1,-1,-1,-1", "-1,-1,-1,-1"]);
 
 test("screen rectangles scale with the device pixel ratio", { page: box("a", 10, 20, 30, 5000) }, ({ el }) => {
   const own = Object.getOwnPropertyDescriptor(window, "devicePixelRatio");

@@ -18,9 +18,10 @@ test("a message without a body takes the first channel that there is", {}, (kit)
   __corvex.useSessionStorageForEvents = true;
   __corvex__getSessionStorageEvents();
   return lines.concat(send(), __corvex__getSessionStorageEvents());
-}, ["GET logevent1&a=%41 -> request", "post __corvex__message: logevent1&a=%41* -> empty", "swt logEvent logevent1&a=%41 -> nothing",
-  "apple.handleXMLHttpPayload logevent1&a=A -> nothing", "qt.doLogEvent logevent1&a=%41 -> nothing", " -> nothing", " -> empty",
-  { payload: "logevent1&a=%41" }]);
+}, ["GET logevent1&a=%41 -> request", "post __corvex__message: logevent1&a=%41* -> empty",
+  "swt logEvent logevent1&a=%41 -> nothing", "apple.handleXMLHttpPayload logevent1&a=A -> nothing",
+  "qt.doLogEvent logevent1&a=%41 -> nothing", " -> nothing",
+  " -> empty", { payload: "logevent1&a=%41" }]);
 
 test("a message with a body: its channels differ", {}, (kit) => {
   const run = kit.channels();
@@ -109,8 +110,8 @@ test("the queue keeps order and signs, whatever the page does to its texts", {},
   delete String.prototype.toJSON;
   const rest = sessionStorage.getItem("eventStorage");
   sessionStorage.removeItem("eventStorage");
-  return [queue[0].payload === text, queue.length, stamps(queue[1].url), queue[1].payload.length, stamps(queue[3].payload), answer,
-    sent.length, rest, __corvex__getSessionStorageEvents()];
+  return [queue[0].payload === text, queue.length, stamps(queue[1].url), queue[1].payload.length, stamps(queue[3].payload),
+    answer, sent.length, rest, __corvex__getSessionStorageEvents()];
 }, [true, 4, "logeventN&", 129, "waitForConfirmN", false, 0, "[]", []]);
 
 test("a corrupt queue is left as it is", {}, () => {

@@ -8,7 +8,8 @@ window.xpathGrammar = (() => {
   const NAMES = ["*", "li", "span", "node()", "text()", "comment()", "processing-instruction()"];
   const POSITIONS = ["", "[1]", "[2]", "[last()]", "[position()>1]", "[position()=last()-1]", "[position()!=last()][1]"];
   const CONDITIONS = ["[@id]", "[@id and @class]", "[not(*)]", "[count(*)=0]", "[.='one']", "[text()]", "[normalize-space()]",
-    "[span]", "[span[@id='s2']]", "[//h1='Catalogue'][1]", "[parent::div]", "[preceding-sibling::*[1]]", "[position()=1 or last()]",
+    "[span]", "[span[@id='s2']]", "[//h1='Catalogue'][1]", "[parent::div]", "[preceding-sibling::*[1]]", 
+    "[position()=1 or last()]",
     "['x']", "['']", "[0]", "[1.5]", "[count(//a)]", "[string(position())]", "[contains(@class,'item')][2]", "[2][@class]"];
   const VALUES = ["1", "2", "-0", "1.5", "(0 div 0)", "'a'", "'1'", "''", "true()", "false()", "//li", "//ol/li", "//td",
     "//nothing"];
@@ -27,7 +28,8 @@ window.xpathGrammar = (() => {
       .map((start) => start.replace(/\/$/, "")), ["/"], AXES, ["::"], NAMES),
     positions: product(["//span[@id='s2']/", "//div[@id='outer']/", "//div[@id='deep']//em/"], AXES, ["::"], ["*", "node()"],
       POSITIONS),
-    paths: product(["/", "//", "//div/", "//ul//", "(//ul|//ol)/", "//*[@id]/../", "./", ""], ["*", "li", "span", ".", "..", "@*"],
+    paths: product(["/", "//", "//div/", "//ul//", "(//ul|//ol)/", "//*[@id]/../", "./", ""],
+      ["*", "li", "span", ".", "..", "@*"],
       ["", "/.", "/..", "/@id", "//text()", "/self::li"]).concat(product(["//span", "//*", "/html", "//li[2]"], ["|"],
       ["//a", "//li", "//h1|//em", "//@class"])),
     conditions: product(["//*", "//li", "(//li)", "//div//*", "//tr/td", "//ul/li"], POSITIONS.slice(0, 4), CONDITIONS),
@@ -44,7 +46,9 @@ window.xpathGrammar = (() => {
       calls(["sum", "count"], ["//ol/li", "//li/@data-price", "//nothing", "//tr/td[2]", "//*/@*"])),
     // The name of an HTML element stands in capitals here, and not in every browser.
     nodes: calls(["name", "local-name", "namespace-uri", "string"],
-      ["//@href", "//nothing", "/", "//text()", "//comment()", "/node()"]).concat(calls(["local-name"], ["//h1"]), calls(["id"], ["'s3 s1'", "'nothing'", "//div[@id='refs']", "/.."]), calls(["lang"], ["'en'", "'EN-gb'", "'de'", "''"])),
+      ["//@href", "//nothing", "/", "//text()", "//comment()", "/node()"]).concat(
+      calls(["local-name"], ["//h1"]), calls(["id"], ["'s3 s1'", "'nothing'", "//div[@id='refs']", "/.."]),
+      calls(["lang"], ["'en'", "'EN-gb'", "'de'", "''"])),
     // How the text is read.
     spelling: ["1e0 = 1", "--1", "5.", ".5", "1 - -1", "3 -1", "10-3-2", "count(//li)-1", "count(//li)*count(//a)", " // li ",
       "//li [ 1 ]", "child :: body", "/ html / body", "// @ id", "//li[position( ) = 2]", "//mod", "//div/div", "div div div",

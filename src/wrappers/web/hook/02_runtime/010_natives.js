@@ -1,5 +1,5 @@
 // Gives: __corvex__natives: what pages replace and the hook script must not lose: calls, requests, timers, the clock.
-// Needs: nothing.
+// Needs: runtime/builtins, runtime/transport.
 
 var __corvex__natives = (function () {
   var Request = window.XMLHttpRequest;

@@ -1,5 +1,5 @@
-// Gives: __corvex__withBuiltIns: a function that runs on the language as the browser has it; __corvex__quiet, __corvex__later.
-// Needs: nothing.
+// Gives: __corvex__withBuiltIns, __corvex__quiet, __corvex__later: calls safe from what a page made of the language.
+// Needs: runtime/natives.
 
 // Code of ours that runs for the driver lives on these. Others it reaches by __corvex__natives or not at all.
 var __corvex__withBuiltIns = (function () {
@@ -9,10 +9,10 @@ var __corvex__withBuiltIns = (function () {
   var describe = Object.getOwnPropertyDescriptor;
   var create = Object.create;
   var rows = [
-    ["", window, "Array Date Error JSON Map Math Number Object RegExp Set String WeakMap escape isNaN parseFloat parseInt " +
-      "unescape"],
-    ["Array.prototype", Array.prototype, "concat indexOf join lastIndexOf map pop push reverse shift slice some sort splice " +
-      "unshift"],
+    ["", window, "Array Date Error JSON Map Math Number Object RegExp Set String WeakMap escape isNaN parseFloat " +
+      "parseInt unescape"],
+    ["Array.prototype", Array.prototype, "concat indexOf join lastIndexOf map pop push reverse shift slice some sort " +
+      "splice unshift"],
     ["Date.prototype", Date.prototype, "getDate getFullYear getHours getMinutes getMonth getTime"],
     ["Function.prototype", Function.prototype, "apply bind call toString"],
     ["JSON", window.JSON, "parse stringify"],
@@ -23,8 +23,8 @@ var __corvex__withBuiltIns = (function () {
     ["Object.prototype", Object.prototype, "hasOwnProperty toString"],
     ["RegExp.prototype", RegExp.prototype, "exec test"],
     ["Set.prototype", window.Set && Set.prototype, "add has"],
-    ["String.prototype", String.prototype, "charAt charCodeAt concat indexOf lastIndexOf match replace search slice split " +
-      "substring toLowerCase toString toUpperCase trim"]
+    ["String.prototype", String.prototype, "charAt charCodeAt concat indexOf lastIndexOf match replace search slice " +
+      "split substring toLowerCase toString toUpperCase trim"]
   ];
   var slots = [];
   var isInside = false;
@@ -78,8 +78,8 @@ var __corvex__withBuiltIns = (function () {
     return owner[name] === value;
   }
 
-  // The page's own, as a list of slot and property, while the browser's stand in their places. What cannot be put back is
-  // named by kept.text.
+  // The page's own, as a list of slot and property, while the browser's stand in their places; null if there are none.
+  // kept.text becomes the name of what cannot be put back.
   function putBack(kept) {
     var replaced = null;
     for (var s = 0; s < slots.length; ++s) {

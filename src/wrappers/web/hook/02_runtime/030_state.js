@@ -1,5 +1,5 @@
-// Gives: __corvex__windowState, __corvex__dialogState, __corvex__recordingState; the arrays that extensions fill with hooks.
-// Needs: __corvex__natives.
+// Gives: what the script remembers of windows, dialogs and recording, and the arrays that extensions fill with hooks.
+// Needs: runtime/natives, matching.
 
 // What the script remembers of one concern, as initial() makes it; reset() makes it so again. Each field is also the
 // window's variable of that name after "__corvex__", by which the driver and extensions know it.
@@ -48,7 +48,7 @@ var __corvex__windowState = __corvex__makeState(function () {
     // Further top-level windows; the index of the newest.
     windows: [],
     wcnt: -1,
-    // The window whose frames are to be hooked at the next sweep; the windows that came so, from 1; the index of the newest.
+    // The window whose frames the next sweep hooks; the windows that came so, from 1; the index of the newest.
     framewin: undefined,
     popups: [],
     popupcnt: 0,

@@ -1,5 +1,5 @@
-// Gives: __corvex__nodeReader, reads of node properties that the fields of a form or the names in a document cannot hide.
-// Needs: nothing.
+// Gives: __corvex__nodeReader and more to read of nodes what the fields of a form or names in a document hide.
+// Needs: runtime/natives.
 
 var __corvex__nodeReader = (function () {
   // A hidden property reads as a field, which is an object. Plain values are taken as they come, so that the
@@ -43,6 +43,12 @@ var __corvex__nodeReader = (function () {
 function __corvex__askDocument(doc, method, argument) {
   return typeof doc[method] === "function" ? doc[method](argument) :
     __corvex__natives.apply(Document.prototype[method], doc, [argument]);
+}
+
+// A form may hide the function behind a field; what is no element has none.
+function __corvex__attributeOf(o, name) {
+  return typeof o.getAttribute === "function" ? o.getAttribute(name) :
+    __corvex__natives.apply(Element.prototype.getAttribute, o, [name]);
 }
 
 // By its shape: instanceof fails for a shadow root of another frame.

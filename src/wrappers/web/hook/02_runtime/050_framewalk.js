@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.getAllFrames, and the walks through windows and their frames.
-// Needs: node property reads, contexts.
+// Needs: runtime/nodes, runtime/contexts.
 
 window.top.__corvex.getAllFrames = function (doc) {
   var found = __corvex__askDocument(doc, "querySelectorAll", "iframe,frame");

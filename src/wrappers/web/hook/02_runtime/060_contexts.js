@@ -1,5 +1,5 @@
 // Gives: names of windows and frames (contexts), and the way back from a name to its window.
-// Needs: the state globals, getAllFrames.
+// Needs: runtime/state, runtime/nodes, runtime/framewalk.
 
 // 1-based; 0 where frm is no frame of w.
 function __corvex__frameInWindow(frm, w) {

@@ -1,5 +1,5 @@
 // Gives: text cleaning, class-list tests and searches by class name.
-// Needs: node property reads.
+// Needs: runtime/natives, runtime/nodes.
 
 // The order of the steps is part of the format: names that were recorded hold cleaned texts.
 function __corvex__clean(s) {

@@ -1,5 +1,5 @@
 // Gives: the type text of a page object, by which its wrapper class is chosen.
-// Needs: the type hooks, node property reads.
+// Needs: runtime/state, runtime/nodes.
 
 // The highest priority wins; among equal priorities the first hook to answer.
 function __corvex__typeFromHooks(o) {

@@ -1,5 +1,5 @@
 // Gives: what an event "really" addressed: source, event object, event type.
-// Needs: typing, class lists, node property reads, visibility, the event hooks.
+// Needs: runtime/state, runtime/nodes, runtime/text, runtime/typing, visibility.
 
 function __corvex__srcElement(e) {
   if (!e) {

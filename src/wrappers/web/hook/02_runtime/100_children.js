@@ -1,5 +1,5 @@
 // Gives: the children of a node with reference, type and leaf name.
-// Needs: traversal, typing, references, leaf names.
+// Needs: runtime/nodes, runtime/typing, names/hierarchy, objectstore, dom.
 
 function __corvex__childRecord(child, nameInLeaf) {
   return {

@@ -1,5 +1,5 @@
 // Gives: the position of an element in its page, from walking its offset parents.
-// Needs: node property reads.
+// Needs: runtime/nodes.
 
 function __corvex__tableBorder(table) {
   var border = parseInt(table.border, 10);

@@ -1,5 +1,5 @@
 // Gives: the ways by which a message of the page reaches the driver.
-// Needs: the browser predicates, the session queue, __corvex__natives.
+// Needs: runtime/natives, runtime/builtins, runtime/state, runtime/sessionqueue, browsers.
 
 // The base URL, without a slash at its end.
 function __corvex__XMLHttpRequestDestination() {

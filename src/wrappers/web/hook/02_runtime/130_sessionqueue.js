@@ -1,5 +1,5 @@
 // Gives: the queue of messages in sessionStorage, for pages that cannot connect; it outlives the page.
-// Needs: JSON.
+// Needs: nothing.
 
 function __corvex__quotedForQueue(text) {
   return "\"" + String(text).replace(/[\\"\u0000-\u001f\u2028\u2029\ud800-\udfff]/g, function (c) {

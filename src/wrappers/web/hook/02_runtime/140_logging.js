@@ -1,5 +1,5 @@
 // Gives: log lines and debug lines by whatever the embedding offers; no error of theirs reaches the page.
-// Needs: the browser predicates, the transport.
+// Needs: runtime/natives, runtime/transport, browsers.
 
 // For what concerns whoever debugs the page itself.
 function __corvex__logInPage(text) {

@@ -1,5 +1,5 @@
 // Gives: the request of proxy mode that waits at the page's own origin for code to evaluate.
-// Needs: __corvex__natives, __corvex__asyncWaitRequest.
+// Needs: runtime/natives, runtime/builtins.
 
 // Global because it has to be aborted before the page unloads: else it could receive code meant for the next page.
 window.__corvex__asyncWaitRequest = { request: null, startAgain: true };

@@ -1,5 +1,5 @@
 // Gives: whether a frame can be read; one of another origin is given up after its retries.
-// Needs: qualified names, the page log.
+// Needs: runtime/logging, names/hierarchy.
 
 // Null where the frame can be read; else the errors of the two reads, empty where a read gave just nothing.
 function __corvex__frameAccessErrors(frm) {

@@ -1,5 +1,6 @@
 // Gives: the replacing of a window's open and dialogs, and the way back to what stood there before.
-// Needs: contexts, the browser predicates, the replacements.
+// Needs: runtime/natives, runtime/builtins, runtime/state, runtime/contexts, runtime/dialogs, runtime/windows,
+//   browsers, windows.
 
 // By text: it holds across evaluations of the script and across windows, where identity does not. overrideName: the
 // replacement, whose source text is looked for.

@@ -1,5 +1,5 @@
 // Gives: the replacements of alert, confirm and prompt.
-// Needs: the transport, the stored native functions, the browser predicates.
+// Needs: runtime/natives, runtime/builtins, runtime/state, runtime/transport, runtime/override, browsers.
 
 function __corvex__doEventHandlerAsync() {
   return true;

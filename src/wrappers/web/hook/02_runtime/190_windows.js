@@ -1,5 +1,6 @@
 // Gives: the replacement of open, and what a further top-level window gets.
-// Needs: the transport, contexts, __corvex__logEventByWindow, the frame sweep.
+// Needs: recording, runtime/natives, runtime/builtins, runtime/state, runtime/contexts, runtime/transport,
+//   runtime/override, runtime/frames, runtime/unload, runtime/listeners, runtime/innertext.
 
 function __corvex__isListedWindow(w) {
   for (var i = 0; i < __corvex__windowState.windows.length; ++i) {

@@ -1,5 +1,6 @@
 // Gives: the hooking of frames, now and with each sweep, and the bookkeeping of popups.
-// Needs: frame access, the listeners, __corvex__hookupWindow, the reload functions.
+// Needs: recording, runtime/builtins, runtime/state, runtime/framewalk, runtime/contexts, runtime/logging,
+//   runtime/frameaccess, runtime/override, runtime/windows, runtime/reload, runtime/listeners, runtime/innertext.
 
 // A document that was written anew has lost its listeners and kept its marks.
 function __corvex__isHookedDocument(doc) {

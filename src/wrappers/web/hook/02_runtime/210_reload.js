@@ -1,5 +1,6 @@
 // Gives: what happens when a frame loads or unloads, and the deferred hooking of old Internet Explorer.
-// Needs: the frame sweep, __corvex__logEvent, unload messages.
+// Needs: recording, runtime/natives, runtime/builtins, runtime/state, runtime/eventobject, runtime/override,
+//   runtime/frames, runtime/unload.
 
 // Errors of the page's own handler are its own matter.
 function __corvex__callSavedHandler(holder, name, self, e) {

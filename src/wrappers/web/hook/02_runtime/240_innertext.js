@@ -1,5 +1,5 @@
 // Gives: innerText on every browser, with the same text on all of them.
-// Needs: __corvex__innerText.
+// Needs: nothing.
 
 window.__corvex__innerText = function (elem) {
   return elem.textContent;

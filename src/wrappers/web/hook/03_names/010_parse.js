@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.parseMultiPropertyName, which reads the text of a multi-property name.
-// Needs: window.top.__corvex; when called, Corvex.ObjectName and its value classes.
+// Needs: api/objectname.
 
 window.top.__corvex.parseMultiPropertyName = (function () {
   var MOST_CHARACTERS = 1000000;

@@ -1,5 +1,5 @@
 // Gives: the pieces of a multi-property name: one property's text, escaping, ids without generated parts.
-// Needs: node property reads; __corvex__clean and window.top.__corvex.getSimplifiedInnerText when called.
+// Needs: runtime/nodes, runtime/text, simplifiedtext.
 
 // A wildcard or exact value can hold any character but these two.
 function __corvex__escapeCharactersInPropertyValue(input) {

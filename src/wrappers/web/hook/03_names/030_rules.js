@@ -1,5 +1,5 @@
 // Gives: the rules that name one element by its properties, by a single property, or not at all.
-// Needs: 20_properties.js; __corvex__clean, __corvex__getObjectAttribute, __corvex__qualifiedName when called.
+// Needs: runtime/nodes, runtime/text, names/properties, names/hierarchy, names/entry, search/candidates, input/objects.
 
 var __corvex__controlsWithValue = { button: 1, submit: 1, radio: 1, checkbox: 1, image: 1 };
 

@@ -1,5 +1,5 @@
 // Gives: what a name gets beside the element's own properties: visible, container, occurrence.
-// Needs: the search by properties, __corvex__isShadowRoot and __corvex__isVisible when called.
+// Needs: runtime/state, runtime/nodes, names/entry, visibility, search/properties, search/documents.
 
 function __corvex__addVisibility(name, obj) {
   if (name.charAt(0) !== "{") {

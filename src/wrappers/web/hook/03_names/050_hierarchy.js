@@ -1,5 +1,5 @@
 // Gives: __corvex__uniqueNameInLeaf, __corvex__leafNamer and __corvex__qualifiedName: hierarchical names.
-// Needs: __corvex__nodeReader, __corvex__isShadowRoot; __corvexDOMAPI when called.
+// Needs: runtime/nodes, dom.
 
 // The leaf of a node whatever its siblings are; empty if they have to be counted.
 function __corvex__specialLeaf(o) {

@@ -1,5 +1,6 @@
 // Gives: __corvex__nameOf and __corvex__propertyNameOf.
-// Needs: the other files of this folder; __corvex__currentContext, __corvex__contextOfForUrl when called.
+// Needs: runtime/state, runtime/nodes, runtime/contexts, runtime/text, names/properties, names/rules, names/unique,
+//   names/hierarchy.
 
 var __corvex__textElements = { SPAN: 1, DIV: 1, LI: 1, TD: 1, TR: 1, LABEL: 1 };
 var __corvex__controlElements = { INPUT: 1, SELECT: 1, BUTTON: 1 };

@@ -1,5 +1,5 @@
-// Gives: __corvex__valueAtPath( o, path ), what o.path is for the language, for paths such as style.color; eval is not needed.
-// Needs: __corvex__natives.
+// Gives: __corvex__valueAtPath( o, path ): what o.path is for the language, where the path is such as style.color.
+// Needs: runtime/natives.
 
 // A path is the name of a property, and then ".name", "[literal]" or "(literal, ...)", as often as one likes.
 var __corvex__stepsOfPath = (function () {
@@ -9,8 +9,8 @@ var __corvex__stepsOfPath = (function () {
   var TEXT = /^"(?:[^"\\\r\n]|\\(?:\r\n|[^]))*"|^'(?:[^'\\\r\n]|\\(?:\r\n|[^]))*'/;
   var NUMBER = /^-?(?:0x[\da-f]+|(?:(?:0|[1-9]\d*)(?:\.\d*)?|\.\d+)(?:e[+-]?\d+)?)(?![\w$.])/i;
   var WORDS = { "true": true, "false": false, "null": null };
-  var ESCAPES = { b: "\b", f: "\f", n: "\n", r: "\r", t: "\t", v: "\v", "0": "\0", "\n": "", "\r": "", "\r\n": "", "\u2028": "",
-    "\u2029": "" };
+  var ESCAPES = { b: "\b", f: "\f", n: "\n", r: "\r", t: "\t", v: "\v", "0": "\0", "\n": "", "\r": "", "\r\n": "",
+    "\u2028": "", "\u2029": "" };
 
   function shortened(text) {
     return text.length > 100 ? text.substring(0, 100) + "..." : text;
@@ -61,7 +61,8 @@ var __corvex__stepsOfPath = (function () {
 
   Reader.prototype.unescaped = function (quoted) {
     var reader = this;
-    return quoted.substring(1, quoted.length - 1).replace(/\\(u[\da-fA-F]{4}|x[\da-fA-F]{2}|\r\n|[^])/g, function (all, c) {
+    var escape = /\\(u[\da-fA-F]{4}|x[\da-fA-F]{2}|\r\n|[^])/g;
+    return quoted.substring(1, quoted.length - 1).replace(escape, function (all, c) {
       if (c.length > 2) {
         return String.fromCharCode(parseInt(c.substring(1), 16));
       }
@@ -153,8 +154,8 @@ var __corvex__stepsOfPath = (function () {
 
 // Why a path must not call this; empty where it may. A text that a page put into a name would run as code.
 var __corvex__whyNotCalled = (function () {
-  var takesCode = new RegExp("^(?:(?:append|create|exec|insert|parse|replace|set|write)[A-Z].*|after|append|assign|before|eval|" +
-    "open|prepend|write|writeln)$");
+  var takesCode = new RegExp("^(?:(?:append|create|exec|insert|parse|replace|set|write)[A-Z].*|after|append|assign|" +
+    "before|eval|open|prepend|write|writeln)$");
 
   function isOfWindow(o) {
     try {

@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.getPropertyValue and reservedJsKeywords: property values as the driver reads them.
-// Needs: window.top.__corvex; when called, __corvex__getObjectAttribute, __corvex__isQWebViewBrowser.
+// Needs: browsers, input/objects.
 
 window.top.__corvex.reservedJsKeywords = [
   "break", "case", "catch", "continue", "debugger", "default", "delete", "do", "else", "finally", "for", "function",

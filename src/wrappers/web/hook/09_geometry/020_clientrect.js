@@ -1,5 +1,5 @@
 // Gives: the rectangle of an element in its own frame.
-// Needs: node property reads.
+// Needs: runtime/nodes.
 
 function __corvex__nativeClientRect(elem) {
   if (__corvex__nodeReader.nodeType(elem) === 1 && __corvex__nodeReader.tagName(elem) === "A") {

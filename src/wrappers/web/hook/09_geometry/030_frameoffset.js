@@ -1,5 +1,5 @@
 // Gives: where a frame's window stands in the view, by offsets and by rectangles.
-// Needs: client rectangles, computed styles, contexts.
+// Needs: runtime/nodes, runtime/contexts, geometry/clientrect, visibility.
 
 function __corvex__getFrameOffset(win) {
   var offset = { x: 0, y: 0 };

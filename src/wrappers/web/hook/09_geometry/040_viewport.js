@@ -1,5 +1,5 @@
 // Gives: where the view starts on the screen, how large it is, and the device pixel ratio.
-// Needs: frame offsets, the browser predicates, the bridges of the embeddings.
+// Needs: browsers, geometry/frameoffset.
 
 // Scales in place. A record without width and height scales only its position.
 function __corvex__applyDevicePixelRatio(rectOrPos, win) {

@@ -1,5 +1,5 @@
 // Gives: the rectangle of an element on the screen, in device pixels and clipped to the view.
-// Needs: client rectangles, the view's place and size, contexts.
+// Needs: runtime/nodes, runtime/contexts, browsers, geometry/clientrect, geometry/viewport.
 
 function __corvex__invalidRect() {
   return { x: -1, y: -1, width: -1, height: -1 };

@@ -1,5 +1,5 @@
 // Gives: the rectangle behind the properties x, y, width, height.
-// Needs: frame offsets, contexts.
+// Needs: runtime/nodes, runtime/contexts, runtime/elementpos, geometry/frameoffset.
 
 // Stable rather than correct: it ignores scrolling, so that recorded values do not depend on it.
 window.top.__corvex.getElementRectAsObject = function (e) {

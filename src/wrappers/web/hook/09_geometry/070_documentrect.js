@@ -1,5 +1,5 @@
 // Gives: the rectangle of an element in an image of the full page, and the size of that page.
-// Needs: computed styles, frame offsets, contexts.
+// Needs: runtime/nodes, runtime/contexts, runtime/elementpos, geometry/frameoffset, geometry/screenrect, visibility.
 
 function __corvex__isClippingChildren(e) {
   var style = new __corvex__styleInfo(e);

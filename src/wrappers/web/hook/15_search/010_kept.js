@@ -1,5 +1,5 @@
 // Gives: __corvex__whilePageStays and __corvex__kept: what was read of elements is kept for the time of one action.
-// Needs: __corvex__createMap.
+// Needs: runtime/natives.
 
 var __corvex__keptAnswers = null;
 

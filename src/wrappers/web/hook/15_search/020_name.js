@@ -1,5 +1,5 @@
 // Gives: a name's text as a map of values, the matchers for it, the number of matches to skip.
-// Needs: 03_names, 14_matching.js; the property matcher factories when called.
+// Needs: runtime/state, names/parse, matching, api/objectname.
 
 var __corvex__searchOnlyProperties = { tagName: 1, occurrence: 1, occurance: 1, form: 1, context: 1 };
 

@@ -1,5 +1,5 @@
-// Gives: __corvex__elementTest, the question that a search asks of each element: do all matchers accept it?
-// Needs: 14_matching.js.
+// Gives: __corvex__elementTest, the question whether all matchers accept an element.
+// Needs: runtime/state, matching.
 
 // Whether a search asks an extension, which may do what it likes at each question.
 function __corvex__extensionsMatch() {

@@ -1,5 +1,5 @@
 // Gives: where a search looks: the document that a name's context selects, the elements of its tag or form.
-// Needs: 10_name.js; __corvex__hasContext, __corvex__findContext2, __corvex__getObjectAttribute when called.
+// Needs: runtime/natives, runtime/nodes, runtime/contexts, matching, search/name, input/objects.
 
 // The controls of a form, also where a control named "elements" hides the property.
 function __corvex__formControls(form) {

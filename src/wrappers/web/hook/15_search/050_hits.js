@@ -1,5 +1,5 @@
 // Gives: __corvex__keptHits, all hits of a name below a container, read once while the page stays.
-// Needs: 05_kept.js, 15_elementtest.js; __corvex__searchByProps when called.
+// Needs: matching, search/kept, search/name, search/elementtest, search/properties.
 
 function __corvex__noHitsYet() {
   return Object.create(null);

@@ -1,5 +1,5 @@
 // Gives: __corvex__findObjectByProps, the search below one document or element, and how the hits count.
-// Needs: 10_name.js, 15_elementtest.js, 20_candidates.js; __corvex__listHolds when called.
+// Needs: names/entry, matching, search/name, search/elementtest, search/candidates, search/hits, search/hittest.
 
 function __corvex__isImageLink(map) {
   return __corvex__propMatches(map.tagName, "A") &&

@@ -1,5 +1,6 @@
 // Gives: the order of documents in which a search looks; __corvex__findObject, the entry for a name.
-// Needs: 30_properties.js; contexts and frames of the runtime when called.
+// Needs: runtime/state, runtime/framewalk, runtime/contexts, runtime/frameaccess, matching, search/properties,
+//   search/heuristic.
 
 // Calls search with the document of w, and those of its frames that enters lets in, until it finds an element. That leaves
 // the current context on the window that holds it: the next search starts there.

@@ -1,5 +1,5 @@
 // Gives: the search for plain words: link text, id, name, label or button text, DIV text, in this order.
-// Needs: __corvex__clean, contexts and frames of the runtime when called.
+// Needs: runtime/state, runtime/nodes, runtime/text, search/documents.
 
 function __corvex__firstWithText(elements, text) {
   for (var i = 0; i < elements.length; ++i) {

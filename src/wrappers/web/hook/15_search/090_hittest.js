@@ -1,5 +1,5 @@
 // Gives: __corvex__childAt, the deepest element at a screen point; isConsideredGlassPane.
-// Needs: __corvex__getScreenRectAsObject, __corvexDOMAPI and the lists of glass panes when called.
+// Needs: geometry/screenrect, dom.
 
 function __corvex__listHolds(list, entry) {
   for (var i = 0; i < list.length; ++i) {

@@ -1,5 +1,5 @@
 // Gives: why a name finds nothing: how many elements have its tag, and which of its properties none of them has.
-// Needs: the search by properties, getAllFrames, __corvex__contextList.
+// Needs: runtime/framewalk, runtime/contexts, matching, search/name, search/candidates, search/properties.
 
 // What is wrong with a name, whatever there is in the page, as the fault of a record; undefined where nothing is.
 window.top.__corvex.faultOfName = function (nm) {

@@ -1,5 +1,6 @@
 // Gives: __corvex.findAllObjects: every element that a name fits, where a search for one would look.
-// Needs: 30_properties.js, 60_hittest.js; __corvex__childRecord, contexts and frames of the runtime when called.
+// Needs: runtime/state, runtime/framewalk, runtime/children, runtime/frameaccess, matching, search/name,
+//   search/candidates, search/properties, search/hittest.
 
 // Adds the hits of nm in a document, or below an element, to those of other places. A name with an occurrence means the
 // one that a search finds.

@@ -1,5 +1,5 @@
 // Gives: the choice of the event model, and one synthetic mouse, context-menu or change event.
-// Needs: element positions, the page offset.
+// Needs: runtime/elementpos, geometry/scroll.
 
 top.__corvex__useIE8AndOlderEventDispatchingOverride__hooks = [];
 

@@ -1,5 +1,5 @@
 // Gives: the order of mouse events of a click on a generic element, a button and a link, and of a double click.
-// Needs: mouse events, the click hooks, window hook-up.
+// Needs: runtime/natives, runtime/state, runtime/override, input/mouseevents.
 
 function __corvex__hookupViewOf(o) {
   if (o.ownerDocument && o.ownerDocument.defaultView) {

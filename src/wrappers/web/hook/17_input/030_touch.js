@@ -1,5 +1,5 @@
 // Gives: the order of touch events of a tap.
-// Needs: client and screen rectangles, the page offset, the browser predicates.
+// Needs: runtime/natives, browsers, geometry/scroll, geometry/clientrect, geometry/screenrect.
 
 function __corvex__makeTouchEvent(evtType, o, touches, ctrl, shift, alt) {
   try {

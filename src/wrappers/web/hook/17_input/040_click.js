@@ -1,5 +1,5 @@
 // Gives: the entry points of a click, which pick between mouse and touch.
-// Needs: the mouse and touch sequences, the touch switches.
+// Needs: touch, input/mouse, input/touch.
 
 function __corvex__emulateTouchAndClick(o, ctrl, shift, alt, x, y, btn, clickFn) {
   // Listeners that prevented the default replace the click; else the mouse follows, as in a browser.

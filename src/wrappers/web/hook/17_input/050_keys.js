@@ -1,5 +1,5 @@
 // Gives: key events, typed text, and values and contents of text fields.
-// Needs: the event model, change events, the browser predicates.
+// Needs: runtime/natives, browsers, input/mouseevents.
 
 // ch: its character code goes out with all three event types, not a virtual key code.
 function __corvex__sendKeyEvent(o, ev, ch) {

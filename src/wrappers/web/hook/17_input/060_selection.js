@@ -1,5 +1,5 @@
 // Gives: single and multiple selection of options.
-// Needs: the selection hooks, change events, typed text.
+// Needs: runtime/builtins, runtime/state, input/mouseevents, input/keys.
 
 function __corvex__selectOptionText(opt) {
   return opt.text;

@@ -1,5 +1,5 @@
 // Gives: the selection of the current context, by context name and by frame path.
-// Needs: contexts, getAllFrames.
+// Needs: runtime/state, runtime/framewalk, runtime/contexts, framelookup.
 
 function __corvex__setContext(ctx) {
   // Kept also on failure: a window that takes this name later becomes the current one.

@@ -1,5 +1,5 @@
 // Gives: scrolling to an element, attributes, and the texts of the last dialogs.
-// Needs: the browser flags.
+// Needs: runtime/state.
 
 function __corvex__scrollTakesOptions() {
   var version = window.top.__corvex.browsermajorversion;

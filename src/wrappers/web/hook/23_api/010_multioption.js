@@ -1,5 +1,5 @@
 // Gives: __corvex__createMultiSelectOptionStr, __corvex__getSelectedOptionTexts: several options as one text.
-// Needs: __corvex__seps when called.
+// Needs: input/selection.
 
 // Joins texts with the first separator that none of them holds, which also ends the result and so tells the reader
 // which one it is.

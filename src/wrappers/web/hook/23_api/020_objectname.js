@@ -1,5 +1,5 @@
 // Gives: Corvex, the public object for extensions, with the classes of a parsed name.
-// Needs: __corvex__escapeCharactersInPropertyValue when called.
+// Needs: runtime/natives, names/properties.
 
 var Corvex = {};
 

@@ -1,5 +1,5 @@
 // Gives: the functions of Corvex with which an extension registers its hooks, and the list of toolkits.
-// Needs: 10_objectname.js; the hook arrays when called.
+// Needs: runtime/state, input/mouseevents, api/objectname, api/forwarders.
 
 Corvex.toolkitExtensions = [];
 Corvex.toolkitExtensions.Backbase = { enabled: false };

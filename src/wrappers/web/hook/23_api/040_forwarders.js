@@ -1,5 +1,6 @@
 // Gives: the functions of Corvex that forward to functions of the hook script, under names that stay.
-// Needs: 10_objectname.js; the functions forwarded to when called.
+// Needs: runtime/text, runtime/eventobject, names/properties, names/unique, names/entry, visibility, matching,
+//   input/mouse, input/click, input/selection, api/multioption, api/objectname.
 
 Corvex.hasClassName = function (o, cls) {
   if (!o || !o.className) {

@@ -1,5 +1,5 @@
 // Gives: the functions of Corvex that build what an event-to-string hook returns.
-// Needs: 10_objectname.js, 30_forwarders.js.
+// Needs: api/objectname, api/forwarders.
 
 Corvex.createItemName = function () {
   throw "Corvex.createItemName is not supported anymore, use Corvex.addItemTextForEventObjectHook to setup a hook " +

@@ -1,5 +1,5 @@
 // Gives: __corvex__xpath.StringValue, NumberValue, BooleanValue, NodeSetValue: the results of an expression.
-// Needs: __corvex__xpath.
+// Needs: runtime/builtins, xpath/evaluation/nodes, xpath/parsing/lexer.
 
 // Each value has type, value, and the conversions booleanValue, numberValue, stringValue, nodeSetValue; the last one
 // raises an error for all but node sets.

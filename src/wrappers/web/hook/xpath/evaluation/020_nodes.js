@@ -1,5 +1,5 @@
 // Gives: __corvex__xpath.read, parentOf, rootOf, textOfNode, ordered: what nodes hold, also where a page hides it.
-// Needs: __corvex__xpath, __corvex__nodeReader.
+// Needs: runtime/natives, runtime/nodes, xpath/parsing/lexer.
 
 // As __corvex__nodeReader, with further properties.
 __corvex__xpath.read = (function () {

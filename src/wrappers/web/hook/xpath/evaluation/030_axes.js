@@ -1,5 +1,5 @@
 // Gives: __corvex__xpath.axes (name to a function of a node that lists the axis) and __corvex__xpath.nodeTests.
-// Needs: 20_nodes.js.
+// Needs: xpath/evaluation/nodes, xpath/parsing/lexer.
 
 // Reverse axes list their nodes from the context node outward, as positions count there.
 __corvex__xpath.axes = (function () {

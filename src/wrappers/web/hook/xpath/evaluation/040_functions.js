@@ -1,5 +1,5 @@
 // Gives: __corvex__xpath.functions: the core functions, name to a record of least, most and call.
-// Needs: 10_values.js, 20_nodes.js.
+// Needs: runtime/nodes, xpath/evaluation/values, xpath/evaluation/nodes, xpath/parsing/lexer.
 
 // call gets the context and the array of argument values, and returns a plain value or an array of nodes.
 __corvex__xpath.functions = (function () {

@@ -1,5 +1,6 @@
 // Gives: __corvex__xpath.evaluate( tree, ctx ): the value of a parsed expression.
-// Needs: all of the above.
+// Needs: runtime/natives, xpath/evaluation/values, xpath/evaluation/nodes, xpath/evaluation/axes,
+//   xpath/evaluation/functions, xpath/parsing/lexer.
 
 __corvex__xpath.evaluate = (function () {
   var arithmetic = {

@@ -1,5 +1,5 @@
 // Gives: xpathDomEval( expr, node ), ExprContext, xpathLog.
-// Needs: __corvex__xpath; when called, top.__corvex__xpath__caseInSensitiveMatching.
+// Needs: runtime/natives, runtime/builtins, xpath/evaluation/expressions, xpath/parsing/parser.
 
 function xpathLog() {
 }

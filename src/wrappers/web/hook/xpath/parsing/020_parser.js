@@ -1,5 +1,5 @@
 // Gives: __corvex__xpath.parse, from the text of an expression to a tree of records, each with a kind.
-// Needs: 10_lexer.js.
+// Needs: runtime/natives, xpath/parsing/lexer.
 
 // Kinds: or, and, compare, arithmetic, negate, union, number, literal, variable, call, path. A path has filter (an
 // expression or null), predicates (of the filter), absolute, and steps of axis, test and predicates.
