@@ -60,7 +60,8 @@ test("a path runs no text as code", { page: '<p id="p"></p><script id="s" type="
     window.__corvex__ran = 0;
     const code = "('window.__corvex__ran = 1')";
     const html = "('beforeend', '<img onerror=window.__corvex__ran=1 src=x>').x";
-    return ["constructor.constructor" + code + "()", "click.constructor" + code + "()", "click.call(null).x",
+    return ["constructor.constructor" + code + ".length", "constructor.constructor" + code + "()",
+      "click.constructor" + code + "()", "click.call(null).x",
       "ownerDocument.defaultView.eval" + code, "ownerDocument.defaultView.setTimeout" + code + ".x",
       "ownerDocument.defaultView.frames[0].eval" + code, "ownerDocument.location.assign('javascript:window.__corvex__ran=1').x",
       "ownerDocument.location.replace('javascript:window.__corvex__ran=1').x",

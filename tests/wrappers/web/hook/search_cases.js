@@ -87,6 +87,18 @@ test("the current context wins, and a hit moves it", {
   return ["t", "u", "t", "zz"].map((title) => [found("{tagName='P' title='" + title + "'}"), window.__corvex__ctxwin === window]);
 }, [["outer", true], ["only", false], ["inner", false], [null, false]]);
 
+test("a frame comes before those in it, and before those after it", {
+  page: '<iframe id="f"></iframe><iframe id="g"></iframe>'
+}, ({ frame }) => {
+  frame("g", '<p id="last"></p>');
+  const w = frame("f", '<iframe id="n"></iframe><p id="first"></p>');
+  w.frames[0].document.body.innerHTML = '<p id="nested"></p>';
+  const ids = [found("{tagName='P'}")];
+  w.document.getElementById("first").remove();
+  window.__corvex__ctxwin = window;
+  return ids.concat(found("{tagName='P'}"), __corvex.findAllObjects("{tagName='P'}").length);
+}, ["first", "nested", 2]);
+
 test("a context overrides the container; an unknown one fails only when asked to", {
   page: '<iframe id="f"></iframe><p id="outer"></p>'
 }, ({ frame, flags }) => {
