@@ -38,7 +38,7 @@ const char* const askInPage = R"JS(__corvex__whilePageStays(function () {
 const char* const nameInPage = "return escape(__corvex__nameOf(object));";
 
 const char* const hasChildrenInPage =
-    "return !!(object.qx_Widget || __corvexDOMAPI.firstChild(object) || __corvex__node.shadowRoot(object));";
+    "return !!(object.qx_Widget || __corvexDOMAPI.firstChild(object) || __corvex__nodeReader.shadowRoot(object));";
 
 /// Undoes the page's `escape`, and nothing more.
 QString textOfLine(const QString& line) {

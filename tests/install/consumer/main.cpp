@@ -19,7 +19,7 @@ class Page : public HTMLComponent {
 public:
   JavaScriptAnswer evaluateJS(const QString& code, unsigned int) override {
     lastCode = code;
-    return {QStringLiteral("{\"refName\":\"some.reference\",\"type\":\"select-one\"}"), false, false};
+    return {QStringLiteral("{\"refName\":\"window.__corvex__object__C1\",\"type\":\"select-one\"}"), false, false};
   }
   int browserKind() override { return 4; }
   bool isAvailable() override { return true; }

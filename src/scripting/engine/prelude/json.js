@@ -99,7 +99,8 @@
         if (result === undefined) {
           delete value[keys[i]];
         } else {
-          Object.defineProperty(value, keys[i], { value: result, writable: true, enumerable: true, configurable: true });
+          Object.defineProperty(value, keys[i],
+            { value: result, writable: true, enumerable: true, configurable: true });
         }
       }
     }

@@ -1,5 +1,5 @@
 // Gives: top.__corvex__jsobjects, __corvex__retrieveJsObjectInfo(code), __corvex__jsObjectInfoOf(read).
-// Needs: JSON when called.
+// Needs: nothing.
 
 top.__corvex__jsobjects = [];
 top.__corvex__jsobjects_cnt = 0;
@@ -70,11 +70,11 @@ function __corvex__jsObjectInfoOf(read) {
 
 function __corvex__retrieveJsObjectInfo(code) {
   try {
-    window.eval("0");
+    window.eval("0"); // eslint-disable-line no-eval -- whether the page allows it
   } catch (e) {
     return "[no eval]";
   }
   return __corvex__jsObjectInfoOf(function () {
-    return window.eval(code);
+    return window.eval(code); // eslint-disable-line no-eval -- it is there to run code of scripts
   });
 }
