@@ -108,8 +108,11 @@ public:
 
   bool setProperty(SharedPtr<Object> object, const Property* property, SharedPtr<Object> value) const override {
     const auto index = static_cast<std::size_t>(property->index());
-    m_properties.at(index).write(**nativeOf(object), value);
-    return !Inspector::self()->hasScriptError();
+    const auto& write = m_properties.at(index).write;
+    if (write) {
+      write(**nativeOf(object), value);
+    }
+    return write && !Inspector::self()->hasScriptError();
   }
 
 private:

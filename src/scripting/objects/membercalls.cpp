@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <algorithm>
 
+#include "corvexhook/hostservices.h"
 #include "corvexhook/inspector.h"
 #include "corvexhook/primitives.h"
 #include "scripting/objects/overloads.h"
@@ -71,6 +72,26 @@ ObjectResult nullObjectError(const QString& name) {
   return ObjectResult::failure(QStringLiteral("'%1' needs an object in front of it, as in object.%1.").arg(name));
 }
 
+/// Why these arguments cannot be given. An object that is gone takes none at all, and a class may have a sentence of
+/// its own, which the forms that it takes follow.
+QString whyNotCall(const SharedPtr<Object>& object, const QString& name, const ObjectList& arguments,
+                   const QString& formsError) {
+  const QString gone = Inspector::self()->hostServices().whyNotUse(object);
+  if (!gone.isEmpty()) {
+    return gone;
+  }
+  const QString own = object->objectClass()->whyNotCall(name, arguments);
+  return own.isEmpty() ? formsError : own;
+}
+
+/// What the class says of such an assignment; otherwise a sentence of ours.
+QString readOnlyError(const SharedPtr<Object>& object, const Property* property, const SharedPtr<Object>& value,
+                      const QString& member) {
+  property->owner()->setProperty(object, property, value);
+  const QString own = Inspector::self()->takeScriptError();
+  return own.isEmpty() ? QStringLiteral("%1 is read-only.").arg(member) : own;
+}
+
 }  // namespace
 
 ObjectResult MemberCalls::callMethod(const SharedPtr<Object>& object, const QString& name,
@@ -89,7 +110,7 @@ ObjectResult MemberCalls::callMethod(const SharedPtr<Object>& object, const QStr
   }
   const OverloadChoice choice = chooseOverload(memberText(cls, name), methods, arguments);
   if (choice.index < 0) {
-    return ObjectResult::failure(choice.error);
+    return ObjectResult::failure(whyNotCall(object, name, arguments, choice.error));
   }
   const NumberedMethod chosen = numbered[static_cast<std::size_t>(choice.index)];
   warnIfDeprecated(chosen.method);
@@ -134,7 +155,7 @@ QString MemberCalls::writeProperty(const SharedPtr<Object>& object, const QStrin
                                    : unknownMemberError(cls, name);
   }
   if (!property->isWritable()) {
-    return QStringLiteral("%1 is read-only.").arg(member);
+    return readOnlyError(object, property, value, member);
   }
   const Class* type = property->type().type();
   const SharedPtr<Object> typed = value ? value : Inspector::self()->nullObject(type);

@@ -28,9 +28,14 @@ int depth(const Class* cls) {
 
 bool isPrimitive(const Class* type) { return dynamic_cast<const PrimitiveClass*>(type) != nullptr; }
 
+bool takesAnything(const Class* type) {
+  const auto* const primitive = dynamic_cast<const PrimitiveClass*>(type);
+  return primitive && primitive->id() == PrimitiveType::Any;
+}
+
 int distance(const SharedPtr<Object>& value, const Class* type) {
   if (!value) {
-    return isPrimitive(type) ? Unfit : Near;
+    return isPrimitive(type) && !takesAnything(type) ? Unfit : Near;
   }
   if (!isAcceptable(value, type)) {
     return Unfit;

@@ -6,29 +6,11 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "shared/jsescape.h"
+
 namespace Corvex::Webhook {
 
 namespace {
-
-/// The code unit that `count` hexadecimal digits at `from` stand for, or -1.
-int hexadecimal(const QString& text, int from, int count) {
-  if (from + count > text.size()) {
-    return -1;
-  }
-  int result = 0;
-  for (int i = from; i < from + count; ++i) {
-    const ushort unit = text[i].unicode();
-    const ushort lower = unit | 0x20;
-    if (unit >= '0' && unit <= '9') {
-      result = result * 16 + unit - '0';
-    } else if (lower >= 'a' && lower <= 'f') {
-      result = result * 16 + lower - 'a' + 10;
-    } else {
-      return -1;
-    }
-  }
-  return result;
-}
 
 std::optional<qint64> number(const QString& text) {
   const bool digitsOnly =
@@ -41,25 +23,10 @@ std::optional<qint64> number(const QString& text) {
 MessageItem itemFrom(const QString& part) {
   const int equals = part.indexOf(u'=');
   const QString raw = part.mid(equals + 1);
-  return {equals < 0 ? part : part.left(equals), raw, raw.contains(u'%') ? unescaped(raw) : raw};
+  return {equals < 0 ? part : part.left(equals), raw, raw.contains(u'%') ? undoEscape(raw) : raw};
 }
 
 }  // namespace
-
-QString unescaped(const QString& text) {
-  QString result;
-  result.reserve(text.size());
-  for (int i = 0; i < text.size(); ++i) {
-    const bool wide = text[i] == u'%' && text.midRef(i + 1, 1) == QLatin1String("u");
-    const int digits = wide ? 4 : 2;
-    const int unit = text[i] == u'%' ? hexadecimal(text, i + (wide ? 2 : 1), digits) : -1;
-    result.append(unit < 0 ? text[i] : QChar(ushort(unit)));
-    if (unit >= 0) {
-      i += digits + (wide ? 1 : 0);
-    }
-  }
-  return result;
-}
 
 /// Takes the text of one message apart, by the row of its head.
 class MessageReader {

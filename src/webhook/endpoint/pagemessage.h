@@ -73,8 +73,4 @@ private:
   quint64 m_waitId = 0;
 };
 
-/// Undoes JavaScript's `escape`: "%XX" and "%uXXXX" become the code units that they stand for, and a "%" without such
-/// digits behind it stays as it is.
-QString unescaped(const QString& text);
-
 }  // namespace Corvex::Webhook

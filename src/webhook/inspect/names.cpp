@@ -1,5 +1,6 @@
 #include "webhook/inspect/names.h"
 
+#include "shared/jsescape.h"
 #include "webhook/inspect/namesroads.h"
 #include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/page/escaping.h"
@@ -44,11 +45,6 @@ QString sentenceOfRule(const QString& key) {
   return QString();
 }
 
-// The page's escape, without what the wrapper's own reading of it does to ampersands.
-QString readableText(const QString& escaped) {
-  return WebWrapper::unescape(escaped).replace(QLatin1String("&amp;"), QLatin1String("&"));
-}
-
 QString textOf(const QJsonObject& record, const char* member) { return record.value(QLatin1String(member)).toString(); }
 
 QJsonArray results(const QJsonObject& answer) { return answer.value(QLatin1String("results")).toArray(); }
@@ -57,11 +53,11 @@ int milliseconds(const QJsonObject& answer) { return answer.value(QLatin1String(
 
 NamedElement readName(const QJsonObject& record) {
   NamedElement element;
-  element.element = readableText(textOf(record, "element"));
-  element.name = readableText(textOf(record, "name"));
+  element.element = undoEscape(textOf(record, "element"));
+  element.name = undoEscape(textOf(record, "name"));
   element.kind = kindOfName(element.name);
   if (element.name.isEmpty()) {
-    element.why = QStringLiteral("its naming failed: %1").arg(readableText(textOf(record, "error")));
+    element.why = QStringLiteral("its naming failed: %1").arg(undoEscape(textOf(record, "error")));
   }
   return element;
 }
@@ -85,7 +81,7 @@ QJsonArray findRoads(const QJsonObject& record, NamedElement* element) {
 void readOutcome(const QJsonObject& record, NamedElement* element) {
   const QString found = textOf(record, "found");
   const QString rule = sentenceOfRule(textOf(record, "rule"));
-  element->other = readableText(textOf(record, "other"));
+  element->other = undoEscape(textOf(record, "other"));
   if (found == QLatin1String("itself") || found == QLatin1String("link")) {
     element->outcome = found == QLatin1String("link") ? NameOutcome::Link : NameOutcome::Itself;
   } else if (element->outcome == NameOutcome::Lost && !rule.isEmpty()) {

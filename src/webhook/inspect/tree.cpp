@@ -3,6 +3,7 @@
 #include "corvexhook/delegate.h"
 #include "corvexhook/inspector.h"
 #include "shared/functioncallresult.h"
+#include "shared/jsescape.h"
 #include "webhook/pages/connection.h"
 #include "webhook/pages/contexts.h"
 #include "wrappers/web/lookup/itemchildren.h"
@@ -39,11 +40,6 @@ const char* const nameInPage = "return escape(__corvex__nameOf(object));";
 
 const char* const hasChildrenInPage =
     "return !!(object.qx_Widget || __corvexDOMAPI.firstChild(object) || __corvex__nodeReader.shadowRoot(object));";
-
-/// Undoes the page's `escape`, and nothing more.
-QString textOfLine(const QString& line) {
-  return WebWrapper::unescape(line).replace(QLatin1String("&amp;"), QLatin1String("&"));
-}
 
 /// What the page answers for each of some objects, or why it answers nothing.
 FunctionCallResult<QStringList> askPage(Connection& page, const char* question, const ObjectList& objects) {
@@ -237,7 +233,7 @@ void TreeReader::name(Connection& page, const std::vector<int>& places) {
       // No failure of the walk: the rules of naming have none for a form whose fields hide what takes part in it.
       continue;
     }
-    m_tree.nodes[places[i]].qualifiedName = WebWrapper::unescape(textOfLine(line));
+    m_tree.nodes[places[i]].qualifiedName = WebWrapper::unescape(undoEscape(line));
   }
 }
 

@@ -60,25 +60,6 @@ TEST(PageMessage, EachHeadIsReadByItsRow) {
   }
 }
 
-TEST(PageMessage, UndoesEscapeAndLeavesWhatIsNone) {
-  const struct {
-    const char* written;
-    QString meant;
-  } texts[] = {
-      {"%26amp;%3D%25", QStringLiteral("&amp;=%")},
-      {"%u20AC%uD83D%uDE00%E4", QStringLiteral(u"\u20AC\U0001F600\u00E4")},
-      {"%u20aC%e4+", QStringLiteral(u"\u20AC\u00E4+")},
-      {"100%", QStringLiteral("100%")},
-      {"%4", QStringLiteral("%4")},
-      {"%zz%u12g4%u12", QStringLiteral("%zz%u12g4%u12")},
-      {"%%41%2541", QStringLiteral("%A%41")},
-      {"%00", QString(QChar(0))},
-  };
-  for (const auto& text : texts) {
-    EXPECT_EQ(unescaped(QString::fromLatin1(text.written)), text.meant) << text.written;
-  }
-}
-
 TEST(PageMessage, ValueIsTheLastOfItsKey) {
   const PageMessage message = PageMessage::fromText(QStringLiteral("logevent1&a=%31&b=2&a=3"));
   EXPECT_EQ(message.value(QStringLiteral("a")), QStringLiteral("3"));

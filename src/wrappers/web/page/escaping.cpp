@@ -1,24 +1,10 @@
 #include "wrappers/web/page/escaping.h"
 
+#include "shared/jsescape.h"
+
 namespace Corvex::WebWrapper {
 
 namespace {
-
-int hexDigit(QChar c) {
-  const int latin = c.toLower().toLatin1();
-  if (latin >= '0' && latin <= '9') {
-    return latin - '0';
-  }
-  return latin >= 'a' && latin <= 'f' ? latin - 'a' + 10 : 0;
-}
-
-int hexValue(const QString& digits) {
-  int value = 0;
-  for (const QChar digit : digits) {
-    value = value * 16 + hexDigit(digit);
-  }
-  return value;
-}
 
 bool isIdentifierStart(QChar c) {
   if (c.unicode() < 128) {
@@ -83,20 +69,7 @@ QString quotedArrayElements(const QStringList& texts) {
 }
 
 QString unescape(const QString& text) {
-  QString result;
-  result.reserve(text.size());
-  for (int i = 0; i < text.size(); ++i) {
-    if (text.at(i) != QLatin1Char('%') || i + 1 == text.size()) {
-      result += text.at(i);
-      continue;
-    }
-    const bool wide = text.at(i + 1) == QLatin1Char('u');
-    const int digits = wide ? 4 : 2;
-    const int first = wide ? i + 2 : i + 1;
-    result += QChar(hexValue(text.mid(first, digits)));
-    i = first + digits - 1;
-  }
-  return result.replace(QLatin1Char('&'), QLatin1String("&amp;"));
+  return undoEscape(text, MalformedEscape::AddUp).replace(QLatin1Char('&'), QLatin1String("&amp;"));
 }
 
 QString translateLineEndings(const QString& text) {
