@@ -16,7 +16,7 @@ QString HookedPage::start(const SessionOptions& options) {
     return error;
   }
   m_endpoint.setAllowedOrigins({QStringLiteral("null")});
-  m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, m_endpoint.port());
+  m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, m_endpoint.place());
   return m_windows->open();
 }
 

@@ -18,7 +18,7 @@ set(CORVEX_HOOK_FRAGMENTS
   02_runtime
   03_names
   04_objectstore.js
-  05_properties.js
+  05_properties
   06_framelookup.js
   07_browsers.js
   08_objecttree.js
@@ -33,6 +33,7 @@ set(CORVEX_HOOK_FRAGMENTS
   17_input
   18_windows.js
   19_dom.js
+  21_values.js
   22_focus.js
   23_api
   24_json.js.in
@@ -67,12 +68,14 @@ function(corvex_hook_script target)
   endforeach()
 
   set(out ${CMAKE_BINARY_DIR}/hookscript)
+  # A file that only got another name is older than the texts: the list of names tells of it.
+  file(CONFIGURE OUTPUT ${out}/inputs.txt CONTENT "${inputs}")
   add_custom_command(
     OUTPUT ${out}/hookfragments.cpp ${out}/hookfragments.h
     COMMAND ${CORVEX_NODE} ${CORVEX_HOOK_EMBEDDER}
             --hook ${CORVEX_HOOK_DIR} --packages ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../node_modules --out ${out}
             --prelude ${CORVEX_HOOK_PRELUDE} --xpath ${CORVEX_HOOK_XPATH_TEXTS} --fragments ${CORVEX_HOOK_FRAGMENTS}
-    DEPENDS ${inputs} ${CORVEX_HOOK_EMBEDDER}
+    DEPENDS ${inputs} ${out}/inputs.txt ${CORVEX_HOOK_EMBEDDER}
     DEPFILE ${out}/hookfragments.d
     COMMENT "Embedding the hook script"
     VERBATIM)

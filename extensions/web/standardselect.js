@@ -31,10 +31,9 @@ window.__corvex__standardselectExtension = (function () {
     };
   }
 
-  // Loose comparison: values arrive as texts, indexes are numbers.
   function contains(values, value) {
     for (var i = 0; i < values.length; ++i) {
-      if (values[i] == value) {
+      if (values[i] == value) { // eslint-disable-line eqeqeq -- values arrive as texts, indexes are numbers
         return true;
       }
     }

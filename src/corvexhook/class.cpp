@@ -109,6 +109,8 @@ SharedPtr<Object> Class::convertToTolerant(SharedPtr<Object> object, const Class
 
 QString Class::realType(const QString& type) const { return type; }
 
+QString Class::whyNotCall(const QString&, const ObjectList&) const { return QString(); }
+
 void Class::initSuperClass() { setSuperClass(nullptr); }
 
 const Constructor* Class::createConstructor(int) const { return nullptr; }

@@ -77,6 +77,9 @@ public:
                                    const Method* method) const;
   virtual SharedPtr<Object> construct(int id, const ObjectList& arguments, const Constructor* constructor) const;
 
+  /// What a script is told whose arguments fit no method of the name; empty where the class has no words for it.
+  virtual QString whyNotCall(const QString& method, const ObjectList& arguments) const;
+
   const QString& name() const { return m_name; }
   bool isPublic() const { return m_public; }
 

@@ -30,9 +30,16 @@ struct PrimitiveRow {
 const PrimitiveRow primitiveRows[] = {
     {PrimitiveType::Int, "int"},       {PrimitiveType::UInt, "unsigned int"}, {PrimitiveType::Bool, "bool"},
     {PrimitiveType::String, "string"}, {PrimitiveType::Double, "double"},     {PrimitiveType::Void, "void"},
+    {PrimitiveType::Any, "any"},
 };
 
 const HostServices knowsNothing;
+
+/// A name as it stands in a sentence; of a very long one the ends.
+QString shown(const QString& name) {
+  const int most = 500;
+  return name.size() <= most ? name : name.left(most / 2) + QLatin1String("...") + name.right(most / 2);
+}
 
 }  // namespace
 
@@ -142,13 +149,14 @@ QString Inspector::usableName(const QString& name) {
   const QString realName = mapped.isEmpty() ? name : mapped;
   if (mapped.isEmpty() && name.startsWith(QLatin1Char(':'))) {
     reportScriptError(
-        QStringLiteral("The symbolic name '%1' is not in the object map. Add it there, or use a real name.").arg(name));
+        QStringLiteral("The symbolic name '%1' is not in the object map. Add it there, or use a real name.")
+            .arg(shown(name)));
     return QString();
   }
   const QString parseError = ObjectName(realName).parseError();
   if (realName.isEmpty() || !parseError.isEmpty()) {
     reportScriptError(QStringLiteral("Invalid object name '%1': %2.")
-                          .arg(realName, realName.isEmpty() ? QStringLiteral("it is empty") : parseError));
+                          .arg(shown(realName), realName.isEmpty() ? QStringLiteral("it is empty") : parseError));
     return QString();
   }
   return realName;
@@ -157,7 +165,7 @@ QString Inspector::usableName(const QString& name) {
 bool Inspector::reportWhyNeverFound(const QString& realName) {
   const QString why = m_services->whyNeverFound(realName);
   if (!why.isEmpty()) {
-    reportScriptError(QStringLiteral("Invalid object name '%1': %2.").arg(realName, why));
+    reportScriptError(QStringLiteral("Invalid object name '%1': %2.").arg(shown(realName), why));
   }
   return !why.isEmpty();
 }
@@ -285,7 +293,7 @@ SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) 
   } else if (found) {
     reportScriptError(
         QStringLiteral("The object '%1' was found, but was not ready within %2 ms: it is hidden or disabled.")
-            .arg(name, QString::number(timeoutMs)));
+            .arg(shown(name), QString::number(timeoutMs)));
   }
   return nullptr;
 }
@@ -295,16 +303,16 @@ QString Inspector::notFoundError(const QString& name) const {
   const QString realName = mapped.isEmpty() ? name : mapped;
   const QString explanation = m_services->whyNotFound(realName);
   if (!explanation.isEmpty()) {
-    return QStringLiteral("Object '%1' not found. %2").arg(name, explanation);
+    return QStringLiteral("Object '%1' not found. %2").arg(shown(name), explanation);
   }
   const QStringList unmatched = m_unmatched.value(realName);
   if (unmatched.contains(QStringLiteral("container"))) {
-    return QStringLiteral("Object '%1' not found. Its container was not found.").arg(name);
+    return QStringLiteral("Object '%1' not found. Its container was not found.").arg(shown(name));
   }
   const QString reason = unmatched.isEmpty()
                              ? QString()
                              : QStringLiteral(" No element matched: %1.").arg(unmatched.join(QLatin1String(", ")));
-  return QStringLiteral("Object '%1' not found.%2").arg(name, reason);
+  return QStringLiteral("Object '%1' not found.%2").arg(shown(name), reason);
 }
 
 void Inspector::askFirst(const SharedPtr<Object>& root) {

@@ -45,6 +45,9 @@ Enum::Enum(const Class* owner, const QString& name, const Item* items, int count
     : m_owner(owner), m_name(name), m_items(items, items + count) {}
 
 bool verifyMethodInvocation(const SharedPtr<Object>& object, const Method* method) {
+  if (method->isStatic()) {
+    return true;
+  }
   const QString call = method->owner()->name() + QLatin1Char('.') + method->name();
   if (!object || object->isNull()) {
     Inspector::self()->reportScriptError(

@@ -1,9 +1,7 @@
 #include "corvexhook/objectmap.h"
 
 #include "corvexhook/objectname.h"
-
-#include <QFile>
-#include <QTextStream>
+#include "shared/textfile.h"
 
 namespace Corvex {
 
@@ -33,16 +31,15 @@ ObjectMap* ObjectMap::self() {
 }
 
 QString ObjectMap::load(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-    return QStringLiteral("Cannot read the object map '%1': %2.").arg(path, file.errorString());
+  const FunctionCallResult<QString> text = readTextFile(path);
+  if (text.failed()) {
+    return QStringLiteral("Cannot read the object map '%1': %2.").arg(path, text.error);
   }
-  QTextStream stream(&file);
-  stream.setCodec("UTF-8");
   QHash<QString, QString> names = m_names;
   QHash<QString, int> lines;
-  for (int number = 1; !stream.atEnd(); ++number) {
-    const QString line = stream.readLine();
+  int number = 0;
+  for (const QString& line : text.value.split(QLatin1Char('\n'))) {
+    ++number;
     if (line.trimmed().isEmpty() || line.startsWith(QLatin1Char('#'))) {
       continue;
     }

@@ -36,13 +36,18 @@ bool isBlank(QChar c) { return c == QLatin1Char(' ') || c == QLatin1Char('\t'); 
 
 }  // namespace
 
+/// Reads one name of a text, from its opening brace to its closing one, and the names that lie in it on the way, so
+/// that each character is looked at once.
 class ObjectNameParser {
 public:
-  ObjectNameParser(const QString& text, ObjectName* name) : m_text(text), m_name(name) {}
+  ObjectNameParser(const QString& text, int start, int depth, ObjectName* name)
+      : m_text(text), m_start(start), m_depth(depth), m_name(name), m_pos(start + 1) {}
 
   /// The error, or an empty text.
   QString parse() {
-    m_pos = 1;
+    if (m_depth >= ObjectName::MostLevels) {
+      return QStringLiteral("names are nested more than %1 deep").arg(ObjectName::MostLevels);
+    }
     for (;;) {
       skipBlanks();
       if (atEnd()) {
@@ -50,7 +55,10 @@ public:
       }
       if (current() == QLatin1Char('}')) {
         ++m_pos;
-        return trailing();
+        return QString();
+      }
+      if (++m_properties > ObjectName::MostProperties) {
+        return QStringLiteral("a name has at most %1 properties").arg(ObjectName::MostProperties);
       }
       const QString problem = parseProperty();
       if (!problem.isEmpty()) {
@@ -59,22 +67,27 @@ public:
     }
   }
 
+  /// The same for a name that is all of the text.
+  QString parseWhole() {
+    if (m_text.size() > ObjectName::MostCharacters) {
+      return QStringLiteral("it has more than %1 characters").arg(ObjectName::MostCharacters);
+    }
+    const QString problem = parse();
+    skipBlanks();
+    return !problem.isEmpty() || atEnd() ? problem : error(QStringLiteral("there is text after the closing brace"));
+  }
+
 private:
   bool atEnd() const { return m_pos >= m_text.size(); }
   QChar current() const { return m_text.at(m_pos); }
   QString error(const QString& what) const {
-    return QStringLiteral("%1 at position %2").arg(what, QString::number(m_pos + 1));
+    return QStringLiteral("%1 at position %2").arg(what, QString::number(m_pos - m_start + 1));
   }
 
   void skipBlanks() {
     while (!atEnd() && isBlank(current())) {
       ++m_pos;
     }
-  }
-
-  QString trailing() {
-    skipBlanks();
-    return atEnd() ? QString() : error(QStringLiteral("there is text behind the closing brace"));
   }
 
   QString parseProperty() {
@@ -88,7 +101,7 @@ private:
     }
     PropertyValue::Modifiers modifiers = PropertyValue::StrictMatch;
     if (!parseOperator(&modifiers)) {
-      return error(QStringLiteral("one of the operators =, ~= or ?= is missing behind the property '%1'").arg(name));
+      return error(QStringLiteral("one of the operators =, ~= or ?= is missing after the property '%1'").arg(name));
     }
     return parseValue(name, modifiers);
   }
@@ -133,34 +146,29 @@ private:
 
   QString parseNested(const QString& name, PropertyValue::Modifiers modifiers) {
     const int start = m_pos;
-    int depth = 0;
-    bool inQuotes = false;
-    for (; !atEnd(); ++m_pos) {
-      if (inQuotes && current() == QLatin1Char('\\')) {
-        ++m_pos;
-      } else if (current() == QLatin1Char('\'')) {
-        inQuotes = !inQuotes;
-      } else if (!inQuotes && current() == QLatin1Char('{')) {
-        ++depth;
-      } else if (!inQuotes && current() == QLatin1Char('}') && --depth == 0) {
-        ++m_pos;
-        const QString value = m_text.mid(start, m_pos - start);
-        const QString nestedError = ObjectName(value).parseError();
-        m_name->setProperty(name, PropertyValue(value, modifiers, PropertyValue::NestedName));
-        return nestedError.isEmpty() ? QString() : QStringLiteral("in the value of '%1': %2").arg(name, nestedError);
-      }
+    ObjectName nested;
+    ObjectNameParser parser(m_text, start, m_depth + 1, &nested);
+    const QString nestedError = parser.parse();
+    m_pos = parser.m_pos;
+    if (nestedError.isEmpty()) {
+      m_name->setProperty(name, PropertyValue(m_text.mid(start, m_pos - start), modifiers, PropertyValue::NestedName));
+      return QString();
     }
-    return error(QStringLiteral("the closing brace of the property '%1' is missing").arg(name));
+    // Of a long way to the error only the beginning is told.
+    return m_depth < 3 ? QStringLiteral("in the value of '%1': %2").arg(name, nestedError) : nestedError;
   }
 
   const QString& m_text;
+  const int m_start;
+  const int m_depth;
   ObjectName* m_name;
-  int m_pos = 0;
+  int m_pos;
+  int m_properties = 0;
 };
 
 ObjectName::ObjectName(const QString& text) : m_text(text), m_multiProperty(text.startsWith(QLatin1Char('{'))) {
   if (m_multiProperty) {
-    m_parseError = ObjectNameParser(text, this).parse();
+    m_parseError = ObjectNameParser(text, 0, 0, this).parseWhole();
     if (!m_parseError.isEmpty()) {
       m_entries.clear();
     }

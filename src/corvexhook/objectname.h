@@ -33,8 +33,15 @@ private:
 /// The name of an object. A multi-property name reads {a='b' c~='d.*' container={e='f'}}: properties in their order,
 /// the operators "=" exact, "?=" wildcard, "~=" regular expression; inside quotes a backslash escapes a quote or a
 /// backslash. The other end of this text is the page's parser of such names. Any other text is a plain name.
+///
+/// Names come from pages and scripts, so their length, the depth of their containers and the number of their properties are
+/// limited.
 class CORVEXHOOK_EXPORT ObjectName {
 public:
+  static constexpr int MostCharacters = 1000000;
+  static constexpr int MostLevels = 100;
+  static constexpr int MostProperties = 1000;
+
   ObjectName() = default;
   explicit ObjectName(const QString& text);
 

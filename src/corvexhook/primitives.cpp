@@ -28,6 +28,8 @@ bool acceptsPrimitive(const QVariant& value, PrimitiveType::Id wanted) {
       return value.type() == QVariant::Bool;
     case PrimitiveType::String:
       return value.isValid();
+    case PrimitiveType::Any:
+      return true;
     case PrimitiveType::Void:
       return false;
   }

@@ -8,10 +8,11 @@ namespace Corvex {
 
 /// Numbers by which `Inspector::primitiveType` tells the classes of plain values.
 namespace PrimitiveType {
-enum Id { Int = 1, UInt = 2, Bool = 3, String = 4, Double = 5, Void = 7 };
+enum Id { Int = 1, UInt = 2, Bool = 3, String = 4, Double = 5, Void = 7, Any = 8 };
 }
 
-/// The class of a plain value: "int", "unsigned int", "bool", "string", "double", "void".
+/// The class of a plain value: "int", "unsigned int", "bool", "string", "double", "void"; and "any", which stands for a
+/// value of any class where one is described.
 class CORVEXHOOK_EXPORT PrimitiveClass : public Class {
 public:
   PrimitiveClass(const char* name, Namespace* ns, PrimitiveType::Id id);

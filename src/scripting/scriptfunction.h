@@ -17,9 +17,11 @@ struct ScriptFunction {
   QString usage;
   int minArguments = 0;
   int maxArguments = 0;
-  /// A script's null arrives as a null pointer. A result of null is undefined
-  /// in the script.
+  /// A null that a script passes for an argument that may be left out, or to
+  /// a function that takes null, arrives as a null pointer; any other never
+  /// arrives. A result of null is undefined in the script.
   std::function<FunctionCallResult<SharedPtr<Object>>(const ObjectList&)> call;
+  bool takesNull = false;
 };
 
 /// What the process that embeds the engine offers to scripts.

@@ -10,7 +10,7 @@ void ScriptListener::step(const QString&, qint64) {}
 
 void ScriptListener::objectCall(const QString&, qint64) {}
 
-void ScriptListener::check(bool, const QString&, const ScriptLocation&) {}
+void ScriptListener::check(bool, const QString&, const ScriptTrace&) {}
 
 void ScriptListener::log(const QString&) {}
 
@@ -36,9 +36,9 @@ void ListenerGroup::objectCall(const QString& text, qint64 durationMs) {
   }
 }
 
-void ListenerGroup::check(bool passed, const QString& text, const ScriptLocation& location) {
+void ListenerGroup::check(bool passed, const QString& text, const ScriptTrace& trace) {
   for (ScriptListener* listener : m_listeners) {
-    listener->check(passed, text, location);
+    listener->check(passed, text, trace);
   }
 }
 

@@ -16,7 +16,8 @@ public:
   virtual void step(const QString& text, qint64 durationMs);
   /// A member of an object was used.
   virtual void objectCall(const QString& text, qint64 durationMs);
-  virtual void check(bool passed, const QString& text, const ScriptLocation& location);
+  /// `trace` is where the check stands.
+  virtual void check(bool passed, const QString& text, const ScriptTrace& trace);
   virtual void log(const QString& text);
   virtual void scriptFinished(const ScriptResult& result);
   virtual void runFinished(const RunSummary& summary);
@@ -30,7 +31,7 @@ public:
   void scriptStarted(const QString& path) override;
   void step(const QString& text, qint64 durationMs) override;
   void objectCall(const QString& text, qint64 durationMs) override;
-  void check(bool passed, const QString& text, const ScriptLocation& location) override;
+  void check(bool passed, const QString& text, const ScriptTrace& trace) override;
   void log(const QString& text) override;
   void scriptFinished(const ScriptResult& result) override;
   void runFinished(const RunSummary& summary) override;

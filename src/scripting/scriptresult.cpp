@@ -4,6 +4,10 @@ namespace Corvex::Scripting {
 
 namespace {
 
+// Of a trace the innermost calls tell what failed, the outermost ones whose fault it was.
+const std::size_t mostInnermost = 15;
+const std::size_t mostOutermost = 5;
+
 QString counted(int count, const QString& noun) {
   return QStringLiteral("%1 %2%3").arg(count).arg(noun, count == 1 ? QString() : QStringLiteral("s"));
 }
@@ -12,6 +16,29 @@ QString counted(int count, const QString& noun) {
 
 QString ScriptLocation::text() const {
   return line > 0 ? QStringLiteral("%1:%2").arg(file, QString::number(line)) : file;
+}
+
+QString traceText(const ScriptTrace& trace) {
+  QStringList texts;
+  for (std::size_t i = 0; i < trace.size() && i < mostOutermost; ++i) {
+    texts << trace[i].text();
+  }
+  return texts.join(QLatin1String(", called from "));
+}
+
+QStringList traceLines(const ScriptTrace& trace) {
+  QStringList lines;
+  const bool isLong = trace.size() > mostInnermost + mostOutermost;
+  for (std::size_t i = 0; i < trace.size(); ++i) {
+    if (isLong && i == mostInnermost) {
+      const std::size_t omitted = trace.size() - mostInnermost - mostOutermost;
+      lines << QStringLiteral("... %1 more").arg(omitted);
+      i += omitted;
+    }
+    const QString call = i == 0 ? QString() : QStringLiteral("called from ");
+    lines << call + trace[i].text() + (trace[i].line > 0 ? QLatin1String(": ") + trace[i].sourceLine : QString());
+  }
+  return lines;
 }
 
 void RunSummary::add(const ScriptResult& result) {

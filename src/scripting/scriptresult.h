@@ -12,15 +12,25 @@ namespace Corvex::Scripting {
 struct ScriptLocation {
   QString file;
   int line = 0;
+  /// The text of that line, without the blanks around it.
+  QString sourceLine;
 
   /// "file:line", or the file alone; empty without a file.
   CORVEXSCRIPTING_EXPORT QString text() const;
 };
 
+/// Where in the scripts something happened: the innermost call first, then its caller, and so on.
+using ScriptTrace = std::vector<ScriptLocation>;
+
+/// "lib.js:3, called from test.js:7"
+CORVEXSCRIPTING_EXPORT QString traceText(const ScriptTrace& trace);
+/// A line for each location, with the text that stands there. Of a long trace the middle is left out.
+CORVEXSCRIPTING_EXPORT QStringList traceLines(const ScriptTrace& trace);
+
 /// A check of a script that did not hold.
 struct FailedCheck {
   QString text;
-  ScriptLocation location;
+  ScriptTrace trace;
 };
 
 /// What came of one script.
@@ -29,10 +39,8 @@ struct ScriptResult {
   QString path;
   /// Why the script stopped before its end; empty when it did not.
   QString error;
-  /// Where it stopped.
-  ScriptLocation location;
-  /// The text of that line, without the blanks around it.
-  QString sourceLine;
+  /// Where it stopped; never empty after an error.
+  ScriptTrace trace;
   int checksPassed = 0;
   std::vector<FailedCheck> failedChecks;
   qint64 durationMs = 0;

@@ -2,13 +2,13 @@
 
 #include <QDebug>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QSaveFile>
 
 #include "shared/environment.h"
 #include "shared/stringconv.h"
+#include "shared/textfile.h"
 
 namespace Corvex {
 
@@ -53,16 +53,22 @@ QString Settings::normalizeKey(const QString& key) {
 }
 
 void Settings::parse() {
-  QFile file(m_fileName);
+  const QFileInfo file(m_fileName);
   if (!file.exists()) {
     return;
   }
-  if (!file.open(QIODevice::ReadOnly)) {
-    qWarning("Corvex::Settings::parse: could not open file `%s' for reading", qUtf8Printable(m_fileName));
+  const FunctionCallResult<QString> text = readTextFile(m_fileName);
+  if (text.failed()) {
+    m_unreadable = true;
+    if (file.isFile() && file.isReadable()) {
+      qWarning("Corvex::Settings::parse: in file %s: %s", qUtf8Printable(m_fileName), qUtf8Printable(text.error));
+    } else {
+      qWarning("Corvex::Settings::parse: could not open file `%s' for reading", qUtf8Printable(m_fileName));
+    }
     return;
   }
   QString group;
-  const auto lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+  const auto lines = text.value.split(QLatin1Char('\n'));
   for (const QString& line : lines) {
     parseLine(line.trimmed(), group);
   }
@@ -249,7 +255,8 @@ void Settings::flush() {
   }
   QSaveFile file(m_fileName);
   file.setDirectWriteFallback(true);
-  if (!file.open(QIODevice::WriteOnly)) {
+  // What could not be read would be lost.
+  if ((m_unreadable && QFileInfo(m_fileName).isFile()) || !file.open(QIODevice::WriteOnly)) {
     qWarning("Corvex::Settings::flush: could not open file `%s' for writing", qUtf8Printable(m_fileName));
     return;
   }

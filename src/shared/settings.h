@@ -77,6 +77,7 @@ private:
   QMap<QString, Entries> m_groups;
   QString m_fileName;
   bool m_dirty = false;
+  bool m_unreadable = false;
   bool m_expandEnvironment = false;
 };
 

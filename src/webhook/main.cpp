@@ -1,4 +1,5 @@
 #include "webhook/cli/commandline.h"
+#include "webhook/cli/output.h"
 #include "webhook/process/cleanup.h"
 
 #include <QCoreApplication>
@@ -16,10 +17,12 @@ void setDefaultPrefix() {
 }  // namespace
 
 int main(int argc, char** argv) {
+  Corvex::Webhook::holdClosedStreams();
   Corvex::Webhook::Cleanup::install();
   QCoreApplication application(argc, argv);
   QCoreApplication::setApplicationName(QStringLiteral("corvexweb"));
   QCoreApplication::setApplicationVersion(QStringLiteral(CORVEX_VERSION));
+  Corvex::Webhook::makeLogVisible();
   setDefaultPrefix();
   return Corvex::Webhook::runCommandLine(QCoreApplication::arguments());
 }

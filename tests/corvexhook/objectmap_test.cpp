@@ -57,4 +57,7 @@ TEST_F(ObjectMapTest, ABrokenLineIsNamedAndChangesNothing) {
   }
   EXPECT_EQ(m_map.load(text("/nonexistent/objects.map")),
             text("Cannot read the object map '/nonexistent/objects.map': No such file or directory."));
+  EXPECT_EQ(load(QByteArray(":A\t{a='1'}\n:B\t{b='\0'}\n", 22)),
+            text("Cannot read the object map '%1': line 2 holds a NUL character.").arg(path()));
+  EXPECT_EQ(m_map.size(), 1);
 }

@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include "support/files.h"
 #include "support/printing.h"
 
 using namespace Corvex;
@@ -10,36 +15,57 @@ namespace {
 
 QString text(const char* utf8) { return QString::fromUtf8(utf8); }
 
-}  // namespace
-
-TEST(ObjectName, ReadsPropertiesWithTheirModes) {
-  const ObjectName name(text("{tagName='A' img_src?='*p.png'\ttitle~='x|y' container={id='{host}' n='\\''}}"));
-  EXPECT_EQ(name.parseError(), QString());
-  EXPECT_TRUE(name.isMultiProperty());
-  EXPECT_EQ(name.properties().keys(),
-            QStringList({text("container"), text("img_src"), text("tagName"), text("title")}));
-  EXPECT_EQ(name.property(text("tagName")).value(), text("A"));
-  EXPECT_EQ(name.property(text("tagName")).modifiers(), PropertyValue::StrictMatch);
-  EXPECT_EQ(name.property(text("img_src")).modifiers(), PropertyValue::Wildcard);
-  EXPECT_EQ(name.property(text("title")).modifiers(), PropertyValue::RegExp);
-  EXPECT_EQ(name.property(text("container")).type(), PropertyValue::NestedName);
-  EXPECT_EQ(name.property(text("container")).value(), text("{id='{host}' n='\\''}"));
-  EXPECT_EQ(name.property(text("none")).value(), QString());
-  EXPECT_FALSE(name.hasProperty(text("none")));
+/// The cases that the page's parser of names is tested with, too.
+QJsonArray grammarCases() {
+  return QJsonDocument::fromJson(TestSupport::readFile(QStringLiteral(CORVEX_TEST_SOURCE "/names/grammar_cases.json")))
+      .array();
 }
 
-TEST(ObjectName, RoundTrips) {
-  for (const char* name : {"{}", "{z='1' a='2' m='3'}", "{a~='x' b?='y*' c='z'}", "{a='it\\'s' b='C:\\\\dir\\\\'}",
-                           "{a='' b='{not} nested'}", "{container={container={a='}'} b='2'} c='\xc3\xbc & &amp;'}",
-                           "DOCUMENT.HTML1.BODY1", "[Window]", ":Symbolic", ""}) {
-    const ObjectName parsed(text(name));
-    EXPECT_EQ(parsed.parseError(), QString()) << name;
-    EXPECT_EQ(parsed.qualifiedName(), text(name));
+PropertyValue::Modifiers modifiersOf(const QString& op) {
+  return op == text("~=")   ? PropertyValue::RegExp
+         : op == text("?=") ? PropertyValue::Wildcard
+                            : PropertyValue::StrictMatch;
+}
+
+/// properties: a list of name, operator, and a text or, for a nested name, such a list.
+void expectProperties(const ObjectName& name, const QJsonArray& properties) {
+  EXPECT_EQ(name.properties().size(), properties.size());
+  for (const QJsonValue& expected : properties) {
+    const QJsonArray row = expected.toArray();
+    const PropertyValue value = name.property(row.at(0).toString());
+    EXPECT_EQ(value.modifiers(), modifiersOf(row.at(1).toString()));
+    EXPECT_EQ(value.type() == PropertyValue::NestedName, row.at(2).isArray());
+    if (row.at(2).isArray()) {
+      expectProperties(ObjectName(value.value()), row.at(2).toArray());
+    } else {
+      EXPECT_EQ(value.value(), row.at(2).toString());
+    }
   }
+}
+
+}  // namespace
+
+TEST(ObjectName, ReadsAndWritesNamesOrSaysWhatIsWrongAndWhere) {
+  ASSERT_GT(grammarCases().size(), 20);
+  for (const QJsonValue& one : grammarCases()) {
+    const QJsonObject row = one.toObject();
+    const QString given = row[text("name")].toString();
+    SCOPED_TRACE(given.toStdString());
+    const ObjectName name(given);
+    EXPECT_EQ(name.parseError(), row[text("error")].toString());
+    EXPECT_EQ(name.isMultiProperty(), !row[text("plain")].toBool());
+    EXPECT_EQ(name.qualifiedName(), row[text("text")].toString(given));
+    expectProperties(name, row[text("properties")].toArray());
+  }
+}
+
+TEST(ObjectName, WritesWhatItReads) {
   const QString odd = text("\\' {}=~?\n\"");
   ObjectName built(text("{}"));
   built.setProperty(text("a"), PropertyValue(odd));
   EXPECT_EQ(ObjectName(built.qualifiedName()).property(text("a")).value(), odd);
+  EXPECT_FALSE(built.hasProperty(text("none")));
+  EXPECT_EQ(built.property(text("none")).value(), QString());
 }
 
 TEST(ObjectName, ChangesKeepTheOrder) {
@@ -49,33 +75,20 @@ TEST(ObjectName, ChangesKeepTheOrder) {
   name.removeProperty(text("c"));
   name.removeProperty(text("none"));
   EXPECT_EQ(name.qualifiedName(), text("{a~='x' b='3' d={e='1'}}"));
-  EXPECT_EQ(ObjectName(text("{a='1' b='2' a='3'}")).qualifiedName(), text("{a='3' b='2'}"));
 }
 
-TEST(ObjectName, SaysWhatIsWrongAndWhere) {
-  const struct {
-    const char* name;
-    const char* error;
-  } cases[] = {
-      {"{a='b'", "the closing brace is missing at position 7"},
-      {"{a%2='b' c%1}", "one of the operators =, ~= or ?= is missing behind the property 'c%1' at position 13"},
-      {"{a='b'} x", "there is text behind the closing brace at position 9"},
-      {"{='b'}", "a property name is missing at position 2"},
-      {"{a}", "one of the operators =, ~= or ?= is missing behind the property 'a' at position 3"},
-      {"{a b='c'}", "one of the operators =, ~= or ?= is missing behind the property 'a' at position 3"},
-      {"{a~'b'}", "one of the operators =, ~= or ?= is missing behind the property 'a' at position 3"},
-      {"{a=b}", "the value of the property 'a' is not in single quotes at position 4"},
-      {"{a=", "the value of the property 'a' is not in single quotes at position 4"},
-      {"{a='b}", "the closing quote of the property 'a' is missing at position 7"},
-      {"{a='b\\'}", "the closing quote of the property 'a' is missing at position 9"},
-      {"{a={b='c'}", "the closing brace is missing at position 11"},
-      {"{a={b='c'", "the closing brace of the property 'a' is missing at position 10"},
-      {"{a={b=c}}", "in the value of 'a': the value of the property 'b' is not in single quotes at position 4"},
+TEST(ObjectName, IsBoundedInDepthAndLength) {
+  const auto nested = [](int levels) {
+    return text("{a='1' container=").repeated(levels - 1) + text("{b='2'}") + text("}").repeated(levels - 1);
   };
-  for (const auto& one : cases) {
-    const ObjectName name(text(one.name));
-    EXPECT_EQ(name.parseError(), text(one.error)) << one.name;
-    EXPECT_EQ(name.qualifiedName(), text(one.name));
-    EXPECT_TRUE(name.properties().isEmpty());
-  }
+  EXPECT_EQ(ObjectName(nested(100)).parseError(), QString());
+  EXPECT_TRUE(ObjectName(nested(101)).parseError().endsWith(text("names are nested more than 100 deep")));
+  EXPECT_LT(ObjectName(nested(20000)).parseError().size(), 200);
+  EXPECT_LT(ObjectName(text("{a=").repeated(300000)).parseError().size(), 200);
+  EXPECT_EQ(ObjectName(text("{") + text("a='' ").repeated(1001) + text("}")).parseError(),
+            text("a name has at most 1000 properties"));
+  const QString filler(999980, QLatin1Char('{'));
+  EXPECT_EQ(ObjectName(text("{a='") + filler + text("'}")).parseError(), QString());
+  EXPECT_EQ(ObjectName(text("{a='") + filler + filler + text("'}")).parseError(),
+            text("it has more than 1000000 characters"));
 }

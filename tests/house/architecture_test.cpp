@@ -23,6 +23,10 @@ const Room rooms[] = {
     {"tracelib", "shared"},
     {"corvexhook", "shared tracelib"},
     {"scripting", "corvexhook"},
+    {"scripting/report", "scripting"},
+    {"scripting/objects", "scripting"},
+    {"scripting/functions", "scripting/objects"},
+    {"scripting/engine", "scripting/functions"},
     {"wrappers/common", "corvexhook"},
     {"wrappers/web", ""},  // the export macro alone
     {"wrappers/web/page", "wrappers/web corvexhook"},
@@ -57,7 +61,7 @@ const Room rooms[] = {
     {"webhook/inspect", "webhook/pages"},
     {"webhook/recorder", "webhook/pages"},
     {"webhook/run", "webhook/pages scripting"},
-    {"webhook/cli", "webhook/backends webhook/inspect webhook/recorder webhook/run"},
+    {"webhook/cli", "webhook/backends webhook/inspect webhook/recorder webhook/run scripting/report scripting/engine"},
     {"webhook", "webhook/cli"},
 };
 

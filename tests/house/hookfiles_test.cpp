@@ -58,10 +58,22 @@ TEST(HookFiles, FragmentsStandInTheOrderOfTheirNumbers) {
   EXPECT_EQ(numbered, sorted);
 }
 
+// What the second line says is checked by the linter, see cmake/hookneeds.js.
 TEST(HookFiles, EveryFileOpensWithWhatItGivesAndNeeds) {
   for (const QString& file : hookFiles()) {
     const QStringList lines = textOf(file).split(QLatin1Char('\n'));
-    EXPECT_TRUE(lines.value(0).startsWith(QStringLiteral("//")) && lines.value(1).startsWith(QStringLiteral("//")))
+    EXPECT_TRUE(lines.value(0).startsWith(QStringLiteral("// Gives: ")) && lines.value(0).endsWith(QLatin1Char('.')))
         << file.toStdString();
+    EXPECT_TRUE(lines.value(1).startsWith(QStringLiteral("// Needs: "))) << file.toStdString();
+  }
+}
+
+// So that they sort as they count, and leave room between them.
+TEST(HookFiles, FilesInFoldersAreNumberedInTens) {
+  const QRegularExpression numbered(QStringLiteral("/[0-9]{2}0_[a-z]+\\.js$"));
+  for (const QString& file : hookFiles()) {
+    if (file.mid(hookFolder.size()).contains(QLatin1Char('/'))) {
+      EXPECT_TRUE(numbered.match(file).hasMatch()) << file.toStdString();
+    }
   }
 }

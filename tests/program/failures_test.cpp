@@ -43,7 +43,7 @@ TEST_P(FailingScript, EndsWithASentence) {
 const Failure failures[] = {
     {"NoBrowser", "findObject('x');", "No browser is running. Call startBrowser(url) first.", 1},
     {"MalformedName", "startBrowser('page.html');\nfindObject(\"{tagName='A' text}\");",
-     "Invalid object name '{tagName='A' text}': one of the operators =, ~= or ?= is missing behind the property 'text'",
+     "Invalid object name '{tagName='A' text}': one of the operators =, ~= or ?= is missing after the property 'text'",
      1},
     {"SymbolicName", "startBrowser('page.html');\nfindObject(':Login');",
      "The symbolic name ':Login' is not in the object map.", 1},
@@ -55,6 +55,8 @@ const Failure failures[] = {
      "'/no/such.file': there is no such file", 1},
     {"NoServer", "startBrowser('http://127.0.0.1:1/');", "http://127.0.0.1:1/", 1},
     {"PageNeverAnswers", "startBrowser('stuck.html');", "stuck.html", 1},
+    {"NoName", "startBrowser('page.html');\nsetFrameContext(null);",
+     "setFrameContext got null for argument number 1. Use it as setFrameContext(path).", 1},
     {"ClosedWindow", "startBrowser('page.html');\ncloseWindow();\nfindObject('x');", "The browser window is closed.",
      1},
     {"SyntaxError", "startBrowser('page.html'\n", "test.js:", 1},
@@ -84,9 +86,8 @@ TEST(BrowserFailure, NothingListensWhereToAttach) {
 
 TEST(BrowserFailure, AKilledBrowserEndsTheScriptAndLeavesNothing) {
   ProgramRun program;
-  program.write(
-      QStringLiteral("test.js"),
-      QStringLiteral("startBrowser('about:blank');\ntest.log('started');\npause(50);\ntest.log('reached');"));
+  program.write(QStringLiteral("test.js"),
+                QStringLiteral("startBrowser('about:blank');\ntest.log('started');\npause(50);\ntest.log('reached');"));
   program.start({QStringLiteral("run"), QStringLiteral("test.js")});
   ASSERT_TRUE(program.waitForOutput(QStringLiteral("started")));
   const QList<qint64> processes = program.browserProcesses();
@@ -116,19 +117,6 @@ TEST_P(Signals, EndTheProgramInAnEndlessScriptAndLeaveNothing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Program, Signals, testing::Values(SIGINT, SIGTERM));
-
-TEST(ExtensionScripts, TheOneToBlameIsNamed) {
-  ProgramRun program;
-  program.write(QStringLiteral("lib/extensions/web/a.js"), QStringLiteral("Corvex.addTypeOfHook(function () {});"));
-  program.write(QStringLiteral("lib/extensions/web/b.js"), QStringLiteral("noSuchFunction();"));
-  program.setEnvironment(QStringLiteral("CORVEX_PREFIX"), program.folder());
-  program.write(QStringLiteral("test.js"), QStringLiteral("startBrowser('about:blank');"));
-  const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("test.js")});
-  EXPECT_EQ(result.exitCode, 3);
-  EXPECT_TRUE(result.output.contains(QLatin1String("b.js' failed: ReferenceError: noSuchFunction is not defined")))
-      << qPrintable(result.output);
-  EXPECT_FALSE(result.output.contains(QLatin1String("a.js' failed")));
-}
 
 TEST(StuckPage, IsToldFromASlowServer) {
   TestSupport::TestServer server;

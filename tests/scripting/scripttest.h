@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 
 #include "fakemodel.h"
-#include "scripting/scriptengine.h"
+#include "scripting/engine/scriptengine.h"
 #include "support/fakeclock.h"
 #include "support/files.h"
 #include "support/printing.h"
@@ -17,10 +17,10 @@ class RecordingListener : public Corvex::Scripting::ScriptListener {
 public:
   void step(const QString& text, qint64) override { lines << QStringLiteral("step ") + text; }
   void objectCall(const QString& text, qint64) override { objectCalls << text; }
-  void check(bool passed, const QString& text, const Corvex::Scripting::ScriptLocation& location) override {
+  void check(bool passed, const QString& text, const Corvex::Scripting::ScriptTrace& trace) override {
     lines << QStringLiteral("%1 %2 line %3")
                  .arg(passed ? QStringLiteral("passed") : QStringLiteral("failed"), text,
-                      QString::number(location.line));
+                      QString::number(trace.front().line));
   }
   void log(const QString& text) override { lines << QStringLiteral("log ") + text; }
 
@@ -47,8 +47,9 @@ protected:
   /// The error of a script, and the number of its line: "3: text".
   QString errorOf(const QByteArray& content) {
     const Corvex::Scripting::ScriptResult result = run(content);
-    return result.error.isEmpty() ? QString()
-                                  : QStringLiteral("%1: %2").arg(QString::number(result.location.line), result.error);
+    return result.error.isEmpty()
+               ? QString()
+               : QStringLiteral("%1: %2").arg(QString::number(result.trace.front().line), result.error);
   }
 
   TestSupport::FakeClock clock;

@@ -83,6 +83,21 @@ TEST_F(SettingsTest, MissingFileIsSilentAndAnUnreadableOneIsNot) {
       QStringList(text("Corvex::Settings::parse: could not open file `%1' for reading").arg(path("directory.ini"))));
 }
 
+TEST_F(SettingsTest, AFileThatIsNoTextIsReportedAndKept) {
+  const QByteArray content = "[General]\nA = \"\xe9\"\n";
+  const QString file = write(content);
+  const MessageCapture capture;
+  {
+    Settings settings(file);
+    EXPECT_TRUE(settings.groupList().isEmpty());
+    settings.writeEntry(general, text("B"), 1);
+  }
+  EXPECT_EQ(capture.messages(),
+            QStringList({text("Corvex::Settings::parse: in file %1: line 2 is no UTF-8 text").arg(file),
+                         text("Corvex::Settings::flush: could not open file `%1' for writing").arg(file)}));
+  EXPECT_EQ(TestSupport::readFile(file), content);
+}
+
 TEST_F(SettingsTest, ReadsBooleans) {
   const struct {
     const char* raw;

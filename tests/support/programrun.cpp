@@ -30,16 +30,19 @@ QString ProgramRun::write(const QString& name, const QString& text) {
   return path;
 }
 
-void ProgramRun::start(const QStringList& arguments) {
+QStringList ProgramRun::withBrowser(const QStringList& arguments) const {
   const QString browser = m_environment.value(QStringLiteral("CORVEX_TEST_BROWSER"));
-  QStringList whole = arguments;
   const QStringList browserCommands = {QStringLiteral("run"), QStringLiteral("names"), QStringLiteral("tree")};
   if (browserCommands.contains(arguments.value(0)) && !browser.isEmpty() &&
       !arguments.contains(QStringLiteral("--browser"))) {
-    whole = QStringList{arguments.first(), QStringLiteral("--browser"), browser} + arguments.mid(1);
+    return QStringList{arguments.first(), QStringLiteral("--browser"), browser} + arguments.mid(1);
   }
+  return arguments;
+}
+
+void ProgramRun::start(const QStringList& arguments) {
   m_process.setProcessEnvironment(m_environment);
-  m_process.start(QStringLiteral(CORVEX_PROGRAM), whole);
+  m_process.start(QStringLiteral(CORVEX_PROGRAM), withBrowser(arguments));
 }
 
 void ProgramRun::serveUntil(const std::function<bool()>& isDone) {
@@ -85,6 +88,13 @@ ProgramResult ProgramRun::finish() {
 
 ProgramResult ProgramRun::run(const QStringList& arguments) {
   start(arguments);
+  return finish();
+}
+
+ProgramResult ProgramRun::runInShell(const QString& line, const QStringList& arguments) {
+  m_process.setProcessEnvironment(m_environment);
+  const QStringList shell = {QStringLiteral("-c"), line, QStringLiteral("sh"), QStringLiteral(CORVEX_PROGRAM)};
+  m_process.start(QStringLiteral("/bin/sh"), shell + withBrowser(arguments));
   return finish();
 }
 

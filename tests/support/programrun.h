@@ -34,6 +34,8 @@ public:
   bool waitUntil(const std::function<bool()>& condition);
   ProgramResult finish();
   ProgramResult run(const QStringList& arguments);
+  /// Lets a shell run this line, in which `"$@"` stands for the program and its arguments.
+  ProgramResult runInShell(const QString& line, const QStringList& arguments);
 
   qint64 processId() const { return m_process.processId(); }
   /// Files and folders that the program left in its temporary folder.
@@ -42,6 +44,7 @@ public:
   QList<qint64> browserProcesses() const;
 
 private:
+  QStringList withBrowser(const QStringList& arguments) const;
   void serveUntil(const std::function<bool()>& isDone);
   bool hasEnded() const { return m_process.state() == QProcess::NotRunning; }
 

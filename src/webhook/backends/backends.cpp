@@ -16,9 +16,9 @@ struct BackEnd {
 // The first one that fits is taken.
 const BackEnd backEnds[] = {
     {[](const SessionOptions& options) { return !options.remoteUrl.isEmpty(); }, BidiSession::startRemote},
-    {[](const SessionOptions& options) { return !options.attachTo.isEmpty(); }, DevToolsSession::start},
+    {[](const SessionOptions& options) { return !options.attachTo.isEmpty(); }, DevToolsSession::attach},
     {[](const SessionOptions& options) { return Firefox::isMeant(options.browser); }, BidiSession::startFirefox},
-    {[](const SessionOptions&) { return true; }, DevToolsSession::start},
+    {[](const SessionOptions&) { return true; }, DevToolsSession::startChromium},
 };
 
 }  // namespace

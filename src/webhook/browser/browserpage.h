@@ -56,8 +56,9 @@ public:
 
   virtual QString url() const = 0;
 
-  /// Whether the page could be asked something now: it is there, did not crash, and shows no dialog.
-  virtual bool isAvailable() const = 0;
+  /// Why the page cannot be asked anything now: it is closed, crashed, or shows a dialog. "" when it can.
+  virtual QString whyUnavailable() const = 0;
+  bool isAvailable() const { return whyUnavailable().isEmpty(); }
 
   /// Whether the page is there at all. A closed page stays a valid object until its session goes.
   virtual bool isOpen() const = 0;

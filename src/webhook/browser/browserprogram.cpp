@@ -1,11 +1,7 @@
 #include "webhook/browser/browserprogram.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
-
-#include <algorithm>
 
 namespace Corvex::Webhook::BrowserProgram {
 
@@ -48,26 +44,6 @@ FunctionCallResult<QString> find(const Family& family, const QString& wanted) {
                          "path of %4.")
               .arg(family.word.left(1).toUpper() + family.word.mid(1), family.package, family.variable,
                    family.description)};
-}
-
-QString markName() { return QStringLiteral("CORVEX_BROWSER_DIRECTORY"); }
-
-QString outputFile(const QString& directory) { return directory + QStringLiteral("/output.log"); }
-
-QString lastWords(const QString& directory) {
-  QFile file(outputFile(directory));
-  if (!file.open(QIODevice::ReadOnly)) {
-    return {};
-  }
-  constexpr qint64 tail = 2000;
-  file.seek(std::max<qint64>(0, file.size() - tail));
-  return QString::fromLocal8Bit(file.readAll()).simplified().right(300);
-}
-
-QString noRoom() {
-  return QStringLiteral(
-             "No room for the browser's profile in '%1'. Make room there, or set TMPDIR to another directory.")
-      .arg(QDir::tempPath());
 }
 
 }  // namespace Corvex::Webhook::BrowserProgram

@@ -1,5 +1,7 @@
 #include "webhook/browser/pageerrors.h"
 
+#include <QFileInfo>
+
 namespace Corvex::Webhook::PageErrors {
 
 namespace {
@@ -54,7 +56,14 @@ QString browserLost(const QString& reason) {
   return QStringLiteral("The browser was lost: %1. Start it again.").arg(reason);
 }
 
+QString endedEarly(const QString& reason, const QString& explanation) {
+  const QString sentence = QStringLiteral("The browser ended before it was ready: %1.").arg(reason);
+  return explanation.isEmpty() ? sentence : sentence + QLatin1Char(' ') + explanation;
+}
+
 QString pageClosed() { return QStringLiteral("The page was closed in the browser. Open it again."); }
+
+QString pageNotReported() { return QStringLiteral("The browser opened a page but did not report it. Try again."); }
 
 QString pageCrashed() { return QStringLiteral("The page crashed in the browser. Load it again."); }
 
@@ -87,8 +96,13 @@ QString notLoadedWithin(const QString& url, int milliseconds) {
       .arg(url, QString::number(milliseconds));
 }
 
-QString noSuchFile(const QString& path) {
-  return QStringLiteral("The file '%1' does not exist or cannot be read. Correct the path.").arg(path);
+QString whyNotUpload(const QString& path) {
+  const QFileInfo file(path);
+  const QString why = !file.exists()       ? QStringLiteral("there is no such file. Give a path that exists.")
+                      : !file.isFile()     ? QStringLiteral("it is no file. Give the path of a file.")
+                      : !file.isReadable() ? QStringLiteral("it cannot be read. Allow this user to read it.")
+                                           : QString();
+  return why.isEmpty() ? why : QStringLiteral("Cannot choose the file '%1': ").arg(path) + why;
 }
 
 QString noFileInput(const QString& referenceExpression) {

@@ -9,7 +9,11 @@
 namespace Corvex::Webhook::PageErrors {
 
 QString browserLost(const QString& reason);
+/// Before it could be driven. `explanation` is what else is known, in sentences, or "".
+QString endedEarly(const QString& reason, const QString& explanation);
 QString pageClosed();
+/// The browser opened one that it did not tell of.
+QString pageNotReported();
 QString pageCrashed();
 QString pageReplaced();
 QString noAnswerWithin(int milliseconds);
@@ -21,7 +25,8 @@ QString refused(const QString& browsersWords);
 QString notLoaded(const QString& url, const QString& errorCode);
 QString notLoadedWithin(const QString& url, int milliseconds);
 
-QString noSuchFile(const QString& path);
+/// Why a file of this machine cannot be given to a page, "" when it can.
+QString whyNotUpload(const QString& path);
 QString noFileInput(const QString& referenceExpression);
 /// `paths` are those of another machine.
 QString filesRefused(const QStringList& paths, const QString& browsersWords);

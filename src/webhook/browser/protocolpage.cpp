@@ -4,6 +4,7 @@
 #include "webhook/browser/counted.h"
 #include "webhook/browser/pageerrors.h"
 
+#include <QFileInfo>
 #include <algorithm>
 
 namespace Corvex::Webhook {
@@ -58,6 +59,23 @@ QString ProtocolPage::navigate(const QString& url, int timeoutMs) {
     return loading->error();
   }
   return reply.status == Reply::Refused ? PageErrors::notLoaded(url, reply.error) : call.errorOf(reply);
+}
+
+QString ProtocolPage::setFiles(const QString& referenceExpression, const QStringList& paths) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return obstacle;
+  }
+  QStringList fullPaths;
+  for (const QString& path : paths) {
+    const QString why = takesFilesOfThisMachine() ? PageErrors::whyNotUpload(path) : QString();
+    if (!why.isEmpty()) {
+      return why;
+    }
+    fullPaths.append(takesFilesOfThisMachine() ? QFileInfo(path).absoluteFilePath() : path);
+  }
+  PageCall call = makeCall(0);
+  return putFiles(call, referenceExpression, fullPaths);
 }
 
 QString ProtocolPage::answerDialog(bool accept, const QString& text) {

@@ -20,11 +20,12 @@ public:
   ~ProtocolPage() override;
 
   QString navigate(const QString& url, int timeoutMs) override;
+  QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
   std::optional<Dialog> openDialog() const override { return m_dialog; }
   QString answerDialog(bool accept, const QString& text) override;
   QString close() override;
   QString url() const override { return m_url; }
-  bool isAvailable() const override { return whyUnavailable().isEmpty(); }
+  QString whyUnavailable() const override;
   bool isOpen() const override { return m_whyClosed.isEmpty(); }
 
   /// The page is gone: ends what is open in it and tells so. `sentence` is what later calls answer.
@@ -40,14 +41,15 @@ protected:
   virtual Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) = 0;
   /// The load that was asked for took too long.
   virtual void stopLoading() = 0;
+  /// Otherwise the paths are those of the browser's machine, and only the browser can look at them.
+  virtual bool takesFilesOfThisMachine() const { return true; }
+  virtual QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) = 0;
   virtual Command dialogAnswer(bool accept, const QString& text) const = 0;
   virtual Command closing() const = 0;
   virtual void prepareClosing(PageCall&) {}
   virtual void endOpenCalls(const QString& error);
 
   PageCall makeCall(int timeoutMs) const;
-  /// Why the page cannot be asked anything now, or "".
-  QString whyUnavailable() const;
   QString whyClosed() const { return m_whyClosed; }
   std::shared_ptr<Request> start(const Command& command);
   Channel& channel() const { return m_channel; }

@@ -24,6 +24,17 @@ const QCommandLineOption timeoutOption(
     QStringLiteral("How long a page may take to load or answer, and waitForObject waits: 20 at first."),
     QStringLiteral("seconds"), QStringLiteral("20"));
 
+struct OptionWithAddress {
+  const QCommandLineOption* option;
+  const char* meaning;
+  const char* example;
+};
+
+const OptionWithAddress optionsWithAddress[] = {
+    {&remoteOption, "a WebDriver server", "http://127.0.0.1:4444"},
+    {&attachOption, "a running browser's debugging socket", "ws://127.0.0.1:9222/devtools/browser/1234"},
+};
+
 }  // namespace
 
 void addBrowserOptions(QCommandLineParser& parser) {
@@ -34,6 +45,12 @@ QString readBrowserOptions(const QCommandLineParser& parser, SessionOptions* opt
   const QString error = readSeconds(parser, timeoutOption, &options->defaultTimeoutMs);
   if (!error.isEmpty()) {
     return error;
+  }
+  for (const OptionWithAddress& row : optionsWithAddress) {
+    if (parser.isSet(*row.option) && parser.value(*row.option).isEmpty()) {
+      return QStringLiteral("--%1 needs the address of %2, such as %3.")
+          .arg(row.option->names().constLast(), QLatin1String(row.meaning), QLatin1String(row.example));
+    }
   }
   options->browser = parser.value(browserOption);
   options->attachTo = parser.value(attachOption);

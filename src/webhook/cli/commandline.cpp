@@ -39,12 +39,10 @@ QString usage() {
 int runCommandLine(const QStringList& arguments) {
   const QString name = arguments.value(1);
   if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
-    printOut(usage());
-    return ExitCode::Success;
+    return printOut(usage(), ExitCode::Success);
   }
   if (name == QLatin1String("--version")) {
-    printOut(QStringLiteral("corvexweb %1\n").arg(QCoreApplication::applicationVersion()));
-    return ExitCode::Success;
+    return printOut(QStringLiteral("corvexweb %1\n").arg(QCoreApplication::applicationVersion()), ExitCode::Success);
   }
   for (const Command& command : commands) {
     if (name == QLatin1String(command.name)) {

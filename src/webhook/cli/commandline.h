@@ -8,7 +8,7 @@ namespace Corvex::Webhook {
 namespace ExitCode {
 enum Value {
   Success = 0,
-  ScriptFailed = 1,
+  Failed = 1,  ///< A script failed, a page could not be looked at, or the results could not be written.
   WrongUsage = 2,
   BrowserFailed = 3,  ///< The browser could not be started, or was lost.
 };

@@ -14,8 +14,8 @@ std::optional<int> parseOptions(QCommandLineParser& parser, const QStringList& a
   }
   if (parser.isSet(help)) {
     // Qt names the program alone in its usage line.
-    printOut(parser.helpText().replace(QLatin1String("[options]"), command + QLatin1String(" [options]")));
-    return ExitCode::Success;
+    const QString text = parser.helpText().replace(QLatin1String("[options]"), command + QLatin1String(" [options]"));
+    return printOut(text, ExitCode::Success);
   }
   return std::nullopt;
 }

@@ -20,9 +20,9 @@ int hookScriptCommand(const QStringList& arguments) {
   if (!parser.positionalArguments().isEmpty()) {
     return wrongUsage(arguments.value(0), QStringLiteral("It takes no arguments."));
   }
-  printOut(parser.isSet(prelude) ? WebWrapper::getCorvexJsNamespaceInitCode()
-                                 : WebWrapper::getJSCode(WebWrapper::FileSystemBasedConfig()));
-  return ExitCode::Success;
+  return printOut(parser.isSet(prelude) ? WebWrapper::getCorvexJsNamespaceInitCode()
+                                        : WebWrapper::getJSCode(WebWrapper::FileSystemBasedConfig()),
+                  ExitCode::Success);
 }
 
 }  // namespace Corvex::Webhook

@@ -39,8 +39,8 @@ int namesCommand(const QStringList& arguments) {
     return command.fail(QStringLiteral("The elements of the page could not be read: %1").arg(check.error));
   }
   const NamesListed listed = command.parser().isSet(allOption) ? NamesListed::All : NamesListed::NotFoundOnes;
-  printOut(command.parser().isSet(jsonOption) ? namesReportAsJson(check, listed) : namesReport(check, listed));
-  return namesAreGood(check) ? ExitCode::Success : ExitCode::ScriptFailed;
+  return printOut(command.parser().isSet(jsonOption) ? namesReportAsJson(check, listed) : namesReport(check, listed),
+                  namesAreGood(check) ? ExitCode::Success : ExitCode::Failed);
 }
 
 }  // namespace Corvex::Webhook

@@ -2,18 +2,25 @@
 
 #include <QString>
 
-#include <cstdio>
+#include <system_error>
 
 namespace Corvex::Webhook {
 
-inline void printTo(std::FILE* stream, const QString& text) {
-  const QByteArray utf8 = text.toUtf8();
-  std::fwrite(utf8.constData(), 1, static_cast<std::size_t>(utf8.size()), stream);
-  std::fflush(stream);
-}
+/// Prints what a command was asked for, as it is. Answers `exitCode`; when the output cannot be written, that is a
+/// failure, which it complains about unless somebody only stopped reading.
+int printOut(const QString& text, int exitCode);
 
-inline void printOut(const QString& text) { printTo(stdout, text); }
+/// What `printOut` does after such an error.
+int outputFailed(const std::error_code& error, int exitCode);
 
-inline void printError(const QString& text) { printTo(stderr, text); }
+/// Prints sentences for the user to standard error, made visible.
+void printError(const QString& text);
+
+/// Has files that are opened later not take the places of standard streams that are closed, so that what is written to
+/// these fails. To be called first of all.
+void holdClosedStreams();
+
+/// From now on what is logged goes to standard error and is made visible: it may quote pages and browsers.
+void makeLogVisible();
 
 }  // namespace Corvex::Webhook

@@ -95,7 +95,7 @@ bool PageCommand::dismissDialogs() {
 
 int PageCommand::fail(const QString& sentence) const {
   printError(QStringLiteral("corvexweb %1: %2\n").arg(m_command, sentence));
-  return m_browser->hadBrowserFailure() ? ExitCode::BrowserFailed : ExitCode::ScriptFailed;
+  return m_browser->hadBrowserFailure() ? ExitCode::BrowserFailed : ExitCode::Failed;
 }
 
 }  // namespace Corvex::Webhook

@@ -2,9 +2,9 @@
 
 #include "corvexhook/inspector.h"
 #include "corvexhook/objectmap.h"
-#include "scripting/consolereporter.h"
-#include "scripting/junitreporter.h"
-#include "scripting/scriptengine.h"
+#include "scripting/engine/scriptengine.h"
+#include "scripting/report/consolereporter.h"
+#include "scripting/report/junitreporter.h"
 #include "webhook/cli/browseroptions.h"
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
@@ -74,24 +74,28 @@ int runScripts(const RunOptions& options) {
     listeners.add(&junit);
   }
   Inspector::self()->setDefaultTimeout(options.session.defaultTimeoutMs);
-  const RunSummary summary = ScriptEngine(browserFunctions(browser), &listeners).run(options.scripts);
+  ScriptEngine engine(browserFunctions(browser), &listeners);
+  // Nobody would see what the rest does.
+  console.setOutputEnd([&engine] { engine.interrupt(); });
+  const RunSummary summary = engine.run(options.scripts);
   if (!junit.error().isEmpty()) {
     printError(QStringLiteral("corvexweb run: %1\n").arg(junit.error()));
   }
-  if (browser.hadBrowserFailure()) {
-    return ExitCode::BrowserFailed;
-  }
-  return summary.failed() > 0 || !junit.error().isEmpty() ? ExitCode::ScriptFailed : ExitCode::Success;
+  const bool failed = summary.failed() > 0 || !junit.error().isEmpty();
+  const int exitCode = browser.hadBrowserFailure() ? ExitCode::BrowserFailed
+                       : failed                    ? ExitCode::Failed
+                                                   : ExitCode::Success;
+  return console.error() ? outputFailed(console.error(), exitCode) : exitCode;
 }
 
 }  // namespace
 
 int runScriptsCommand(const QStringList& arguments) {
   QCommandLineParser parser;
-  parser.setApplicationDescription(QStringLiteral(
-      "Runs test scripts in a browser, one behind the other, each in a browser of its own.\n\n"
-      "Exit code: 0 all passed, 1 a script failed, 2 wrong usage, 3 the browser could not be started or\n"
-      "was lost."));
+  parser.setApplicationDescription(
+      QStringLiteral("Runs test scripts in a browser, one after the other, each in a browser of its own.\n\n"
+                     "Exit code: 0 all passed, 1 a script failed or the results could not be written, 2 wrong usage,\n"
+                     "3 the browser could not be started or was lost."));
   addBrowserOptions(parser);
   parser.addOptions({junitOption, objectMapOption, verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."), QStringLiteral("The scripts, in JavaScript."));

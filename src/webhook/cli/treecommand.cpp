@@ -61,9 +61,10 @@ int treeCommand(const QStringList& arguments) {
                                                        "Use --wait to let it come to rest first.")
                                       : why);
   }
-  printOut(command.parser().isSet(jsonOption) ? treeAsJson(tree, command.page().page()->url(), depth)
-                                              : treeAsText(tree));
-  return tree.error.isEmpty() ? ExitCode::Success : command.fail(tree.error);
+  const int exitCode = printOut(
+      command.parser().isSet(jsonOption) ? treeAsJson(tree, command.page().page()->url(), depth) : treeAsText(tree),
+      ExitCode::Success);
+  return tree.error.isEmpty() ? exitCode : command.fail(tree.error);
 }
 
 }  // namespace Corvex::Webhook

@@ -38,7 +38,7 @@ bool MessageEndpoint::start(QString* error) {
 
 void MessageEndpoint::stop() { m_server->stop(); }
 
-quint16 MessageEndpoint::port() const { return m_server->port(); }
+QString MessageEndpoint::place() const { return QString::fromLatin1(m_server->place()); }
 
 void MessageEndpoint::setAllowedOrigins(const QStringList& origins) { m_server->policy().setAllowedOrigins(origins); }
 
@@ -54,6 +54,7 @@ void MessageEndpoint::deliver() {
   while (self && !m_ready.empty()) {
     const PageMessage message = m_ready.front();
     m_ready.pop_front();
+    m_server->messages().noteDelivered(message);
     Q_EMIT messageReceived(message);
   }
 }

@@ -15,8 +15,8 @@ namespace Corvex::Webhook {
 class EndpointServer;
 
 /// Where pages send what they have to say: an HTTP endpoint on the loopback interface, for the pages that are hooked
-/// and for nobody else. It belongs to the driver's thread and answers on one of its own, so that a page gets its reply
-/// also while the driver's thread is busy.
+/// and for nobody else: they know its secret. It belongs to the driver's thread and answers on one of its own, so that
+/// a page gets its reply also while the driver's thread is busy.
 ///
 /// A message that a page was told had arrived is delivered: by the event loop of the driver's thread, or by deliver().
 /// That holds for messages from before stop() too, as long as this object lives.
@@ -34,8 +34,9 @@ public:
   /// Ends the waits that are open with an empty reply, and listens no more. Takes half a second at most.
   void stop();
 
-  /// 0 as long as it was not started.
-  quint16 port() const;
+  /// What stands behind "http://127.0.0.1:" in the address of a message, before "/?": a port, and a secret that only
+  /// the pages of this run are told. "" as long as it was not started.
+  QString place() const;
 
   /// Replaces the origins of the documents that are let in, as originOf() writes them. May be called from any thread,
   /// and counts for the requests that come after it.

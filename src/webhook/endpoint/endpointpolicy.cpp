@@ -11,7 +11,7 @@ const RefusalRow refusalRows[] = {
     {Refusal::Host, 403, "host", "it is addressed to %1; use the address that the endpoint was given."},
     {Refusal::Origin, 403, "origin", "it comes from %1, which is no hooked document; hook the page before it sends."},
     {Refusal::Method, 403, "method", "its method is %1; send it by GET or POST."},
-    {Refusal::Path, 403, "path", "its target is %1; put the message behind \"/?\"."},
+    {Refusal::Path, 403, "path", "its target is %1; send it to the path that hooked documents are told."},
     {Refusal::Size, 413, "size", "its body is too large or of no stated size (%1); send it in smaller parts."},
     {Refusal::Busy, 503, "busy", "%1; send it again later."},
     {Refusal::Malformed, 400, "malformed", "%1; send one whole HTTP request at a time."},
@@ -94,8 +94,8 @@ bool EndpointPolicy::isAllowed(const QByteArray& origin) const {
   return m_origins.contains(origin);
 }
 
-Verdict EndpointPolicy::judge(const RequestHead& head, const QByteArray& ownHost, qint64 bodyLimit) const {
-  if (head.hosts != QByteArrayList{ownHost}) {
+Verdict EndpointPolicy::judge(const RequestHead& head, const OwnAddress& own, qint64 bodyLimit) const {
+  if (head.hosts != QByteArrayList{own.host}) {
     return refused(Refusal::Host, head.hosts);
   }
 
@@ -112,7 +112,7 @@ Verdict EndpointPolicy::judge(const RequestHead& head, const QByteArray& ownHost
   if (head.method != "GET" && head.method != "POST" && head.method != "OPTIONS") {
     return refused(Refusal::Method, {head.method}, origin);
   }
-  if (!head.target.startsWith("/?")) {
+  if (!head.target.startsWith(own.path + '?')) {
     return refused(Refusal::Path, {head.target}, origin);
   }
   if (isTooLarge(head, bodyLimit)) {

@@ -17,7 +17,7 @@ enum class Refusal {
   Host,       ///< Not addressed to the endpoint itself, as after a name was made to point to this machine.
   Origin,     ///< Not from a hooked document.
   Method,     ///< Neither GET nor POST, nor a browser's question before one of these.
-  Path,       ///< Not "/?" and a message.
+  Path,       ///< Not the endpoint's own path, "?" and a message.
   Size,       ///< A body that is too large, or does not say how large it is.
   Busy,       ///< Too many requests in flight, or messages not taken.
   Malformed,  ///< No whole request in the time given. Gets whatever reply the HTTP library has for it, or none.
@@ -37,7 +37,7 @@ const RefusalRow& rowOf(Refusal refusal);
 /// as a request that repeats it is refused.
 struct RequestHead {
   QByteArray method;
-  QByteArray target;  ///< As sent: "/?" and the rest, nothing decoded.
+  QByteArray target;  ///< As sent: a path, "?" and the rest, nothing decoded.
   QByteArrayList hosts = {};
   QByteArrayList origins = {};
   QByteArrayList referers = {};
@@ -56,6 +56,12 @@ struct Verdict {
 /// what is no URL.
 QString originOf(const QString& url);
 
+/// What a request has to name to be meant for the endpoint.
+struct OwnAddress {
+  QByteArray host;  ///< With the port.
+  QByteArray path;  ///< "/secret/".
+};
+
 /// Lets in the requests of the hooked documents and nothing else. May be asked and changed from any thread.
 class EndpointPolicy {
 public:
@@ -63,9 +69,9 @@ public:
   /// each page that has no origin of its own: files, data: URLs, and sandboxed frames of any site.
   void setAllowedOrigins(const QStringList& origins);
 
-  /// `ownHost` is the endpoint's address and port. Without an `Origin`, which browsers leave out of a GET that no
-  /// script may read, the origin of the `Referer` counts.
-  Verdict judge(const RequestHead& head, const QByteArray& ownHost, qint64 bodyLimit) const;
+  /// Without an `Origin`, which browsers leave out of a GET that no script may read, the origin of the `Referer`
+  /// counts.
+  Verdict judge(const RequestHead& head, const OwnAddress& own, qint64 bodyLimit) const;
 
 private:
   bool isAllowed(const QByteArray& origin) const;

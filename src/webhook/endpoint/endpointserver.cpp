@@ -11,7 +11,9 @@
 #include <sys/eventfd.h>
 #include <sys/socket.h>
 
+#include <QRandomGenerator>
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <utility>
@@ -24,6 +26,7 @@ constexpr int loggedTargetLength = 100;
 
 constexpr int flushTime = 500;
 constexpr std::size_t connectionMemory = 128 * 1024;
+constexpr int roomForTheDropped = 64;  // until the library has seen that they are gone
 
 sockaddr_in loopbackAddress() {
   sockaddr_in address = {};
@@ -46,6 +49,13 @@ void blockSignals() {
   pthread_sigmask(SIG_BLOCK, &all, nullptr);
 }
 
+/// 128 bits that nobody can guess.
+QByteArray newSecret() {
+  std::array<quint32, 4> words;
+  QRandomGenerator::system()->fillRange(words.data(), qsizetype(words.size()));
+  return QByteArray(reinterpret_cast<const char*>(words.data()), sizeof words).toHex();
+}
+
 int pollTime(const QDeadlineTimer& deadline) {
   const qint64 remaining = deadline.remainingTime();
   return remaining < 0 ? -1 : int(std::min<qint64>(remaining + 1, 60 * 60 * 1000));
@@ -64,6 +74,8 @@ struct EndpointServer::Exchange {
   QByteArray origin = {};
   QByteArray body = {};
   bool inFlight = false;
+  bool knowsSecret = false;
+  bool dropped = false;
   quint64 waitId = 0;
   std::list<Exchange>::iterator place = {};
 };
@@ -81,12 +93,12 @@ bool EndpointServer::start(QString* error) {
   m_wakeHandle = FileDescriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
   errno = 0;
   m_daemon = MHD_start_daemon(MHD_USE_EPOLL | MHD_ALLOW_SUSPEND_RESUME, 0, nullptr, nullptr, &handle, this,
-                              MHD_OPTION_SOCK_ADDR, &address,                                           //
-                              MHD_OPTION_CONNECTION_LIMIT, unsigned(m_limits.connections),              //
-                              MHD_OPTION_CONNECTION_MEMORY_LIMIT, connectionMemory,                     //
-                              MHD_OPTION_URI_LOG_CALLBACK, &noteTarget, static_cast<void*>(this),       //
-                              MHD_OPTION_NOTIFY_COMPLETED, &noteCompleted, static_cast<void*>(this),    //
-                              MHD_OPTION_NOTIFY_CONNECTION, &noteConnection, static_cast<void*>(this),  //
+                              MHD_OPTION_SOCK_ADDR, &address,                                                   //
+                              MHD_OPTION_CONNECTION_LIMIT, unsigned(m_limits.connections + roomForTheDropped),  //
+                              MHD_OPTION_CONNECTION_MEMORY_LIMIT, connectionMemory,                             //
+                              MHD_OPTION_URI_LOG_CALLBACK, &noteTarget, static_cast<void*>(this),               //
+                              MHD_OPTION_NOTIFY_COMPLETED, &noteCompleted, static_cast<void*>(this),            //
+                              MHD_OPTION_NOTIFY_CONNECTION, &noteConnection, static_cast<void*>(this),          //
                               MHD_OPTION_SIGPIPE_HANDLED_BY_APP, 1, MHD_OPTION_END);
   if (!m_daemon || !m_wakeHandle.isValid()) {
     *error = QString::fromLocal8Bit(std::strerror(errno));
@@ -97,8 +109,10 @@ bool EndpointServer::start(QString* error) {
     return false;
   }
   m_pollHandle = MHD_get_daemon_info(m_daemon, MHD_DAEMON_INFO_EPOLL_FD)->epoll_fd;
-  m_port = MHD_get_daemon_info(m_daemon, MHD_DAEMON_INFO_BIND_PORT)->port;
-  m_ownHost = "127.0.0.1:" + QByteArray::number(m_port);
+  const QByteArray port = QByteArray::number(MHD_get_daemon_info(m_daemon, MHD_DAEMON_INFO_BIND_PORT)->port);
+  const QByteArray secret = newSecret();
+  m_place = port + '/' + secret;
+  m_own = {"127.0.0.1:" + port, '/' + secret + '/'};
   m_stopping = false;
   m_thread = std::thread([this] { run(); });
   return true;
@@ -199,10 +213,33 @@ void EndpointServer::setStage(Exchange& exchange, Stage stage) {
 void EndpointServer::dropLateConnections() {
   for (Exchange& exchange : m_exchanges) {
     if (exchange.deadline.hasExpired()) {
-      ::shutdown(exchange.socket, SHUT_RDWR);
-      exchange.deadline = QDeadlineTimer(QDeadlineTimer::Forever);
+      drop(exchange);
     }
   }
+}
+
+void EndpointServer::makeRoom() {
+  const auto count =
+      std::count_if(m_exchanges.begin(), m_exchanges.end(), [](const Exchange& exchange) { return !exchange.dropped; });
+  if (count <= m_limits.connections) {
+    return;
+  }
+  const auto oldest = [this](bool knowsSecret) {
+    return std::find_if(m_exchanges.begin(), m_exchanges.end(), [knowsSecret](const Exchange& exchange) {
+      return !exchange.dropped && !exchange.inFlight && exchange.knowsSecret == knowsSecret;
+    });
+  };
+  const auto stranger = oldest(false);
+  const auto victim = stranger == m_exchanges.end() ? oldest(true) : stranger;
+  if (victim != m_exchanges.end()) {
+    drop(*victim);
+  }
+}
+
+void EndpointServer::drop(Exchange& exchange) {
+  ::shutdown(exchange.socket, SHUT_RDWR);
+  exchange.dropped = true;
+  exchange.deadline = QDeadlineTimer(QDeadlineTimer::Forever);
 }
 
 void EndpointServer::endWaits() {
@@ -249,6 +286,7 @@ void EndpointServer::open(MHD_Connection* connection, void** context) {
   exchange.place = std::prev(m_exchanges.end());
   setStage(exchange, Stage::New);
   *context = &exchange;
+  makeRoom();
 }
 
 void EndpointServer::closed(const Exchange& exchange) {
@@ -256,7 +294,7 @@ void EndpointServer::closed(const Exchange& exchange) {
   if (unread || exchange.stage == Stage::Reading) {
     noteMalformed(QStringLiteral("it could not be read, or not in time"));
   }
-  m_hasRoomAgain = m_hasRoomAgain || m_exchanges.size() >= std::size_t(m_limits.connections);
+  m_hasRoomAgain = m_hasRoomAgain || m_exchanges.size() >= std::size_t(m_limits.connections) + roomForTheDropped;
   m_exchanges.erase(exchange.place);
 }
 
@@ -289,7 +327,9 @@ QString EndpointServer::noteRefusal(const Verdict& verdict, const QByteArray& ta
   const RefusalRow& row = rowOf(verdict.refusal);
   const QString sentence = QString::fromLatin1(row.sentence).arg(verdict.detail);
   m_refused.count(verdict.refusal);
-  qCWarning(webhookLog, "The endpoint refused '%s': %s", target.left(loggedTargetLength).constData(),
+  QByteArray shownTarget = target;
+  shownTarget.replace(m_own.path, "/...secret.../");
+  qCWarning(webhookLog, "The endpoint refused '%s': %s", shownTarget.left(loggedTargetLength).constData(),
             qUtf8Printable(sentence));
   return sentence;
 }
@@ -321,7 +361,7 @@ MHD_Result EndpointServer::handle(void* self, MHD_Connection* connection, const 
 MHD_Result EndpointServer::begin(Exchange& exchange, const char* method) {
   exchange.method = method;
   const RequestHead head = headOf(exchange.connection, method, exchange.target);
-  Verdict verdict = m_policy.judge(head, m_ownHost, m_limits.body);
+  Verdict verdict = m_policy.judge(head, m_own, m_limits.body);
   exchange.origin = verdict.origin;
   if (verdict.refusal == Refusal::None && m_inFlight >= m_limits.requests) {
     verdict = {Refusal::Busy, QStringLiteral("%1 requests are in flight").arg(m_inFlight), verdict.origin};
@@ -329,6 +369,7 @@ MHD_Result EndpointServer::begin(Exchange& exchange, const char* method) {
   if (verdict.refusal != Refusal::None) {
     return refuse(exchange, verdict);
   }
+  exchange.knowsSecret = true;
   exchange.inFlight = true;
   ++m_inFlight;
   return MHD_YES;
@@ -340,7 +381,7 @@ MHD_Result EndpointServer::finish(Exchange& exchange) {
     return sendPreflightReply(exchange.connection, exchange.origin);
   }
   const QByteArray body = exchange.method == "POST" ? exchange.body : QByteArray();
-  return take(exchange, PageMessage::fromRequest(exchange.target.mid(int(std::strlen("/?"))), body));
+  return take(exchange, PageMessage::fromRequest(exchange.target.mid(m_own.path.size() + 1), body));
 }
 
 MHD_Result EndpointServer::take(Exchange& exchange, PageMessage message) {

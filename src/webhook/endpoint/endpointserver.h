@@ -17,6 +17,9 @@ namespace Corvex::Webhook {
 
 /// The HTTP side of the endpoint, on a thread of its own: reads requests, judges them, puts their messages into a
 /// queue, and replies. The functions given to it are called on that thread.
+///
+/// A connection that has not yet brought a request that was let in is anybody's. When there are too many, the oldest of
+/// those goes, so that no number of them keeps a page waiting.
 class EndpointServer {
 public:
   struct Receiver {
@@ -35,7 +38,7 @@ public:
   /// Ends all waits, sends the replies that are due, and closes. The messages stay in the queue.
   void stop();
 
-  quint16 port() const { return m_port; }
+  QByteArray place() const { return m_place; }
   quint64 accepted() const { return m_accepted; }
   QMap<QString, quint64> refused() const { return m_refused.byName(); }
 
@@ -63,10 +66,11 @@ private:
   MHD_Result finish(Exchange& exchange);
   MHD_Result take(Exchange& exchange, PageMessage message);
   MHD_Result refuse(Exchange& exchange, const Verdict& verdict);
-  MHD_Result replyPreflight(Exchange& exchange);
   void endWaits();
   void noteClientGone(Exchange& exchange);
   void dropLateConnections();
+  void makeRoom();
+  static void drop(Exchange& exchange);
   QString noteRefusal(const Verdict& verdict, const QByteArray& target);
   void noteMalformed(const QString& what);
   void setStage(Exchange& exchange, Stage stage);
@@ -89,8 +93,8 @@ private:
   MHD_Daemon* m_daemon = nullptr;
   int m_pollHandle = -1;
   FileDescriptor m_wakeHandle;
-  quint16 m_port = 0;
-  QByteArray m_ownHost;
+  QByteArray m_place;
+  OwnAddress m_own;
   std::thread m_thread;
 
   // Of the server's thread alone.

@@ -8,7 +8,7 @@
 namespace Corvex::Webhook {
 
 MessageQueue::Taken MessageQueue::put(const PageMessage& message) {
-  const qint64 bytes = qint64(message.text().size()) * qint64(sizeof(QChar));
+  const qint64 bytes = message.bytes();
   const std::lock_guard<std::mutex> lock(m_mutex);
   if (m_bytes + bytes > m_limit) {
     return Taken::No;
@@ -21,8 +21,12 @@ MessageQueue::Taken MessageQueue::put(const PageMessage& message) {
 
 std::deque<PageMessage> MessageQueue::takeAll() {
   const std::lock_guard<std::mutex> lock(m_mutex);
-  m_bytes = 0;
   return std::exchange(m_messages, {});
+}
+
+void MessageQueue::noteDelivered(const PageMessage& message) {
+  const std::lock_guard<std::mutex> lock(m_mutex);
+  m_bytes -= message.bytes();
 }
 
 void sortByStamp(std::deque<PageMessage>& messages) {

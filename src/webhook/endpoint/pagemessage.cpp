@@ -41,7 +41,7 @@ std::optional<qint64> number(const QString& text) {
 MessageItem itemFrom(const QString& part) {
   const int equals = part.indexOf(u'=');
   const QString raw = part.mid(equals + 1);
-  return {equals < 0 ? part : part.left(equals), raw, unescaped(raw)};
+  return {equals < 0 ? part : part.left(equals), raw, raw.contains(u'%') ? unescaped(raw) : raw};
 }
 
 }  // namespace
@@ -194,6 +194,14 @@ QVector<PageMessage> PageMessage::fromSessionQueue(const QString& json, QString*
     }
   }
   return result;
+}
+
+qint64 PageMessage::bytes() const {
+  qint64 units = m_text.size();
+  for (const MessageItem& item : m_items) {
+    units += item.key.size() + item.raw.size() + (item.value.isSharedWith(item.raw) ? 0 : item.value.size());
+  }
+  return units * qint64(sizeof(QChar)) + m_items.size() * qint64(sizeof(MessageItem));
 }
 
 QString PageMessage::value(const QString& key) const {

@@ -53,6 +53,9 @@ public:
   /// The decoded value of the last item of that key, or a null text.
   QString value(const QString& key) const;
 
+  /// What it takes of the memory, about.
+  qint64 bytes() const;
+
   /// Whether a page stands still until it gets a reply.
   bool wantsReply() const { return m_kind == MessageKind::WaitForConfirm || m_kind == MessageKind::WaitForPrompt; }
 

@@ -1,7 +1,7 @@
 #include "webhook/inspect/names.h"
 
 #include "webhook/inspect/namesroads.h"
-#include "webhook/pages/inpagetext.h"
+#include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/page/escaping.h"
 #include "wrappers/web/page/htmlcomponent.h"
 

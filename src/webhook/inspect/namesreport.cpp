@@ -1,5 +1,7 @@
 #include "webhook/inspect/namesreport.h"
 
+#include "shared/visibletext.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -78,7 +80,7 @@ QString lineOf(const NamedElement& element) {
     line += QStringLiteral("  %1").arg(element.why);
     line += element.other.isEmpty() ? QString() : QStringLiteral("; found: %1").arg(element.other);
   }
-  return line.replace(QLatin1Char('\n'), QLatin1Char(' ')) + QLatin1Char('\n');
+  return visibleText(line, LineBreaks::Shown) + QLatin1Char('\n');
 }
 
 double percentage(int part, int whole) { return whole == 0 ? 0 : 100.0 * part / whole; }
@@ -158,7 +160,7 @@ QString namesReportAsJson(const NamesCheck& check, NamesListed listed) {
                            {QStringLiteral("summary"), summary},
                            {QStringLiteral("namingMilliseconds"), check.namingMs},
                            {QStringLiteral("searchMilliseconds"), check.searchMs}};
-  return QString::fromUtf8(QJsonDocument(report).toJson());
+  return visibleText(QString::fromUtf8(QJsonDocument(report).toJson()));
 }
 
 bool namesAreGood(const NamesCheck& check) { return count(check.elements, NameOutcome::Lost) == 0; }

@@ -5,6 +5,7 @@
 #include "shared/functioncallresult.h"
 #include "webhook/pages/connection.h"
 #include "webhook/pages/contexts.h"
+#include "wrappers/web/lookup/itemchildren.h"
 #include "wrappers/web/lookup/webobjectdelegate.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 #include "wrappers/web/page/escaping.h"
@@ -12,7 +13,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <iterator>
 #include <set>
 #include <vector>
 
@@ -38,17 +38,7 @@ const char* const askInPage = R"JS(__corvex__whilePageStays(function () {
 const char* const nameInPage = "return escape(__corvex__nameOf(object));";
 
 const char* const hasChildrenInPage =
-    "return !!(object.qx_Widget || __corvexDOMAPI.firstChild(object) || __corvex__node.shadowRoot(object));";
-
-// Objects of these classes have no other children than those that the page knows.
-const char* const plainClasses[] = {"HTML_Object", "HTML_Anchor", "HTML_Button", "HTML_CheckableButton",
-                                    "HTML_Image",  "HTML_Option", "HTML_Text"};
-
-bool isPlain(const Object& object) {
-  const QString name = object.objectClass()->name();
-  return std::any_of(std::begin(plainClasses), std::end(plainClasses),
-                     [&name](const char* plain) { return name == QLatin1String(plain); });
-}
+    "return !!(object.qx_Widget || __corvexDOMAPI.firstChild(object) || __corvex__nodeReader.shadowRoot(object));";
 
 /// Undoes the page's `escape`, and nothing more.
 QString textOfLine(const QString& line) {
@@ -105,7 +95,7 @@ std::set<std::size_t> childless(Connection& page, const Items& found, std::size_
   std::vector<std::size_t> places;
   ObjectList objects;
   for (std::size_t i = begin; i < end; ++i) {
-    if (isPlain(*found[i].object)) {
+    if (!WebWrapper::hasItems(*WebWrapper::retrieveObject(found[i].object))) {
       places.push_back(i);
       objects.push_back(found[i].object);
     }

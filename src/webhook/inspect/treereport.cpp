@@ -1,5 +1,7 @@
 #include "webhook/inspect/treereport.h"
 
+#include "shared/visibletext.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -8,22 +10,7 @@ namespace Corvex::Webhook {
 
 namespace {
 
-/// Texts of pages may hold line breaks, and what steers a terminal.
-QString onOneLine(const QString& text) {
-  QString line;
-  for (const QChar c : text) {
-    if (c == QLatin1Char('\n')) {
-      line += QLatin1String("\\n");
-    } else if (c == QLatin1Char('\t')) {
-      line += QLatin1String("\\t");
-    } else if (c.category() == QChar::Other_Control) {
-      line += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
-    } else {
-      line += c;
-    }
-  }
-  return line;
-}
+QString onOneLine(const QString& text) { return visibleText(text, LineBreaks::Shown); }
 
 /// Makes the nodes from `*place` on that are at this depth, each with what is below it, and moves `*place` behind them.
 QJsonArray siblings(const QVector<TreeNode>& nodes, int depth, std::optional<int> maxDepth, int* place) {
@@ -60,7 +47,7 @@ QString treeAsJson(const PageTree& tree, const QString& url, std::optional<int> 
   int place = 0;
   const QJsonObject whole{{QStringLiteral("url"), url},
                           {QStringLiteral("documents"), siblings(tree.nodes, 0, maxDepth, &place)}};
-  return QString::fromUtf8(QJsonDocument(whole).toJson());
+  return visibleText(QString::fromUtf8(QJsonDocument(whole).toJson()));
 }
 
 }  // namespace Corvex::Webhook

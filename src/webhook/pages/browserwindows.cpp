@@ -26,7 +26,7 @@ BrowserIdentity identify(const BrowserSession& session) {
 }  // namespace
 
 BrowserWindows::BrowserWindows(BrowserSession& session, const WebWrapper::WrapperConfig& config, WebModel& model,
-                               int messagePort)
+                               const QString& messagePort)
     : m_session(session), m_config(config), m_model(model), m_identity(identify(session)) {
   m_identity.messagePort = messagePort;
 }

@@ -20,9 +20,9 @@ class BrowserWindows : public QObject {
 
 public:
   /// All three outlive this object.
-  /// Pages send their messages to `messagePort`; with 0 they keep them in the queue of their session.
+  /// Pages send their messages to `messagePort`; with "" they keep them in the queue of their session.
   BrowserWindows(BrowserSession& session, const WebWrapper::WrapperConfig& config, WebModel& model,
-                 int messagePort = 0);
+                 const QString& messagePort = {});
   ~BrowserWindows() override;
 
   /// For a browser whose protocol answers no dialogs; before `open`.

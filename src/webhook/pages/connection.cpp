@@ -3,11 +3,10 @@
 #include "shared/wait.h"
 #include "webhook/browser/pageerrors.h"
 #include "webhook/pages/extensioncheck.h"
+#include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/elements/html_text.h"
 #include "wrappers/web/page/escaping.h"
 #include "wrappers/web/widgets/widgetclasses.h"
-
-#include <QFileInfo>
 
 namespace Corvex::Webhook {
 
@@ -25,29 +24,17 @@ const BrowserKindRow browserKinds[] = {
     {BrowserIdentity::Chromium, 4},
 };
 
-// Such pages answer questions while their scripts stand still, but their timers stand still, too.
-const char* const beginWaiting =
-    "!!window.__corvex && (__corvex__later(function () { __corvex.scriptsWait = false; }, 0), __corvex.scriptsWait = "
-    "true)";
-const char* const isStillWaiting = "!!window.__corvex && __corvex.scriptsWait";
 const int scriptsTimeoutMs = 2000;
 const int scriptsIntervalMs = 5;
 
-/// What code needs to be safe in a page that is not ours; all other code goes as it is, to the global scope.
-///
-/// What a page made of its JSON would spoil the answers that are written with it. And a reference into the store of one
-/// document may name anything in the next one, which can be there before the browser tells of it.
+/// What code needs to be safe in a page that is not ours. The page may have replaced what answers are written with; and
+/// a reference into one document may name anything in the next one, which can be there before the browser tells of it.
 QString guarded(const QString& code, int document) {
-  QString text = code;
-  if (code.contains(QLatin1String("JSON."))) {
-    text = QStringLiteral("{ let JSON = window.__corvex && window.__corvex.JSON || window.JSON;\n%1\n}").arg(text);
-  }
-  if (code.contains(QLatin1String("__corvex__globalObjectRefStore["))) {
-    text = QStringLiteral("if ((window.__corvex || {}).documentNumber !== %1) throw new Error('%2');\n")
-               .arg(QString::number(document), PageErrors::pageReplaced()) +
-           text;
-  }
-  return text;
+  static const QString frame = [] {
+    QString text = inPageText("guard.js");
+    return text.mid(text.indexOf(QLatin1Char('{'))).replace(QLatin1String("/*%3*/"), QLatin1String("\n%3\n"));
+  }();
+  return frame.arg(QString::number(document), PageErrors::pageReplaced(), code);
 }
 
 QString closedPage() { return QStringLiteral("The browser window is closed. Call startBrowser(url) to open another."); }
@@ -79,12 +66,17 @@ QString Connection::greetDocument() {
           "(window.__corvex__browsertabid = '%1', window.__corvex.documentNumber = %2, true) : false")
           .arg(m_tabId)
           .arg(++m_document);
-  WebWrapper::JavaScriptAnswer answer = ask(greeting, 0);
+  JavaScriptAnswer answer = ask(greeting, 0);
   if (answer.succeeded() && answer.text != QLatin1String("true")) {
     answer = ask(hookText(*m_config, m_browser), 0);
     if (answer.failed) {
       m_greeted = false;
-      return extensionError(*this, answer.text);
+      return extensionError(
+          [this](const QString& code) {
+            const JavaScriptAnswer alone = ask(code, 0);
+            return alone.failed ? alone.text : QString();
+          },
+          answer.text);
     }
     answer = ask(greeting, 0);
   }
@@ -139,15 +131,13 @@ QString Connection::answerDialog(bool accept, const QString& text) {
 }
 
 void Connection::awaitScripts() {
-  const auto isTrue = [this](const char* code) {
-    return m_page && m_page->evaluate(QLatin1String(code), scriptsTimeoutMs).text == QLatin1String("true");
+  const auto goesOn = [this] {
+    return !m_page || m_page->evaluate(inPageText("scriptswait.js"), scriptsTimeoutMs).text != QLatin1String("true");
   };
-  if (isTrue(beginWaiting)) {
-    poll(scriptsTimeoutMs, scriptsIntervalMs, [&isTrue] { return !isTrue(isStillWaiting); });
-  }
+  poll(scriptsTimeoutMs, scriptsIntervalMs, goesOn);
 }
 
-WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigned int timeoutMs) {
+JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigned int timeoutMs) {
   if (!m_greeted) {
     // Whether it worked shows in what the code itself gives.
     greetDocument();
@@ -155,7 +145,17 @@ WebWrapper::JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigne
   return ask(guarded(code, m_document), timeoutMs);
 }
 
-WebWrapper::JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {
+JavaScriptAnswer Connection::evaluateInAnyDocument(const QString& code, unsigned int timeoutMs) {
+  const JavaScriptAnswer answer = evaluateJS(code, timeoutMs);
+  if (!answer.failed || !answer.text.contains(PageErrors::pageReplaced())) {
+    return answer;
+  }
+  // The code did not run. The browser has yet to tell of the document that is there now.
+  m_greeted = false;
+  return evaluateJS(code, timeoutMs);
+}
+
+JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {
   const QString obstacle = m_whyNotAsk();
   if (!m_page) {
     return {closedPage(), false, true};
@@ -208,15 +208,7 @@ QString Connection::selectFileToUpload(WebWrapper::HTML_CustomText* field, const
 }
 
 QString Connection::upload(const QString& reference, const QString& path) {
-  const QFileInfo file(path);
-  // A browser on another machine looks for the file there.
-  if (m_browser.messagePort == 0) {
-    return m_page ? m_page->setFiles(reference, {path}) : closedPage();
-  }
-  if (!file.isFile()) {
-    return QStringLiteral("Cannot choose the file '%1': there is no such file. Give a path that exists.").arg(path);
-  }
-  return m_page ? m_page->setFiles(reference, {file.absoluteFilePath()}) : closedPage();
+  return m_page ? m_page->setFiles(reference, {path}) : closedPage();
 }
 
 }  // namespace Corvex::Webhook

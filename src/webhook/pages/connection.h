@@ -52,7 +52,8 @@ public:
   /// dialog.
   QString answerDialog(bool accept, const QString& text);
 
-  WebWrapper::JavaScriptAnswer evaluateJS(const QString& code, unsigned int timeoutMs) override;
+  JavaScriptAnswer evaluateJS(const QString& code, unsigned int timeoutMs) override;
+  JavaScriptAnswer evaluateInAnyDocument(const QString& code, unsigned int timeoutMs) override;
   int browserKind() override;
   bool isAvailable() override;
   const WebWrapper::WrapperConfig* config() override;
@@ -69,7 +70,7 @@ Q_SIGNALS:
   void navigating(const QString& url);
 
 private:
-  WebWrapper::JavaScriptAnswer ask(const QString& code, unsigned int timeoutMs);
+  JavaScriptAnswer ask(const QString& code, unsigned int timeoutMs);
   /// Makes a document that was not asked anything yet ready for questions. Answers why it is not, or an empty text.
   QString greetDocument();
   /// Waits until the page's scripts stand still no more.

@@ -1,29 +1,20 @@
 #include "webhook/pages/extensioncheck.h"
 
-#include "wrappers/web/page/htmlcomponent.h"
-
-#include <QDir>
-#include <QFile>
+#include "webhook/pages/globaldeclarations.h"
+#include "wrappers/web/setup/extensionscripts.h"
 
 namespace Corvex::Webhook {
 
-namespace {
-
-QString readText(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-}  // namespace
-
-QString extensionError(WebWrapper::HTMLComponent& component, const QString& error) {
-  const QDir folder(QString::fromLocal8Bit(qgetenv("CORVEX_PREFIX")) + QStringLiteral("/lib/extensions/web"));
-  for (const QString& name : folder.entryList({QStringLiteral("*.js")}, QDir::Files)) {
-    const QString path = folder.absoluteFilePath(name);
-    const WebWrapper::JavaScriptAnswer answer = component.evaluateJS(readText(path), 0);
-    if (answer.failed) {
-      return QStringLiteral("The extension script '%1' failed: %2. Mend it, or take it out of its folder.")
-          .arg(path, answer.text);
+QString extensionError(const std::function<QString(const QString& code)>& evaluate, const QString& error) {
+  // A text with a fault in its syntax keeps all others from running, so that is looked for first. Nothing is run for
+  // it.
+  for (const char* const code : {"if (false) {\n%1\n}", "%1"}) {
+    for (const WebWrapper::ExtensionScript& script : WebWrapper::extensionScripts()) {
+      const QString fault = evaluate(QString::fromLatin1(code).arg(withGlobalDeclarations(script.text)));
+      if (!fault.isEmpty()) {
+        return QStringLiteral("The extension script '%1' failed: %2. Mend it, or take it out of its folder.")
+            .arg(script.path, fault);
+      }
     }
   }
   return QStringLiteral("The hook script could not be evaluated in the page: %1").arg(error);

@@ -2,17 +2,12 @@
 
 #include <QString>
 
-namespace Corvex {
+#include <functional>
 
-namespace WebWrapper {
-class HTMLComponent;
-}
+namespace Corvex::Webhook {
 
-namespace Webhook {
+/// Why the hook script failed in a page: names the extension script that is to blame, if one is. `evaluate` gives the
+/// error of a text as the page evaluates it, empty when it has none; `error` is that of the whole hook script.
+QString extensionError(const std::function<QString(const QString& code)>& evaluate, const QString& error);
 
-/// Why the hook script could not be evaluated in a page: the sentence for `error`, which names the extension script
-/// that it comes from, found by evaluating each of them alone.
-QString extensionError(WebWrapper::HTMLComponent& component, const QString& error);
-
-}  // namespace Webhook
-}  // namespace Corvex
+}  // namespace Corvex::Webhook

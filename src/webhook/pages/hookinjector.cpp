@@ -1,6 +1,8 @@
 #include "webhook/pages/hookinjector.h"
 
-#include "webhook/pages/inpagetext.h"
+#include "webhook/pages/globaldeclarations.h"
+#include "webhook/protocol/inpagetext.h"
+#include "wrappers/web/setup/extensionscripts.h"
 #include "wrappers/web/setup/getjscode.h"
 #include "wrappers/web/setup/wrapperconfig.h"
 
@@ -70,8 +72,8 @@ QString globals(const WrapperConfig& config, const BrowserIdentity& browser) {
   if (config.hookNewWindows()) {
     text += assignment("window.__corvex__newwindowhook", QStringLiteral("true"));
   }
-  if (browser.messagePort != 0) {
-    text += assignment("window.__corvex__port", QString::number(browser.messagePort));
+  if (!browser.messagePort.isEmpty()) {
+    text += assignment("window.__corvex__port", QLatin1Char('"') + browser.messagePort + QLatin1Char('"'));
     text += assignment("window.__corvex__asynclog", QStringLiteral("true"));
   }
   const int scheme = config.supportSinglePropertyNaming() ? singlePropertyNames : propertyNames;
@@ -87,10 +89,18 @@ QString members(const WrapperConfig& config, const BrowserIdentity& browser) {
   for (const ConfigVariable& row : namespaceMembers) {
     text += assignment(row, config);
   }
-  if (browser.messagePort == 0) {
+  if (browser.messagePort.isEmpty()) {
     text += assignment("window.__corvex.useSessionStorageForEvents", QStringLiteral("true"));
   }
   return text;
+}
+
+QString hookScript(const WrapperConfig& config) {
+  QStringList extensions;
+  for (const WebWrapper::ExtensionScript& script : WebWrapper::extensionScripts()) {
+    extensions.append(withGlobalDeclarations(script.text));
+  }
+  return WebWrapper::getJSCode(config, extensions);
 }
 
 }  // namespace
@@ -100,7 +110,7 @@ QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
   return QStringLiteral(
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
-         members(config, browser) + inPageText("ownjson.js") + WebWrapper::getJSCode(config) + dialogs +
+         members(config, browser) + inPageText("ownjson.js") + hookScript(config) + dialogs +
          inPageText("fallback.js") + QStringLiteral("\n}");
 }
 

@@ -16,8 +16,8 @@ struct BrowserIdentity {
 
   Family family = Chromium;
   int majorVersion = 0;
-  /// Where pages send their messages; 0 leaves them in the queue of the session.
-  int messagePort = 0;
+  /// Where pages send their messages, see MessageEndpoint::place(); "" leaves them in the queue of the session.
+  QString messagePort;
   /// Whether dialogs open as the browser's own, which its protocol answers; otherwise pages swallow alerts, and wait
   /// for the answer to the others.
   bool opensNativeDialogs = true;

@@ -12,7 +12,6 @@ namespace {
 
 const int drainIntervalMs = 1000;
 const int drainTimeoutMs = 1000;
-const std::size_t recordedLimit = 100000;
 
 const char* const queueOfPage =
     "window.__corvex && window.__corvex.useSessionStorageForEvents === true ? "
@@ -43,7 +42,6 @@ void MessageDispatcher::dispatch(const PageMessage& message) {
       qCDebug(webhookLog) << "page:" << message.value(QStringLiteral("text"));
       break;
     case MessageKind::HighlightWidget:
-      keep(message);
       break;
     case MessageKind::Unknown:
       qCDebug(webhookLog) << "a page sent an unknown message:" << message.text().left(200);
@@ -58,15 +56,6 @@ void MessageDispatcher::takeLogEvent(const PageMessage& message) {
     Inspector::self()->addUnmatchedProperty(name, message.value(QStringLiteral("property")));
   } else if (event == QLatin1String("removeUnmatchedProperties")) {
     Inspector::self()->removeUnmatchedProperties(name);
-  } else {
-    keep(message);
-  }
-}
-
-void MessageDispatcher::keep(const PageMessage& message) {
-  m_recorded.push_back(message);
-  if (m_recorded.size() > recordedLimit) {
-    m_recorded.pop_front();
   }
 }
 

@@ -6,8 +6,6 @@
 #include <QObject>
 #include <QTimer>
 
-#include <deque>
-
 namespace Corvex::Webhook {
 
 class BrowserWindows;
@@ -15,7 +13,7 @@ class Connection;
 class Dialogs;
 
 /// Takes what pages say of their own accord, by whichever way it comes, to the one that it is for: dialogs, the
-/// framework's list of unmatched properties, the log, or the recorder.
+/// framework's list of unmatched properties, the log.
 class MessageDispatcher : public QObject {
   Q_OBJECT
 
@@ -24,13 +22,9 @@ public:
   /// session, which is read about once a second while events are served.
   MessageDispatcher(MessageEndpoint& endpoint, BrowserWindows& windows, Dialogs& dialogs);
 
-  /// What waits for the recorder, oldest first; of very many the oldest are dropped.
-  const std::deque<PageMessage>& recorded() const { return m_recorded; }
-
 private:
   void dispatch(const PageMessage& message);
   void takeLogEvent(const PageMessage& message);
-  void keep(const PageMessage& message);
   void drainQueues();
   void drain(Connection& connection);
   void letIn(const QString& url);
@@ -42,7 +36,6 @@ private:
   bool m_draining = false;
   // Those of documents that went away too: their last messages come behind the news of the next document.
   QStringList m_origins;
-  std::deque<PageMessage> m_recorded;
 };
 
 }  // namespace Corvex::Webhook

@@ -87,6 +87,7 @@ void placeDescriptors(Prepared& prepared) {
   sigset_t none;
   sigemptyset(&none);
   sigprocmask(SIG_SETMASK, &none, nullptr);
+  std::signal(SIGPIPE, SIG_DFL);
   redirectStandardStreams(prepared);
   placeDescriptors(prepared);
   execve(prepared.program.c_str(), prepared.arguments.data(), prepared.environment.data());

@@ -5,13 +5,12 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <filesystem>
 #include <map>
 #include <mutex>
-#include <set>
 #include <thread>
 #include <utility>
 
+#include "webhook/process/claimeddirectory.h"
 #include "webhook/process/processgroup.h"
 
 namespace Corvex::Webhook::Cleanup {
@@ -21,7 +20,7 @@ namespace {
 struct Notes {
   std::mutex mutex;
   std::map<pid_t, std::string> groups;
-  std::set<std::string> directories;
+  std::map<std::string, FileDescriptor> directories;  ///< With the claims to them.
 };
 
 Notes& notes() {
@@ -29,21 +28,11 @@ Notes& notes() {
   return *instance;
 }
 
-void removeTree(const std::string& path) {
-  std::error_code error;
-  for (int attempt = 0; attempt < 3; ++attempt) {
-    std::filesystem::remove_all(path, error);
-    if (!error) {
-      return;
-    }
-  }
-}
-
 void runLocked(Notes& all) {
   for (const auto& [group, mark] : all.groups) {
     killProcessGroup(group, mark);
   }
-  for (const std::string& directory : all.directories) {
+  for (const auto& [directory, claim] : all.directories) {
     removeTree(directory);
   }
   all.groups.clear();
@@ -73,6 +62,7 @@ void install() {
     sigaddset(&signals, signal);
   }
   pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+  std::signal(SIGPIPE, SIG_IGN);
   std::thread(serveSignals, signals).detach();
   std::atexit(run);
 }
@@ -101,20 +91,22 @@ void endProcessGroup(pid_t group) {
 std::string makeDirectory(const std::string& pathTemplate) {
   Notes& all = notes();
   std::lock_guard lock(all.mutex);
-  std::string path = pathTemplate;
-  if (!mkdtemp(path.data())) {
-    return {};
+  ClaimedDirectory made = makeClaimedDirectory(pathTemplate);
+  if (!made.path.empty()) {
+    all.directories[made.path] = std::move(made.claim);
   }
-  all.directories.insert(path);
-  return path;
+  return made.path;
 }
 
 void removeDirectory(const std::string& path) {
   Notes& all = notes();
   std::lock_guard lock(all.mutex);
-  if (all.directories.erase(path)) {
-    removeTree(path);
+  const auto found = all.directories.find(path);
+  if (found == all.directories.end()) {
+    return;
   }
+  removeTree(path);
+  all.directories.erase(found);
 }
 
 void run() {

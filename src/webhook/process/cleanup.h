@@ -11,7 +11,8 @@
 namespace Corvex::Webhook::Cleanup {
 
 /// Call first in main(), before any thread exists. From then on the three signals are taken by a thread of their own,
-/// which cleans up and ends the program with exit code 128 + signal.
+/// which cleans up and ends the program with exit code 128 + signal. A reader that goes away makes writing fail, and
+/// ends nothing.
 void install();
 
 /// Runs `start`, which forks a process that leads its own group, and notes the group that it returns (none if below 1).
@@ -22,7 +23,7 @@ pid_t noteProcessGroup(const std::string& mark, const std::function<pid_t()>& st
 /// Kills and reaps the group and what carries its mark, and forgets it.
 void endProcessGroup(pid_t group);
 
-/// Makes a directory for this user alone from a path that ends in "XXXXXX". Gives the path, or "" (errno says why).
+/// Makes a claimed directory from a path that ends in "XXXXXX". Gives the path, or "" (errno says why).
 std::string makeDirectory(const std::string& pathTemplate);
 
 /// Removes the directory with all that it holds, and forgets it.

@@ -45,6 +45,8 @@ std::vector<pid_t> processesWithMark(const std::string& mark) {
   return found;
 }
 
+Clock::time_point patience() { return Clock::now() + std::chrono::seconds(3); }
+
 void waitUntilGone(pid_t process, Clock::time_point end) {
   const auto isGone = [process] {
     waitpid(process, nullptr, WNOHANG);
@@ -60,7 +62,7 @@ void waitUntilGone(pid_t process, Clock::time_point end) {
 void adoptOrphans() { prctl(PR_SET_CHILD_SUBREAPER, 1); }
 
 void killProcessGroup(pid_t group, const std::string& mark) {
-  const Clock::time_point end = Clock::now() + std::chrono::seconds(3);
+  const Clock::time_point end = patience();
   const std::vector<pid_t> strays = processesWithMark(mark);
   kill(-group, SIGKILL);
   for (pid_t process : strays) {
@@ -73,6 +75,18 @@ void killProcessGroup(pid_t group, const std::string& mark) {
   for (pid_t process : processesWithMark(mark)) {
     kill(process, SIGKILL);
     waitUntilGone(process, end);
+  }
+}
+
+void killMarkedProcesses(const std::string& mark) {
+  const Clock::time_point end = patience();
+  std::vector<pid_t> marked = processesWithMark(mark);
+  while (!marked.empty() && Clock::now() < end) {
+    for (pid_t process : marked) {
+      kill(process, SIGKILL);
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    marked = processesWithMark(mark);
   }
 }
 

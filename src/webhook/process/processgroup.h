@@ -13,4 +13,7 @@ void adoptOrphans();
 /// were started with, and reaps those that are this process's own. Returns when they are gone, after 3 s at the latest.
 void killProcessGroup(pid_t group, const std::string& mark);
 
+/// Kills the processes with that mark, whoever started them. Returns when they are gone, after 3 s at the latest.
+void killMarkedProcesses(const std::string& mark);
+
 }  // namespace Corvex::Webhook

@@ -4,17 +4,29 @@
 #include <QFile>
 #include <string>
 
+#include "webhook/process/claimeddirectory.h"
 #include "webhook/process/cleanup.h"
 
 namespace Corvex::Webhook {
 
+namespace {
+
+std::string pathTemplate() {
+  return QFile::encodeName(QDir::tempPath() + QStringLiteral("/corvexweb-XXXXXX")).toStdString();
+}
+
+}  // namespace
+
 TemporaryDirectory::TemporaryDirectory() {
-  const QString pathTemplate = QDir::tempPath() + QStringLiteral("/corvexweb-XXXXXX");
-  const std::string path = Cleanup::makeDirectory(QFile::encodeName(pathTemplate).toStdString());
+  const std::string path = Cleanup::makeDirectory(pathTemplate());
   m_path = QFile::decodeName(QByteArray::fromStdString(path));
 }
 
 QString TemporaryDirectory::filePath(const QString& name) const { return m_path + QLatin1Char('/') + name; }
+
+void TemporaryDirectory::removeAbandoned(const QString& markName) {
+  removeAbandonedDirectories(pathTemplate(), markName.toStdString());
+}
 
 void TemporaryDirectory::remove() {
   if (m_path.isEmpty()) {

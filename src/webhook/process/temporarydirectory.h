@@ -18,6 +18,10 @@ public:
 
   void remove();
 
+  /// Removes those of this user whose program was killed, and ends the processes that have `markName` with the path of
+  /// one of them in their environment.
+  static void removeAbandoned(const QString& markName);
+
 private:
   QString m_path;
 };

@@ -3,6 +3,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "webhook/protocol/inpagetext.h"
 #include "webhook/protocol/jstext.h"
 
 namespace Corvex::Webhook::Bidi {
@@ -25,16 +26,6 @@ const char* const events[] = {
 const char* const eventsOfBrowser[] = {"browsingContext.contextCreated", "browsingContext.contextDestroyed"};
 
 const char* const crashEvent = "goog:cdp.Inspector.targetCrashed";
-
-// A template literal converts as String() does, and no page can replace it; but it takes no symbol.
-const char* const textOfThis =
-    "function() { 'use strict'; return typeof this === 'symbol' ? this.toString() : `${this}`; }";
-// An element has an id that can be sent only where it was asked for in the frame that it belongs to.
-const char* const handOverThis =
-    "function() { var frame = this.ownerDocument.defaultView; if (frame !== window) frame.__corvex__handedOver = this; "
-    "return frame; }";
-const char* const takeHandedOver =
-    "(function() { var element = window.__corvex__handedOver; delete window.__corvex__handedOver; return element; }())";
 
 /// A string literal.
 QString jsStringText(const QString& text) {
@@ -142,8 +133,8 @@ bool isPrimitive(const QJsonObject& remote) {
 
 QJsonObject flatSerialization() { return {{QStringLiteral("maxDomDepth"), 0}, {QStringLiteral("maxObjectDepth"), 0}}; }
 
-Command callFunction(const char* function, const QString& realm, const QJsonObject& self) {
-  return command("script.callFunction", {{QStringLiteral("functionDeclaration"), QString::fromLatin1(function)},
+Command callFunction(const QString& function, const QString& realm, const QJsonObject& self) {
+  return command("script.callFunction", {{QStringLiteral("functionDeclaration"), function},
                                          {QStringLiteral("target"), QJsonObject{{QStringLiteral("realm"), realm}}},
                                          {QStringLiteral("this"), self},
                                          {QStringLiteral("awaitPromise"), false},
@@ -227,6 +218,8 @@ QString readNavigationError(const QString& refusal) {
 
 Document readDocument(const QJsonObject& event) { return {textAt(event, "navigation"), textAt(event, "url")}; }
 
+bool isCrashNotice(const Document& document) { return document.url.startsWith(QLatin1String("about:tabcrashed")); }
+
 QString readNewRealm(const QJsonObject& event) {
   const bool isPlain = textAt(event, "type") == QLatin1String("window") && textAt(event, "sandbox").isEmpty();
   return isPlain ? textAt(event, "realm") : QString();
@@ -246,7 +239,7 @@ Command evaluate(const Place& place, const QString& code) {
 }
 
 Command textOfObject(const QString& realm, const QString& handle) {
-  return callFunction(textOfThis, realm, {{QStringLiteral("handle"), handle}});
+  return callFunction(inPageText("textofthis.js"), realm, {{QStringLiteral("handle"), handle}});
 }
 
 Command release(const QString& realm, const QString& handle) {
@@ -255,10 +248,10 @@ Command release(const QString& realm, const QString& handle) {
 }
 
 Command handOverElement(const QString& realm, const QString& handle) {
-  return callFunction(handOverThis, realm, {{QStringLiteral("handle"), handle}});
+  return callFunction(inPageText("handover.js"), realm, {{QStringLiteral("handle"), handle}});
 }
 
-Command handedOverElement(const QString& frame) { return evaluate({frame, {}}, QString::fromLatin1(takeHandedOver)); }
+Command handedOverElement(const QString& frame) { return evaluate({frame, {}}, inPageText("takehandedover.js")); }
 
 Outcome readOutcome(const QJsonObject& answer) {
   const QJsonObject details = objectAt(answer, "exceptionDetails");
@@ -275,6 +268,17 @@ Outcome readOutcome(const QJsonObject& answer) {
     outcome.text = textAt(details, "text");
   }
   return outcome;
+}
+
+std::optional<QJsonObject> readRefusedException(const QString& refusal) {
+  const QLatin1String words("Missing stack, unable to build exceptionDetails for exception: ");
+  if (!refusal.startsWith(words)) {
+    return {};
+  }
+  const QJsonObject exception{{QStringLiteral("type"), QStringLiteral("string")},
+                              {QStringLiteral("value"), refusal.mid(words.size())}};
+  return QJsonObject{{QStringLiteral("type"), QStringLiteral("exception")},
+                     {QStringLiteral("exceptionDetails"), QJsonObject{{QStringLiteral("exception"), exception}}}};
 }
 
 Command screenshot(const QString& page, bool wholePage) {

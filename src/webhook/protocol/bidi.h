@@ -59,6 +59,8 @@ struct Document {
   QString url;
 };
 Document readDocument(const QJsonObject& event);
+/// Whether it is what Firefox shows in place of a page whose process ended.
+bool isCrashNotice(const Document& document);
 
 // A page: evaluation.
 
@@ -88,6 +90,10 @@ struct Outcome {
   QString realm;     ///< Where it was evaluated.
 };
 Outcome readOutcome(const QJsonObject& answer);
+/// Firefox refuses to tell of an exception whose stack was not recorded: each document but the one that is asked has
+/// only its first fifty recorded. The refusal holds the exception's text; this is the answer that should have come,
+/// nothing for other refusals.
+std::optional<QJsonObject> readRefusedException(const QString& refusal);
 
 // A page: the other verbs.
 

@@ -9,6 +9,7 @@ namespace Corvex::Webhook {
 namespace {
 
 constexpr int loggedLength = 1000;
+constexpr int loggedUnreadable = 10;
 
 void end(Request& request, Reply reply) {
   request.reply = std::move(reply);
@@ -81,7 +82,9 @@ void Channel::takeMessage(const QByteArray& text) {
   const WireMessage message = m_dialect.read(text);
   switch (message.kind) {
     case WireMessage::Malformed:
-      qCWarning(webhookLog) << "Dropped a message of the browser that cannot be read:" << text.left(loggedLength);
+      if (++m_unreadable <= loggedUnreadable) {
+        qCWarning(webhookLog) << "Dropped a message of the browser that cannot be read:" << text.left(loggedLength);
+      }
       return;
     case WireMessage::Answer:
     case WireMessage::Refusal:

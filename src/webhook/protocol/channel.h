@@ -40,7 +40,7 @@ struct Request : Pending {
 
 /// Requests and answers, paired by number, over one transport. Every request ends exactly once: by its answer, its
 /// deadline, cancelSession(), or the end of the connection, be it only that this object is deleted. Answers that come
-/// too late, to numbers that nobody knows, or in no readable form are logged and dropped.
+/// too late, to numbers that nobody knows, or in no readable form are dropped, and the first of these logged.
 class Channel : public QObject {
   Q_OBJECT
 
@@ -90,6 +90,7 @@ private:
   qint64 m_lastId = 0;
   QString m_closeReason;
   bool m_closed = false;
+  int m_unreadable = 0;
 };
 
 }  // namespace Corvex::Webhook

@@ -3,15 +3,13 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include "webhook/protocol/inpagetext.h"
 #include "webhook/protocol/jstext.h"
 #include "webhook/protocol/startscript.h"
 
 namespace Corvex::Webhook::DevTools {
 
 namespace {
-
-// A template literal converts as String() does, and no page can replace it.
-const char* const textOfThis = "function() { 'use strict'; return `${this}`; }";
 
 QByteArray write(qint64 id, const QString& session, const Command& command) {
   QJsonObject message{{QStringLiteral("id"), id},
@@ -152,7 +150,7 @@ Command evaluate(const QString& code, const QString& group, int timeoutMs) {
 }
 
 Command textOfObject(const QString& handle, const QString& group) {
-  return command("Runtime.callFunctionOn", {{QStringLiteral("functionDeclaration"), QString::fromLatin1(textOfThis)},
+  return command("Runtime.callFunctionOn", {{QStringLiteral("functionDeclaration"), inPageText("textofthis.js")},
                                             {QStringLiteral("objectId"), handle},
                                             {QStringLiteral("objectGroup"), group}});
 }

@@ -12,6 +12,7 @@ namespace {
 
 constexpr char messageEnd = '\0';
 constexpr int readSize = 64 * 1024;
+constexpr int readsAtOnce = 64;  // then what came is delivered, and others have their turn
 
 bool makePair(FileDescriptor* own, FileDescriptor* other) {
   int ends[2];
@@ -99,7 +100,7 @@ void PipeTransport::writePending() {
 }
 
 void PipeTransport::readAvailable() {
-  while (true) {
+  for (int reads = 0; reads < readsAtOnce; ++reads) {
     const ssize_t count = ::read(m_readEnd.get(), m_readBuffer.data(), size_t(m_readBuffer.size()));
     if (count < 0 && errno == EINTR) {
       continue;
@@ -118,6 +119,10 @@ void PipeTransport::readAvailable() {
     }
   }
   splitMessages();
+  if (m_incoming.size() > messageLimit) {
+    lose(tooLong());
+    m_incoming.clear();
+  }
   deliver();
 }
 

@@ -29,6 +29,10 @@ void Transport::deliver() {
   }
 }
 
+QString Transport::tooLong() {
+  return QStringLiteral("it sent a message of more than %1 MB").arg(messageLimit / (1024 * 1024));
+}
+
 void Transport::discardInbox() {
   m_inbox.clear();
   m_closeNoted = true;

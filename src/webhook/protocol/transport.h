@@ -15,6 +15,9 @@ class Transport : public QObject {
 public:
   using QObject::QObject;
 
+  /// Bytes of one message at the most. A longer one ends the connection.
+  static constexpr int messageLimit = 128 * 1024 * 1024;
+
   /// Sends one message, or drops it when the transport is closed.
   virtual void send(const QByteArray& message) = 0;
 
@@ -38,6 +41,9 @@ protected:
   void deliver();
 
   void discardInbox();
+
+  /// Why a connection ends that brings a message without end.
+  static QString tooLong();
 
 private:
   std::deque<QByteArray> m_inbox;

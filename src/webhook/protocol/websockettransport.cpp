@@ -7,7 +7,20 @@
 
 namespace Corvex::Webhook {
 
+namespace {
+
+constexpr int handshakeLimit = 64 * 1024;
+
+bool isWebSocket(const QUrl& url) {
+  const bool fits = url.scheme() == QLatin1String("ws") || url.scheme() == QLatin1String("wss");
+  return fits && url.isValid() && !url.host().isEmpty() && url.port() != 0;
+}
+
+}  // namespace
+
 WebSocketTransport::WebSocketTransport() : m_socket(new QWebSocket) {
+  m_socket->setMaxAllowedIncomingFrameSize(messageLimit);
+  m_socket->setMaxAllowedIncomingMessageSize(messageLimit);
   connect(m_socket, &QWebSocket::textMessageReceived, this, [this](const QString& text) {
     // The socket reads its next frame only after this returns, so no receiver may run, and perhaps wait, in here.
     enqueue(text.toUtf8());
@@ -22,8 +35,14 @@ WebSocketTransport::~WebSocketTransport() {
 }
 
 QString WebSocketTransport::open(const QUrl& url, const QDeadlineTimer& deadline) {
+  if (!isWebSocket(url)) {
+    return QStringLiteral("it is no WebSocket address such as ws://127.0.0.1:9222/devtools/browser/1234");
+  }
   auto settled = std::make_shared<Pending>();
-  connect(m_socket, &QWebSocket::connected, this, [settled] { settled->complete(); });
+  connect(m_socket, &QWebSocket::connected, this, [this, settled] {
+    m_socket->setReadBufferSize(0);  // a frame has to fit in
+    settled->complete();
+  });
   connect(m_socket, &QWebSocket::disconnected, this, [this, settled] {
     settled->complete();
     noteClosed(reasonOfEnd());
@@ -31,6 +50,7 @@ QString WebSocketTransport::open(const QUrl& url, const QDeadlineTimer& deadline
   });
   const QPointer<WebSocketTransport> self(this);
   m_socket->open(url);
+  m_socket->setReadBufferSize(handshakeLimit);
   const WaitResult result = waitFor(*settled, deadline);
   if (!self || result == WaitResult::Interrupted) {
     return QStringLiteral("the program is ending");
@@ -54,6 +74,9 @@ void WebSocketTransport::close() {
 }
 
 QString WebSocketTransport::reasonOfEnd() const {
+  if (m_socket->closeCode() == QWebSocketProtocol::CloseCodeTooMuchData) {
+    return tooLong();
+  }
   if (m_socket->error() == QAbstractSocket::UnknownSocketError) {
     return QStringLiteral("the connection was closed");
   }

@@ -18,7 +18,8 @@ public:
   WebSocketTransport();
   ~WebSocketTransport() override;
 
-  /// Connects, waiting until `deadline` at the most. Gives the reason of a failure, or "".
+  /// Connects, waiting until `deadline` at the most. Gives the reason of a failure, or "". What is no WebSocket address
+  /// fails at once.
   QString open(const QUrl& url, const QDeadlineTimer& deadline);
 
   void send(const QByteArray& message) override;

@@ -63,7 +63,7 @@ QString BrowserControl::openSession() {
     return error;
   }
   // A page on another machine cannot reach this one's loopback interface.
-  const int port = m_options.remoteUrl.isEmpty() ? m_endpoint->port() : 0;
+  const QString port = m_options.remoteUrl.isEmpty() ? m_endpoint->place() : QString();
   m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, port);
   m_dialogs = std::make_unique<Dialogs>(*m_windows, *m_endpoint);
   m_dispatcher = std::make_unique<MessageDispatcher>(*m_endpoint, *m_windows, *m_dialogs);
@@ -106,8 +106,13 @@ QString BrowserControl::whyNoWindow() const {
 }
 
 QString BrowserControl::whyNotAskPage() const {
-  const QString why = whyNoWindow();
-  return why.isEmpty() ? m_dialogs->whyNotAskPage() : why;
+  const QString noWindow = whyNoWindow();
+  if (!noWindow.isEmpty()) {
+    return noWindow;
+  }
+  const QString dialog = m_dialogs->whyNotAskPage();
+  const BrowserPage* const page = m_windows->current()->page();
+  return dialog.isEmpty() && page ? page->whyUnavailable() : dialog;
 }
 
 void BrowserControl::scriptStarted(const QString& path) { m_scriptFolder = QFileInfo(path).absolutePath(); }

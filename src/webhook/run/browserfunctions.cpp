@@ -60,6 +60,7 @@ struct Row {
   int maxArguments;
   bool needsWindow;
   ScriptValue (*call)(BrowserControl& control, const ObjectList& arguments);
+  bool takesNull = false;
 };
 
 const Row rows[] = {
@@ -92,7 +93,8 @@ const Row rows[] = {
        // An empty answer is one; only a null cancels.
        const QString answer = a[0] ? QStringLiteral("") + a[0]->toString() : QString();
        return nothing(c.dialogs()->closePrompt(answer, timeoutOf(a, 1)));
-     }},
+     },
+     true},
     {"lastAlertText", "lastAlertText()", 0, 0, true,
      [](BrowserControl& c, const ObjectList&) { return lastText(c, "alert"); }},
     {"lastConfirmText", "lastConfirmText()", 0, 0, true,
@@ -119,9 +121,9 @@ ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& argum
 Scripting::ScriptHost browserFunctions(BrowserControl& control) {
   Scripting::ScriptHost host;
   for (const Row& row : rows) {
-    host.functions.push_back({QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments,
-                              row.maxArguments,
-                              [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }});
+    host.functions.push_back(
+        {QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments, row.maxArguments,
+         [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }, row.takesNull});
   }
   return host;
 }

@@ -30,17 +30,7 @@ TEST(Chromium, TakesTheProgramThatIsNamed) {
 
 TEST(Chromium, ABrowserThatEndsAtOnceGivesItsLastWords) {
   const ScopedVariable variable("CORVEX_CHROMIUM", "/bin/ls");
-  const BrowserSession::Start start = BrowserSession::start({});
-  EXPECT_FALSE(start.value);
-  EXPECT_TRUE(
-      start.error.startsWith(QStringLiteral("The browser ended before it was ready. Its last words: /bin/ls: ")))
-      << start.error.toStdString();
-}
-
-TEST(Chromium, ABrowserThatCannotBeReachedIsNamed) {
-  SessionOptions options;
-  options.attachTo = QStringLiteral("ws://127.0.0.1:1/devtools");
-  const BrowserSession::Start start = BrowserSession::start(options);
-  EXPECT_FALSE(start.value);
-  EXPECT_TRUE(start.error.startsWith(QStringLiteral("The browser at 'ws://127.0.0.1:1/devtools' cannot be reached: ")));
+  const QString error = BrowserSession::start({}).error;
+  EXPECT_TRUE(error.startsWith(QStringLiteral("The browser ended before it was ready: "))) << error.toStdString();
+  EXPECT_TRUE(error.contains(QStringLiteral(". Its last words: /bin/ls: "))) << error.toStdString();
 }

@@ -34,13 +34,3 @@ TEST(Firefox, SaysWhatToDoWhenThereIsNone) {
   const ScopedVariable wrong("CORVEX_FIREFOX", "/etc/passwd");
   EXPECT_TRUE(Firefox::find(q("firefox")).error.startsWith(q("CORVEX_FIREFOX is set to '/etc/passwd'")));
 }
-
-TEST(Firefox, ABrowserThatEndsAtOnceGivesItsLastWords) {
-  const ScopedVariable variable("CORVEX_FIREFOX", "/bin/ls");
-  SessionOptions options;
-  options.browser = q("firefox");
-  const BrowserSession::Start start = BrowserSession::start(options);
-  EXPECT_FALSE(start.value);
-  EXPECT_TRUE(start.error.startsWith(q("The browser ended before it was ready. Its last words: /bin/ls: ")))
-      << start.error.toStdString();
-}

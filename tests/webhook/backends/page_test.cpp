@@ -174,8 +174,10 @@ TEST_F(PageTest, FilesArePutIntoAFileInput) {
   EXPECT_EQ(page->setFiles(input, {first, second}), QString());
   EXPECT_EQ(text("changed + f.files[0].name + f.files[1].size"), q("2a b.txt3"));
   if (!TestSupport::isRemote()) {
-    EXPECT_EQ(page->setFiles(input, {q("/no/such")}),
-              q("The file '/no/such' does not exist or cannot be read. Correct the path."));
+    EXPECT_EQ(page->setFiles(input, {first, q("/no/such")}),
+              q("Cannot choose the file '/no/such': there is no such file. Give a path that exists."));
+    EXPECT_EQ(page->setFiles(input, {q("/etc")}),
+              q("Cannot choose the file '/etc': it is no file. Give the path of a file."));
   }
   for (const QString& wrong : {q("document.getElementById('p')"), q("document"), q("({})"), q("null"), q("7")}) {
     EXPECT_EQ(page->setFiles(wrong, {first}),

@@ -62,7 +62,8 @@ TEST(WebDriver, TakesTheWishesFromAFile) {
   const WantedCapabilities wanted = wantedCapabilities(QLatin1Char('@') + path, {});
   EXPECT_EQ(wanted.capabilities.value(q("alwaysMatch")).toObject().value(q("a")).toInt(), 1);
   EXPECT_EQ(wantedCapabilities(q("@/no/such"), {}).error,
-            q("The capabilities cannot be used: the file '/no/such' cannot be read. Give a JSON object, or @ and the "
+            q("The capabilities cannot be used: the file '/no/such' cannot be read: No such file or directory. Give a "
+              "JSON object, or @ and the "
               "path of a file of one."));
   EXPECT_TRUE(errorFrom(q("http://127.0.0.1:4"), q("{a")).startsWith(q("The capabilities cannot be used: ")));
   EXPECT_TRUE(errorFrom(q("http://127.0.0.1:4"), q("[1]")).contains(q("the JSON is no object")));

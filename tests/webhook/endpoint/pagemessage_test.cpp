@@ -153,6 +153,8 @@ TEST(MessageQueue, TakesNoMoreThanItsLimit) {
   EXPECT_EQ(queue.put(message), MessageQueue::Taken::Yes);
   EXPECT_EQ(queue.put(message), MessageQueue::Taken::No);
   EXPECT_EQ(queue.takeAll().size(), 2u);
+  EXPECT_EQ(queue.put(message), MessageQueue::Taken::No) << "taken, but not delivered";
+  queue.noteDelivered(message);
   EXPECT_EQ(queue.put(message), MessageQueue::Taken::YesAsFirst);
 }
 

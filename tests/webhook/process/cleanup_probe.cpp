@@ -1,5 +1,5 @@
 // Starts a browser, says where, and goes the way that its argument names: it exits as soon as it is told to by a line,
-// or is stuck.
+// prints until nobody reads, or is stuck.
 
 #include <QCoreApplication>
 #include <cstdio>
@@ -22,6 +22,11 @@ int main(int argc, char** argv) {
   if (way == QLatin1String("exit")) {
     std::getchar();
     std::exit(7);
+  }
+  if (way == QLatin1String("print")) {
+    while (std::puts("more") >= 0 && std::fflush(stdout) == 0) {
+    }
+    std::exit(8);
   }
   volatile bool stuck = true;
   while (stuck) {

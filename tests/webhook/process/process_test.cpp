@@ -1,11 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 #include <cerrno>
 #include <csignal>
 
 #include "shared/awaiting.h"
+#include "support/environment.h"
+#include "support/files.h"
+#include "support/freshprocess.h"
 #include "support/printing.h"
 #include "webhook/process/childprocess.h"
 #include "webhook/process/temporarydirectory.h"
@@ -119,4 +124,30 @@ TEST(TemporaryDirectory, GoesWithItsObject) {
   }
   EXPECT_FALSE(path.isEmpty());
   EXPECT_FALSE(QFileInfo::exists(path));
+}
+
+TEST(TemporaryDirectory, OnlyThoseOfThisUsersDeadProgramsAreRemoved) {
+  const QTemporaryDir temporary;
+  const QDir folder(temporary.path());
+  const TestSupport::ScopedVariable variable("TMPDIR", temporary.path().toLocal8Bit());
+  const auto abandon = [] { return TestSupport::inFreshProcess([] { return (new TemporaryDirectory)->path(); }); };
+  const TemporaryDirectory living;
+  const QString dead = abandon();
+  const QString linked = abandon();
+  const QString others = abandon();
+  QTemporaryDir elsewhere;
+  ASSERT_TRUE(QDir().rename(linked, elsewhere.filePath(QStringLiteral("target"))));
+  ASSERT_TRUE(QFile::link(elsewhere.filePath(QStringLiteral("target")), linked));
+  const bool canGiveAway = chown(QFile::encodeName(others).constData(), 12345, 12345) == 0;
+  ASSERT_TRUE(folder.mkpath(QStringLiteral("corvexweb-backup/kept")));
+  ASSERT_TRUE(TestSupport::writeFile(folder.filePath(QStringLiteral("corvexweb-report")), "kept"));
+  ASSERT_TRUE(QFileInfo::exists(dead));
+
+  TemporaryDirectory::removeAbandoned(QStringLiteral("MARK"));
+  EXPECT_FALSE(QFileInfo::exists(dead));
+  for (const QString& kept : {living.path(), linked, folder.filePath(QStringLiteral("corvexweb-backup/kept")),
+                              folder.filePath(QStringLiteral("corvexweb-report"))}) {
+    EXPECT_TRUE(QFileInfo::exists(kept)) << kept.toStdString();
+  }
+  EXPECT_EQ(QFileInfo::exists(others), canGiveAway);
 }

@@ -13,41 +13,7 @@ namespace {
 
 QString q(const char* text) { return QString::fromUtf8(text); }
 
-QJsonObject object(const char* json) { return QJsonDocument::fromJson(json).object(); }
-
 }  // namespace
-
-TEST(Bidi, TakesTheTextOfAPrimitiveFromItsAnswer) {
-  struct Row {
-    const char* answer;
-    const char* text;
-    bool thrown = false;
-    const char* handle = "";
-    const char* sharedId = "";
-  };
-  const Row rows[] = {
-      {R"({"type":"success","result":{"type":"string","value":"a\u0000b"}})", "a"},
-      {R"({"type":"success","result":{"type":"undefined"}})", "undefined"},
-      {R"({"type":"success","result":{"type":"null"}})", "null"},
-      {R"({"type":"success","result":{"type":"boolean","value":false}})", "false"},
-      {R"({"type":"success","result":{"type":"number","value":1e21}})", "1e+21"},
-      {R"({"type":"success","result":{"type":"number","value":"-0"}})", "0"},
-      {R"({"type":"success","result":{"type":"number","value":"-Infinity"}})", "-Infinity"},
-      {R"({"type":"success","result":{"type":"bigint","value":"-12"}})", "-12"},
-      {R"({"type":"success","result":{"type":"object","handle":"7"}})", "", false, "7"},
-      {R"({"type":"success","result":{"type":"node","handle":"7","sharedId":"s"}})", "", false, "7", "s"},
-      {R"({"type":"exception","exceptionDetails":{"text":"6","exception":{"type":"number","value":6}}})", "6", true},
-      {R"({"type":"exception","exceptionDetails":{"text":"TypeError: x","exception":{"type":"error","handle":"7"}}})",
-       "TypeError: x", true, "7"},
-  };
-  for (const Row& row : rows) {
-    const Bidi::Outcome outcome = Bidi::readOutcome(object(row.answer));
-    EXPECT_STREQ(outcome.text.toUtf8().constData(), row.text) << row.answer;
-    EXPECT_EQ(outcome.thrown, row.thrown) << row.answer;
-    EXPECT_EQ(outcome.handle, q(row.handle)) << row.answer;
-    EXPECT_EQ(outcome.sharedId, q(row.sharedId)) << row.answer;
-  }
-}
 
 TEST(Bidi, ARefusalKeepsItsCodeUnlessThatSaysNothing) {
   struct Row {

@@ -38,8 +38,39 @@ protected:
     return Corvex::WebWrapper::wrapObject(make<T>(arguments...).release());
   }
 
+  /// Calls the overload with as many arguments as it takes, or else the first of the name.
+  static Corvex::SharedPtr<Corvex::Object> call(const Corvex::SharedPtr<Corvex::Object>& object, const QString& name,
+                                                const Corvex::ObjectList& arguments = {}) {
+    const Corvex::Class* cls = object->objectClass();
+    int found = -1;
+    for (int id = 0; id < cls->numMethods(); ++id) {
+      const Corvex::Method* method = cls->method(id);
+      if (method->name() == name && (found < 0 || method->signature().count() == arguments.size())) {
+        found = id;
+      }
+    }
+    const Corvex::Method* method = cls->method(found);
+    return method->owner()->invoke(found, object, arguments, method);
+  }
+  static Corvex::SharedPtr<Corvex::Object> get(const Corvex::SharedPtr<Corvex::Object>& object, const QString& name) {
+    return object->objectClass()->getProperty(object, object->objectClass()->property(name));
+  }
+  static bool set(const Corvex::SharedPtr<Corvex::Object>& object, const QString& name,
+                  const Corvex::SharedPtr<Corvex::Object>& value) {
+    return object->objectClass()->setProperty(object, object->objectClass()->property(name), value);
+  }
+
   FakeComponent page;
 };
+
+inline Corvex::SharedPtr<Corvex::Object> text(const QString& value) {
+  return Corvex::Inspector::self()->wrapString(value);
+}
+
+inline Corvex::SharedPtr<Corvex::Object> number(double value) {
+  return value == int(value) ? Corvex::Inspector::self()->wrapInt(int(value))
+                             : Corvex::Inspector::self()->wrapDouble(value);
+}
 
 /// The setTimeout() around a statement.
 inline QString deferred(const char* statement) {

@@ -6,6 +6,8 @@ namespace Corvex::Webhook {
 
 namespace {
 
+constexpr int documentsTried = 5;
+
 /// What one evaluation gave; lets go of the object behind it with its end.
 class Held {
 public:
@@ -36,10 +38,34 @@ bool isAboutTheElement(const QString& refusal) {
   return false;
 }
 
-Reply askToEvaluate(PageCall& call, const Bidi::Place& place, const QString& code) {
-  const Reply reply = call.ask(Bidi::evaluate(place, code));
-  const bool isGone = reply.status == Reply::Refused && reply.error.startsWith(QLatin1String("no such"));
-  return isGone && !place.realm.isEmpty() ? call.ask(Bidi::evaluate({place.context, {}}, code)) : reply;
+Reply askToRun(PageCall& call, const Command& command) {
+  Reply reply = call.ask(command);
+  if (const std::optional<QJsonObject> exception = Bidi::readRefusedException(reply.error)) {
+    reply = {Reply::Answered, *exception, {}};
+  }
+  return reply;
+}
+
+/// Whether the code ran nowhere, as the document that it was meant for had gone.
+bool cameTooLate(const Reply& reply, const Bidi::Place& place) {
+  const bool isPlaceGone = !place.realm.isEmpty() && reply.error.startsWith(QLatin1String("no such"));
+  return reply.status == Reply::Refused &&
+         (isPlaceGone || reply.error.startsWith(QLatin1String("Cannot find context")));
+}
+
+Reply askToEvaluate(PageCall& call, const PlaceNow& placeNow, const QString& code) {
+  Reply reply;
+  for (int document = 0; document < documentsTried; ++document) {
+    const FunctionCallResult<Bidi::Place> place = placeNow(call);
+    if (place.failed()) {
+      return {Reply::Cancelled, {}, place.error};
+    }
+    reply = askToRun(call, Bidi::evaluate(place.value, code));
+    if (!cameTooLate(reply, place.value)) {
+      break;
+    }
+  }
+  return reply;
 }
 
 /// An element as it can be named to the browser; without an id if it is none.
@@ -64,8 +90,8 @@ NamedElement nameElement(PageCall& call, const QString& page, const Held& elemen
 
 }  // namespace
 
-JavaScriptAnswer evaluateInPage(PageCall& call, const Bidi::Place& place, const QString& code) {
-  const Reply reply = askToEvaluate(call, place, code);
+JavaScriptAnswer evaluateInPage(PageCall& call, const PlaceNow& placeNow, const QString& code) {
+  const Reply reply = askToEvaluate(call, placeNow, code);
   if (!reply.isAnswered()) {
     return abortedBy(call, reply);
   }
@@ -73,7 +99,7 @@ JavaScriptAnswer evaluateInPage(PageCall& call, const Bidi::Place& place, const 
   if (value->thrown || value->handle.isEmpty()) {
     return {value->text, value->thrown, false};
   }
-  const Reply textReply = call.ask(Bidi::textOfObject(value->realm, value->handle));
+  const Reply textReply = askToRun(call, Bidi::textOfObject(value->realm, value->handle));
   if (!textReply.isAnswered()) {
     return abortedBy(call, textReply);
   }
@@ -81,9 +107,9 @@ JavaScriptAnswer evaluateInPage(PageCall& call, const Bidi::Place& place, const 
   return {text.text, text.thrown, false};
 }
 
-QString putFilesInto(PageCall& call, const Bidi::Place& place, const QString& referenceExpression,
+QString putFilesInto(PageCall& call, const QString& page, const PlaceNow& placeNow, const QString& referenceExpression,
                      const QStringList& paths) {
-  const Reply reference = askToEvaluate(call, place, referenceExpression);
+  const Reply reference = askToEvaluate(call, placeNow, referenceExpression);
   if (!reference.isAnswered()) {
     return call.errorOf(reference);
   }
@@ -91,7 +117,7 @@ QString putFilesInto(PageCall& call, const Bidi::Place& place, const QString& re
   if (element->thrown) {
     return element->text.section(QLatin1Char('\n'), 0, 0);
   }
-  const NamedElement named = element->handle.isEmpty() ? NamedElement() : nameElement(call, place.context, element);
+  const NamedElement named = element->handle.isEmpty() ? NamedElement() : nameElement(call, page, element);
   if (named.sharedId.isEmpty()) {
     return PageErrors::noFileInput(referenceExpression);
   }

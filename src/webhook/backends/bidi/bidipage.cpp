@@ -6,8 +6,6 @@
 #include "webhook/protocol/devtools.h"
 #include "webhook/protocol/startscript.h"
 
-#include <QFileInfo>
-
 namespace Corvex::Webhook {
 
 BidiPage::BidiPage(Channel& channel, BidiSession& session, const Bidi::Context& context)
@@ -27,19 +25,22 @@ void BidiPage::watchFrame(const QString& frame) {
   });
 }
 
-Bidi::Place BidiPage::place() const {
-  // Browsers that know DevTools sessions hold code for a page back while a document of it is on its way, and for ever
-  // in a window that a page opened; but not code for a certain document.
-  return {m_context, Bidi::readDevToolsSession(m_devTools->reply.result).isEmpty() ? QString() : m_realm};
-}
-
-QString BidiPage::awaitPlace(PageCall& call) {
-  const QPointer<BidiPage> self(this);
-  if (!devToolsSession(call).isEmpty() && self) {
-    const std::shared_ptr<Pending> there = m_realmThere;
-    waitFor(*there, call.deadline());
-  }
-  return self ? whyUnavailable() : PageErrors::pageClosed();
+PlaceNow BidiPage::placeNow() {
+  using Result = FunctionCallResult<Bidi::Place>;
+  return [self = QPointer<BidiPage>(this)](PageCall& call) {
+    const bool knowsDevTools = self && !self->devToolsSession(call).isEmpty();
+    if (self && knowsDevTools) {
+      const std::shared_ptr<Pending> there = self->m_realmThere;
+      waitFor(*there, call.deadline());
+    }
+    const QString obstacle = self ? self->whyUnavailable() : PageErrors::pageClosed();
+    if (!obstacle.isEmpty()) {
+      return Result::failure(obstacle);
+    }
+    // Browsers that know DevTools sessions hold code for a page back while a document of it is on its way, and for ever
+    // in a window that a page opened; but not code for a certain document.
+    return Result{{self->m_context, knowsDevTools ? self->m_realm : QString()}, {}};
+  };
 }
 
 JavaScriptAnswer BidiPage::evaluate(const QString& code, int timeoutMs) {
@@ -49,11 +50,7 @@ JavaScriptAnswer BidiPage::evaluate(const QString& code, int timeoutMs) {
   }
   PageCall call = makeCall(timeoutMs);
   const QPointer<BidiPage> self(this);
-  const QString newObstacle = awaitPlace(call);
-  if (!newObstacle.isEmpty()) {
-    return {newObstacle, false, true};
-  }
-  const JavaScriptAnswer evaluation = evaluateInPage(call, place(), code);
+  const JavaScriptAnswer evaluation = evaluateInPage(call, placeNow(), code);
   if (self && evaluation.aborted && isAvailable() && call.deadline().hasExpired()) {
     endRunningCode();
   }
@@ -138,7 +135,7 @@ FunctionCallResult<double> BidiPage::zoomFactor() {
     return {reply.isAnswered() ? DevTools::readZoom(Bidi::readThroughDevTools(reply.result)) : 1.0,
             call.errorOf(reply)};
   }
-  const JavaScriptAnswer ratio = evaluateInPage(call, place(), QStringLiteral("window.devicePixelRatio"));
+  const JavaScriptAnswer ratio = evaluateInPage(call, placeNow(), QStringLiteral("window.devicePixelRatio"));
   const double value = ratio.text.toDouble();
   if (!self || !ratio.succeeded() || value <= 0) {
     return {1.0, ratio.succeeded() ? PageErrors::pageReplaced() : ratio.text};
@@ -149,22 +146,10 @@ FunctionCallResult<double> BidiPage::zoomFactor() {
   return {value / *m_plainPixelRatio, {}};
 }
 
-QString BidiPage::setFiles(const QString& referenceExpression, const QStringList& paths) {
-  const QString obstacle = whyUnavailable();
-  if (!obstacle.isEmpty()) {
-    return obstacle;
-  }
-  const bool sameMachine = m_bidiSession.browserProcess() != 0;
-  QStringList fullPaths;
-  for (const QString& path : paths) {
-    const QFileInfo file(path);
-    if (sameMachine && (!file.isFile() || !file.isReadable())) {
-      return PageErrors::noSuchFile(path);
-    }
-    fullPaths.append(sameMachine ? file.absoluteFilePath() : path);
-  }
-  PageCall call = makeCall(0);
-  return putFilesInto(call, place(), referenceExpression, fullPaths);
+bool BidiPage::takesFilesOfThisMachine() const { return m_bidiSession.browserProcess() != 0; }
+
+QString BidiPage::putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) {
+  return putFilesInto(call, m_context, placeNow(), referenceExpression, paths);
 }
 
 Command BidiPage::dialogAnswer(bool accept, const QString& text) const {
@@ -198,6 +183,10 @@ void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
 void BidiPage::onNavigationCommitted(const QJsonObject& parameters) {
   const Bidi::Document document = Bidi::readDocument(parameters);
   m_document = document.navigation;
+  if (Bidi::isCrashNotice(document)) {
+    noteCrashed();
+    return;
+  }
   takeDocument(document.navigation, document.url);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "webhook/backends/bidi/bidievaluation.h"
 #include "webhook/browser/protocolpage.h"
 #include "webhook/protocol/bidi.h"
 
@@ -26,9 +27,6 @@ public:
   /// Where the browser does not tell its zoom: how many device pixels a CSS pixel has, compared with the first call.
   FunctionCallResult<double> zoomFactor() override;
 
-  /// The paths of a visited browser are those of its own machine; they are not looked at before.
-  QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
-
   const QString& contextId() const { return m_context; }
 
   /// Has the dialogs of a frame reported here, too.
@@ -39,12 +37,12 @@ public:
   void noteRealmGone(const QString& realm);
 
 private:
-  Bidi::Place place() const;
-  /// Waits until code can be given its place. Gives the obstacle that came up, or "".
-  QString awaitPlace(PageCall& call);
+  PlaceNow placeNow();
   Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
   void stopLoading() override;
   Command dialogAnswer(bool accept, const QString& text) const override;
+  bool takesFilesOfThisMachine() const override;
+  QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) override;
   Command closing() const override { return Bidi::closePage(m_context); }
   void prepareClosing(PageCall& call) override;
   void endOpenCalls(const QString& error) override;

@@ -1,13 +1,15 @@
 #include "webhook/backends/bidi/firefox.h"
 
 #include "webhook/browser/browserprogram.h"
+#include "webhook/browser/pageerrors.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QFileSystemWatcher>
+#include <QHostAddress>
 #include <QRegularExpression>
-#include <algorithm>
+#include <QUrl>
 
 #include "shared/wait.h"
 
@@ -58,25 +60,23 @@ user_pref("toolkit.telemetry.server", "data:,");
 QString profile(const QString& directory) { return directory + QStringLiteral("/profile"); }
 
 /// Keeps the browser from writing outside of its directory.
-QMap<QString, QString> environment(const QString& directory) {
-  QMap<QString, QString> variables{{BrowserProgram::markName(), directory},
-                                   {QStringLiteral("HOME"), directory + QStringLiteral("/home")},
-                                   {QStringLiteral("XDG_CACHE_HOME"), directory + QStringLiteral("/home/.cache")},
-                                   {QStringLiteral("XDG_CONFIG_HOME"), directory + QStringLiteral("/home/.config")},
-                                   {QStringLiteral("TMPDIR"), directory + QStringLiteral("/tmp")},
-                                   {QStringLiteral("MOZ_CRASHREPORTER_DISABLE"), QStringLiteral("1")},
-                                   {QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory")}};
+void addEnvironment(const QString& directory, QMap<QString, QString>& variables) {
+  variables.insert(QStringLiteral("HOME"), directory + QStringLiteral("/home"));
+  variables.insert(QStringLiteral("XDG_CACHE_HOME"), directory + QStringLiteral("/home/.cache"));
+  variables.insert(QStringLiteral("XDG_CONFIG_HOME"), directory + QStringLiteral("/home/.config"));
+  variables.insert(QStringLiteral("TMPDIR"), directory + QStringLiteral("/tmp"));
+  variables.insert(QStringLiteral("MOZ_CRASHREPORTER_DISABLE"), QStringLiteral("1"));
+  variables.insert(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory"));
   const QString authority = QDir::homePath() + QStringLiteral("/.Xauthority");
   if (!qEnvironmentVariableIsSet("XAUTHORITY") && QFileInfo::exists(authority)) {
     variables.insert(QStringLiteral("XAUTHORITY"), authority);
   }
-  return variables;
 }
 
-bool prepare(const QString& directory) {
+bool fill(const QString& directory) {
   const QDir root(directory);
   for (const char* folder : {"tmp", "home", "profile"}) {
-    if (directory.isEmpty() || !root.mkdir(QLatin1String(folder))) {
+    if (!root.mkdir(QLatin1String(folder))) {
       return false;
     }
   }
@@ -84,31 +84,47 @@ bool prepare(const QString& directory) {
   return file.open(QIODevice::WriteOnly) && file.write(preferences) > 0 && file.flush();
 }
 
-QString announcedAddress(const QString& directory) {
+QString announcedAddress(const QByteArray& output) {
   static const QRegularExpression line(QStringLiteral("WebDriver BiDi listening on (ws://[^\\s/]+)[^\\n]*\\n"));
-  QFile file(BrowserProgram::outputFile(directory));
-  if (!file.open(QIODevice::ReadOnly)) {
-    return {};
-  }
-  return line.match(QString::fromLocal8Bit(file.readAll())).captured(1);
+  return line.match(QString::fromLocal8Bit(output)).captured(1);
 }
 
 /// Waits for the address that the browser writes to its output. Gives "" when it ended or took too long.
-QString waitForAddress(const ChildProcess& process, const QString& directory, const QDeadlineTimer& deadline) {
+QString waitForAddress(const LaunchedBrowser& browser, const QDeadlineTimer& deadline, QString* whyLost) {
   Pending settled;
   QString address;
   const auto look = [&] {
-    address = announcedAddress(directory);
-    if (!address.isEmpty()) {
+    const QByteArray output = browser.output();
+    address = announcedAddress(output);
+    if (output.size() == LaunchedBrowser::outputHead) {
+      *whyLost = QStringLiteral("it floods its output");
+    }
+    if (!address.isEmpty() || !whyLost->isEmpty()) {
       settled.complete();
     }
   };
-  QFileSystemWatcher watcher({BrowserProgram::outputFile(directory)});
+  QFileSystemWatcher watcher({browser.outputFile()});
   QObject::connect(&watcher, &QFileSystemWatcher::fileChanged, &watcher, look);
-  QObject::connect(&process, &ChildProcess::ended, &watcher, [&] { settled.complete(); });
+  QObject::connect(&browser, &LaunchedBrowser::lost, &watcher, [&](const QString& reason) {
+    *whyLost = reason;
+    settled.complete();
+  });
   look();
   waitFor(settled, deadline);
   return address;
+}
+
+/// The browser runs here, so its address must be one of this machine alone.
+bool isUsable(const QString& address) {
+  const QUrl url(address);
+  return url.port() > 0 && (url.host() == QLatin1String("localhost") || QHostAddress(url.host()).isLoopback());
+}
+
+QString badAddress(const QString& address) {
+  return QStringLiteral(
+             "The browser takes its connections at '%1', which is no address of this machine. Use another version of "
+             "the browser.")
+      .arg(address);
 }
 
 }  // namespace
@@ -135,33 +151,26 @@ Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline) {
   if (program.failed()) {
     return instance;
   }
-  instance.directory = std::make_unique<TemporaryDirectory>();
-  const QString directory = instance.directory->path();
-  QFile output(BrowserProgram::outputFile(directory));
-  if (!prepare(directory) || !output.open(QIODevice::WriteOnly)) {
-    instance.error = BrowserProgram::noRoom();
-    return instance;
-  }
-  ChildCommand command;
-  command.program = program.value;
-  command.arguments = arguments(directory, options);
-  command.environment = environment(directory);
-  command.markName = BrowserProgram::markName();
-  command.outputFile = output.fileName();
-  ChildProcess::Start start = ChildProcess::start(command);
-  instance.process = std::move(start.process);
+  const auto prepare = [&](const QString& directory, ChildCommand& command) {
+    command.arguments = arguments(directory, options);
+    addEnvironment(directory, command.environment);
+    return fill(directory);
+  };
+  LaunchedBrowser::Start start = LaunchedBrowser::start(program.value, options.headed, prepare);
+  instance.browser = std::move(start.browser);
   instance.error = start.error;
-  if (!instance.process) {
+  if (!instance.browser) {
     return instance;
   }
-  instance.address = waitForAddress(*instance.process, directory, deadline);
-  if (instance.address.isEmpty()) {
-    instance.error = deadline.hasExpired()
-                         ? QStringLiteral(
-                               "The browser started but took no connection in time. Try again, or allow "
-                               "more time.")
-                         : QStringLiteral("The browser ended before it was ready. Its last words: %1")
-                               .arg(BrowserProgram::lastWords(directory));
+  QString whyLost;
+  instance.address = waitForAddress(*instance.browser, deadline, &whyLost);
+  if (instance.address.isEmpty() && !whyLost.isEmpty()) {
+    instance.error = PageErrors::endedEarly(whyLost, instance.browser->explanation());
+  } else if (instance.address.isEmpty()) {
+    instance.error =
+        QStringLiteral("The browser started but took no connection in time. Try again, or allow more time.");
+  } else if (!isUsable(instance.address)) {
+    instance.error = badAddress(instance.address);
   }
   return instance;
 }

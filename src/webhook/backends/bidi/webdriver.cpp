@@ -1,11 +1,11 @@
 #include "webhook/backends/bidi/webdriver.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QJsonDocument>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 
+#include "shared/textfile.h"
 #include "shared/wait.h"
 #include "webhook/protocol/bidi.h"
 
@@ -16,6 +16,9 @@ namespace {
 const QString alwaysMatch = QStringLiteral("alwaysMatch");
 const QString firstMatch = QStringLiteral("firstMatch");
 const QString wrapped = QStringLiteral("capabilities");
+
+constexpr int endTimeoutMs = 2000;
+constexpr qint64 answerLimit = 16 * 1024 * 1024;
 
 struct HttpAnswer {
   QJsonObject value;
@@ -34,9 +37,20 @@ QString failureOf(const QNetworkReply& reply, const QJsonObject& value) {
 HttpAnswer finish(QNetworkReply* reply, const QDeadlineTimer& deadline) {
   const std::unique_ptr<QNetworkReply> owned(reply);
   const auto finished = std::make_shared<Pending>();
+  reply->setReadBufferSize(answerLimit + 1);
+  bool endless = false;
+  QObject::connect(reply, &QNetworkReply::readyRead, [reply, finished, &endless] {
+    endless = reply->bytesAvailable() > answerLimit;
+    if (endless) {
+      finished->complete();
+    }
+  });
   QObject::connect(reply, &QNetworkReply::finished, [finished] { finished->complete(); });
   if (waitFor(*finished, deadline) != WaitResult::Complete) {
     return {{}, QStringLiteral("there was no answer in time")};
+  }
+  if (endless) {
+    return {{}, QStringLiteral("its answer is longer than %1 MB").arg(answerLimit / (1024 * 1024))};
   }
   const QJsonObject body = QJsonDocument::fromJson(reply->readAll()).object();
   HttpAnswer answer{body.value(QLatin1String("value")).toObject(), {}};
@@ -102,26 +116,26 @@ WebDriverSession::Start WebDriverSession::create(const QString& url, const QJson
   if (!session->m_webSocketUrl.host().isEmpty()) {
     return {std::move(session), {}};
   }
-  session->end(deadline);
+  session->end();
   return {nullptr, noWebSocket(url)};
 }
 
-void WebDriverSession::end(const QDeadlineTimer& deadline) {
+void WebDriverSession::end() {
   if (m_ended || !QCoreApplication::instance()) {
     return;
   }
   m_ended = true;
-  finish(m_network->deleteResource(requestTo(m_url)), deadline);
+  finish(m_network->deleteResource(requestTo(m_url)), QDeadlineTimer(endTimeoutMs));
 }
 
 WantedCapabilities wantedCapabilities(const QString& text, const QString& browser) {
   QByteArray json = text.isEmpty() ? QByteArray("{}") : text.toUtf8();
   if (text.startsWith(QLatin1Char('@'))) {
-    QFile file(text.mid(1));
-    if (!file.open(QIODevice::ReadOnly)) {
-      return {{}, badCapabilities(QStringLiteral("the file '%1' cannot be read").arg(file.fileName()))};
+    const FunctionCallResult<QString> file = readTextFile(text.mid(1));
+    if (file.failed()) {
+      return {{}, badCapabilities(QStringLiteral("the file '%1' cannot be read: %2").arg(text.mid(1), file.error))};
     }
-    json = file.readAll();
+    json = file.value.toUtf8();
   }
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(json, &error);

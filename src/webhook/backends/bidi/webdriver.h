@@ -6,12 +6,16 @@
 #include <QUrl>
 #include <memory>
 
+#include "webhook/browser/ownedbrowser.h"
+
 class QNetworkAccessManager;
 
 namespace Corvex::Webhook {
 
 /// A session of a browser that a WebDriver server keeps, on this machine or on another one.
-class WebDriverSession {
+class WebDriverSession : public OwnedBrowser {
+  Q_OBJECT
+
 public:
   struct Start {
     std::unique_ptr<WebDriverSession> session;
@@ -22,15 +26,14 @@ public:
   /// `wantedCapabilities()` describes and that can be driven over a WebSocket.
   static Start create(const QString& url, const QJsonObject& capabilities, const QDeadlineTimer& deadline);
 
-  ~WebDriverSession();
+  ~WebDriverSession() override;
 
   QUrl webSocketUrl() const { return m_webSocketUrl; }
   /// What the browser is, in the server's words.
   const QJsonObject& capabilities() const { return m_capabilities; }
 
-  /// Has the server end the browser, and waits for its answer, until `deadline` at the most. A second call does
-  /// nothing.
-  void end(const QDeadlineTimer& deadline);
+  /// Has the server end the browser, and waits for its answer.
+  void end() override;
 
 private:
   explicit WebDriverSession(const QString& url);

@@ -5,8 +5,6 @@
 #include <unistd.h>
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 namespace Corvex::Webhook::Chromium {
 
@@ -54,11 +52,10 @@ const char* const fixedArguments[] = {
 };
 
 /// Keeps the browser from writing outside of its directory.
-QMap<QString, QString> environment(const QString& directory) {
-  return {{BrowserProgram::markName(), directory},
-          {QStringLiteral("TMPDIR"), directory + QStringLiteral("/tmp")},
-          {QStringLiteral("BREAKPAD_DUMP_LOCATION"), directory + QStringLiteral("/crashes")},
-          {QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory")}};
+void addEnvironment(const QString& directory, QMap<QString, QString>& variables) {
+  variables.insert(QStringLiteral("TMPDIR"), directory + QStringLiteral("/tmp"));
+  variables.insert(QStringLiteral("BREAKPAD_DUMP_LOCATION"), directory + QStringLiteral("/crashes"));
+  variables.insert(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory"));
 }
 
 }  // namespace
@@ -87,23 +84,16 @@ Instance launch(const SessionOptions& options) {
   if (program.failed()) {
     return instance;
   }
-  instance.directory = std::make_unique<TemporaryDirectory>();
-  const QString directory = instance.directory->path();
   PipeTransport::ChildEnds ends;
-  instance.transport = PipeTransport::create(&ends);
-  if (directory.isEmpty() || !QDir(directory).mkdir(QStringLiteral("tmp")) || !instance.transport) {
-    instance.error = BrowserProgram::noRoom();
-    return instance;
-  }
-  ChildCommand command;
-  command.program = program.value;
-  command.arguments = arguments(directory, options);
-  command.environment = environment(directory);
-  command.markName = BrowserProgram::markName();
-  command.outputFile = BrowserProgram::outputFile(directory);
-  command.descriptors = {{ends.input.get(), 3}, {ends.output.get(), 4}};
-  ChildProcess::Start start = ChildProcess::start(command);
-  instance.process = std::move(start.process);
+  const auto prepare = [&](const QString& directory, ChildCommand& command) {
+    instance.transport = PipeTransport::create(&ends);
+    command.arguments = arguments(directory, options);
+    addEnvironment(directory, command.environment);
+    command.descriptors = {{ends.input.get(), 3}, {ends.output.get(), 4}};
+    return instance.transport && QDir(directory).mkdir(QStringLiteral("tmp"));
+  };
+  LaunchedBrowser::Start start = LaunchedBrowser::start(program.value, options.headed, prepare);
+  instance.browser = std::move(start.browser);
   instance.error = start.error;
   return instance;
 }

@@ -4,10 +4,8 @@
 #include <QStringList>
 #include <memory>
 
-#include "webhook/browser/browserprogram.h"
 #include "webhook/browser/browsersession.h"
-#include "webhook/process/childprocess.h"
-#include "webhook/process/temporarydirectory.h"
+#include "webhook/browser/launchedbrowser.h"
 #include "webhook/protocol/pipetransport.h"
 
 /// Finding and starting a browser built on Chromium.
@@ -19,10 +17,9 @@ FunctionCallResult<QString> find(const QString& wanted);
 /// The command line for a profile in `directory`.
 QStringList arguments(const QString& directory, const SessionOptions& options);
 
-/// A started browser. Its files, temporary ones and its output lie in the directory.
+/// A started browser.
 struct Instance {
-  std::unique_ptr<TemporaryDirectory> directory;
-  std::unique_ptr<ChildProcess> process;
+  std::unique_ptr<LaunchedBrowser> browser;
   std::unique_ptr<PipeTransport> transport;
   QString error;
 };

@@ -4,8 +4,6 @@
 #include "webhook/browser/browsersession.h"
 #include "webhook/browser/pageerrors.h"
 
-#include <QFileInfo>
-
 namespace Corvex::Webhook {
 
 DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
@@ -95,21 +93,8 @@ FunctionCallResult<double> DevToolsPage::zoomFactor() {
   return {DevTools::readZoom(reply.result), {}};
 }
 
-QString DevToolsPage::setFiles(const QString& referenceExpression, const QStringList& paths) {
-  const QString obstacle = whyUnavailable();
-  if (!obstacle.isEmpty()) {
-    return obstacle;
-  }
-  QStringList fullPaths;
-  for (const QString& path : paths) {
-    const QFileInfo file(path);
-    if (!file.isFile() || !file.isReadable()) {
-      return PageErrors::noSuchFile(path);
-    }
-    fullPaths.append(file.absoluteFilePath());
-  }
-  PageCall call = makeCall(0);
-  return setFilesOfInput(call, referenceExpression, fullPaths);
+QString DevToolsPage::putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) {
+  return setFilesOfInput(call, referenceExpression, paths);
 }
 
 void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameters) {

@@ -18,7 +18,6 @@ public:
   QString addStartScript(const QString& text) override;
   FunctionCallResult<QImage> screenshot(bool wholePage) override;
   FunctionCallResult<double> zoomFactor() override;
-  QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
 
   const QString& targetId() const { return m_target; }
   const QString& sessionId() const { return m_sessionId; }
@@ -27,6 +26,7 @@ private:
   Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
   void stopLoading() override { start(DevTools::stopLoading()); }
   Command dialogAnswer(bool accept, const QString& text) const override { return DevTools::answerDialog(accept, text); }
+  QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) override;
   Command closing() const override { return DevTools::closePage(m_target); }
 
   void takeEvent(const QString& method, const QJsonObject& parameters);

@@ -1,62 +1,44 @@
 #pragma once
 
-#include <memory>
-#include <vector>
+#include <QHash>
 
-#include "webhook/backends/devtools/chromium.h"
 #include "webhook/backends/devtools/devtoolspage.h"
-#include "webhook/browser/browsersession.h"
-#include "webhook/protocol/channel.h"
+#include "webhook/browser/protocolsession.h"
 
 namespace Corvex::Webhook {
 
 /// A browser driven over the DevTools protocol: one that was started, over its pipe, or one that runs, over a
 /// WebSocket.
-class DevToolsSession : public BrowserSession {
+class DevToolsSession : public ProtocolSession {
   Q_OBJECT
 
 public:
-  static Start start(const SessionOptions& options);
+  static Start startChromium(const SessionOptions& options);
+  static Start attach(const SessionOptions& options);
 
-  ~DevToolsSession() override;
+  ~DevToolsSession() override { finish(); }
 
-  BrowserPage* firstPage() const override;
-  QVector<BrowserPage*> pages() const override;
   FunctionCallResult<BrowserPage*> newPage() override;
   QString addStartScriptOfNewPages(const QString& text) override;
-  void close() override;
-  bool isLost() const override { return m_ended; }
-  QString browserName() const override { return m_name; }
-  QString browserVersion() const override { return m_version; }
-  Capabilities capabilities() const override;
-  qint64 browserProcess() const override;
-  QString browserDirectory() const override;
 
 private:
-  DevToolsSession(Chromium::Instance browser, std::unique_ptr<Transport> transport);
+  DevToolsSession(std::unique_ptr<OwnedBrowser> browser, std::unique_ptr<Transport> transport);
 
+  static Start open(const SessionOptions& options, std::unique_ptr<OwnedBrowser> browser,
+                    std::unique_ptr<Transport> transport, const QDeadlineTimer& deadline);
   /// Waits until the first page is there. Gives the error, or "".
   QString open(const QDeadlineTimer& deadline);
-  void takeVersion(const Reply& reply);
 
-  void takeEvent(const QString& method, const QJsonObject& parameters);
+  void prepareClosing() override;
+  void takeEvent(const QString& method, const QJsonObject& parameters) override;
   void onAttached(const QJsonObject& parameters);
   void onDetached(const QJsonObject& parameters);
   bool isOurs(const DevTools::Target& target) const;
 
-  void lose(const QString& reason);
-  void endBrowser();
-
-  Chromium::Instance m_browser;  ///< Empty for a visited browser.
-  Channel m_channel;
-  std::vector<std::unique_ptr<DevToolsPage>> m_pages;  ///< Closed ones included: callers may still hold them.
-  std::shared_ptr<Pending> m_firstPageOpened = std::make_shared<Pending>();
+  QHash<QString, DevToolsPage*> m_pageOfTarget;
+  QHash<QString, DevToolsPage*> m_pageOfSession;
   QStringList m_startScripts;  ///< Of pages that open from now on.
   int m_pagesToCome = 0;
-  QString m_name;
-  QString m_version;
-  QString m_lastWords;
-  bool m_ended = false;
 };
 
 }  // namespace Corvex::Webhook

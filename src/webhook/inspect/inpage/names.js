@@ -11,7 +11,7 @@ window.__corvex.namesCheck = (function () {
   // Calls action, which leaves the page as it is. Searches do not report as they would each, as if a recording were on.
   function quietly(action) {
     var recording = window.__corvex__recording;
-    var context = window.__corvex__ctxwin;
+    var context = __corvex__windowState.ctxwin;
     window.__corvex__recording = true;
     hierarchy = [];
     plainWords = null;
@@ -19,14 +19,14 @@ window.__corvex.namesCheck = (function () {
       return __corvex__whilePageStays(action);
     } finally {
       window.__corvex__recording = recording;
-      window.__corvex__ctxwin = context;
+      __corvex__windowState.ctxwin = context;
     }
   }
 
   function collect(all) {
     for (var i = 0; i < all.length; ++i) {
       elements.push(all[i]);
-      var shadowRoot = __corvex__node.shadowRoot(all[i]);
+      var shadowRoot = __corvex__nodeReader.shadowRoot(all[i]);
       if (shadowRoot) {
         collect(shadowRoot.querySelectorAll("*"));
       }
@@ -47,9 +47,10 @@ window.__corvex.namesCheck = (function () {
 
   // The opening tag. Escaped, since half a character would spoil the whole answer.
   function describe(element) {
-    var text = "<" + String(__corvex__node.nodeName(element)).toLowerCase();
+    var text = "<" + String(__corvex__nodeReader.nodeName(element)).toLowerCase();
     try {
-      var attributes = Object.getOwnPropertyDescriptor(Element.prototype, "attributes").get.call(element);
+      var attributes = __corvex__natives.apply(
+        Object.getOwnPropertyDescriptor(Element.prototype, "attributes").get, element, []);
       for (var i = 0; i < attributes.length && text.length < 100; ++i) {
         text += " " + attributes[i].name + "=\"" + attributes[i].value + "\"";
       }
@@ -60,7 +61,7 @@ window.__corvex.namesCheck = (function () {
   // As when the user's first action on the element is recorded: its own window is the current context.
   function nameOf(element) {
     try {
-      window.__corvex__ctxwin = __corvex__node.ownerDocument(element).defaultView;
+      __corvex__windowState.ctxwin = __corvex__nodeReader.ownerDocument(element).defaultView;
       return { name: String(__corvex__nameOf(element)), element: describe(element) };
     } catch (e) {
       return { error: escape(String(e)), element: describe(element) };
@@ -76,9 +77,9 @@ window.__corvex.namesCheck = (function () {
     __corvex__eachDocument(function (doc) {
       var all = __corvex__askDocument(doc, "getElementsByTagName", "*");
       for (var i = 0; i < all.length; ++i) {
-        add(__corvex__node.id(all[i]));
+        add(__corvex__nodeReader.id(all[i]));
         add(__corvex__getObjectAttribute(all[i], "name"));
-        var tagName = __corvex__node.tagName(all[i]);
+        var tagName = __corvex__nodeReader.tagName(all[i]);
         if (tagName === "A" || tagName === "AREA" || tagName === "LABEL" || tagName === "DIV" ||
             all[i].type === "button") {
           add(__corvex__clean(all[i].innerText));
@@ -107,7 +108,7 @@ window.__corvex.namesCheck = (function () {
     for (var child = __corvexDOMAPI.firstChild(node); child; child = __corvexDOMAPI.nextSibling(child)) {
       add(leafOf(child), child);
     }
-    var shadowRoot = __corvex__node.shadowRoot(node);
+    var shadowRoot = __corvex__nodeReader.shadowRoot(node);
     if (shadowRoot) {
       add(__corvex__uniqueNameInLeaf(shadowRoot), shadowRoot);
     }
@@ -125,7 +126,7 @@ window.__corvex.namesCheck = (function () {
 
   function descend(path) {
     var context = /^DOCUMENT\[(.*)\]$/.exec(path[0]);
-    var node = context ? __corvex__documentOfContext(context[1]) : window.__corvex__ctxwin.document;
+    var node = context ? __corvex__documentOfContext(context[1]) : __corvex__windowState.ctxwin.document;
     for (var i = 1; node && i < path.length; ++i) {
       node = childOf(node, i - 1, path[i]);
     }
@@ -150,7 +151,7 @@ window.__corvex.namesCheck = (function () {
 
   // The element that the rules name in place of this one: what stands in a link is named as the link.
   function namedInstead(element) {
-    var tagName = __corvex__node.tagName(element);
+    var tagName = __corvex__nodeReader.tagName(element);
     if (__corvex__controlElements[tagName] === 1 || tagName === "IMG" ||
         (tagName === "TD" && __corvex__getObjectAttribute(element, "class") === "cMenuTD")) {
       return element;
@@ -178,8 +179,8 @@ window.__corvex.namesCheck = (function () {
   // Whether, from the element up, there is a leaf that an earlier child has too, or one that the parting of the name at
   // its dots breaks.
   function hasSharedLeaf(element) {
-    for (var node = element; node && __corvex__node.nodeType(node) !== 9;) {
-      var parent = __corvex__isShadowRoot(node) ? node.host : __corvex__node.parentNode(node);
+    for (var node = element; node && __corvex__nodeReader.nodeType(node) !== 9;) {
+      var parent = __corvex__isShadowRoot(node) ? node.host : __corvex__nodeReader.parentNode(node);
       var leaf = __corvex__uniqueNameInLeaf(node);
       if (leaf.indexOf(".") !== -1 || childrenByLeaf(parent)[leaf] !== node) {
         return true;
@@ -206,7 +207,7 @@ window.__corvex.namesCheck = (function () {
       return !!context && !__corvex__hasContext(context.replace(/\|/g, "."));
     }],
     ["percent", function (c) {
-      if (__corvex__currentContext(c.element) === (window.__corvex__explicitContext || window)) {
+      if (__corvex__currentContext(c.element) === (__corvex__windowState.explicitContext || window)) {
         return false;
       }
       var name = unescape(__corvex__propertyNameOf(c.element));
@@ -220,10 +221,10 @@ window.__corvex.namesCheck = (function () {
         return false;
       }
       var name = exactProperty(c.road, "form");
-      var doc = __corvex__node.ownerDocument(c.element);
+      var doc = __corvex__nodeReader.ownerDocument(c.element);
       var form = name && __corvex__findFormInContainer(doc, name);
       return !!form && form !== c.element.form &&
-        __corvex__controlsOfForm(doc, name, __corvex__node.tagName(c.element)).length > 0;
+        __corvex__controlsOfForm(doc, name, __corvex__nodeReader.tagName(c.element)).length > 0;
     }],
     ["host", function (c) {
       return withHosts(c.element).slice(0, -1).some(function (host) {
@@ -279,7 +280,7 @@ window.__corvex.namesCheck = (function () {
     var wanted = namedInstead(element);
     var found = [];
     var road;
-    window.__corvex__ctxwin = window;
+    __corvex__windowState.ctxwin = window;
     try {
       for (var i = 0; i < roads.length && !last(found); ++i) {
         road = roads[i];
@@ -300,30 +301,30 @@ window.__corvex.namesCheck = (function () {
 
   return {
     // How many elements there are, in all documents and shadow trees.
-    start: function () {
+    start: __corvex__withBuiltIns(function () {
       elements = [];
       __corvex__hookFramesOfAllWindows();
       __corvex__eachDocument(function (doc) {
         collect(__corvex__askDocument(doc, "querySelectorAll", "*"));
       });
       return { count: elements.length };
-    },
+    }),
     // The names of the elements from `from` on, at most so many.
-    names: function (from, most) {
+    names: __corvex__withBuiltIns(function (from, most) {
       return quietly(function () {
         return slice(from, Math.min(elements.length, from + most), function (i) {
           return nameOf(elements[i]);
         });
       });
-    },
+    }),
     // `plans` holds a list of roads for each element from `from` on.
-    searches: function (from, plans) {
+    searches: __corvex__withBuiltIns(function (from, plans) {
       return quietly(function () {
         return slice(0, plans.length, function (i) {
           return search(elements[from + i], plans[i]);
         });
       });
-    },
+    }),
     end: function () {
       delete window.__corvex.namesCheck;
     }

@@ -17,19 +17,12 @@ window.__corvex.keepNativeDialogs = function () {
         w[names[i][0]] = w[names[i][1]];
       }
     }
-    var frames = window.__corvex.getAllFrames(w.document);
-    for (var k = 0; k < frames.length; ++k) {
-      try {
-        restore(frames[k].contentWindow);
-      } catch (e) {
-        continue;
-      }
-    }
   }
   if (!__corvex__opensNativeDialogs()) {
     // For the frames and windows that are hooked later.
     window.__corvex.nativeDialogsKept = true;
     restore(window);
+    __corvex__firstInFrames(document, restore);
   }
 };
 

@@ -16,6 +16,4 @@ QString HTML_Anchor::click(int, int, int, int) {
   return QString();
 }
 
-const ClassRows HTML_Anchor_Class = classRows("HTML_Anchor", "HTML_Object");
-
 }  // namespace Corvex::WebWrapper

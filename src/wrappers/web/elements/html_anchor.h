@@ -16,6 +16,4 @@ public:
   QString click(int modifierState, int x, int y, int button) override;
 };
 
-extern const ClassRows HTML_Anchor_Class;
-
 }  // namespace Corvex::WebWrapper

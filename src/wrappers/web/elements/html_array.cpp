@@ -44,6 +44,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_Array_Class = classRows("HTML_Array", "HTML_Object", properties, methods);
+const ClassMembers HTML_Array_Class = classMembers(properties, methods);
 
 }  // namespace Corvex::WebWrapper

@@ -18,6 +18,6 @@ public:
   FunctionCallResult<HTML_Object*> at(int index);
 };
 
-extern const ClassRows HTML_Array_Class;
+extern const ClassMembers HTML_Array_Class;
 
 }  // namespace Corvex::WebWrapper

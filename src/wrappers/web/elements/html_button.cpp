@@ -39,9 +39,6 @@ constexpr MethodRow buttonMethods[] = {
 
 }  // namespace
 
-const ClassRows HTML_ButtonBase_Class =
-    classRows("HTML_ButtonBase", "HTML_FormElement", buttonBaseProperties, buttonBaseMethods);
-const ClassRows HTML_Button_Class = classRows("HTML_Button", "HTML_ButtonBase", buttonMethods);
-const ClassRows HTML_ImageButton_Class = classRows("HTML_ImageButton", "HTML_ButtonBase");
-
+const ClassMembers HTML_ButtonBase_Class = classMembers(buttonBaseProperties, buttonBaseMethods);
+const ClassMembers HTML_Button_Class = classMembers(buttonMethods);
 }  // namespace Corvex::WebWrapper

@@ -39,8 +39,7 @@ public:
   const char* className() const override;
 };
 
-extern const ClassRows HTML_ButtonBase_Class;
-extern const ClassRows HTML_Button_Class;
-extern const ClassRows HTML_ImageButton_Class;
+extern const ClassMembers HTML_ButtonBase_Class;
+extern const ClassMembers HTML_Button_Class;
 
 }  // namespace Corvex::WebWrapper

@@ -40,7 +40,7 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_CheckBox_Class = classRows("HTML_CheckBox", "HTML_ButtonBase", properties, methods);
-const ClassRows HTML_RadioButton_Class = classRows("HTML_RadioButton", "HTML_ButtonBase", properties, methods);
+const ClassMembers HTML_CheckBox_Class = classMembers(properties, methods);
+const ClassMembers HTML_RadioButton_Class = classMembers(properties, methods);
 
 }  // namespace Corvex::WebWrapper

@@ -33,7 +33,7 @@ public:
   const char* className() const override;
 };
 
-extern const ClassRows HTML_CheckBox_Class;
-extern const ClassRows HTML_RadioButton_Class;
+extern const ClassMembers HTML_CheckBox_Class;
+extern const ClassMembers HTML_RadioButton_Class;
 
 }  // namespace Corvex::WebWrapper

@@ -38,6 +38,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_Document_Class = classRows("HTML_Document", "HTML_Object", methods);
+const ClassMembers HTML_Document_Class = classMembers(methods);
 
 }  // namespace Corvex::WebWrapper

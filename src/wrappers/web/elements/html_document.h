@@ -16,6 +16,6 @@ public:
   FunctionCallResult<HTML_Array*> getElementsByTagName(const QString& tagName);
 };
 
-extern const ClassRows HTML_Document_Class;
+extern const ClassMembers HTML_Document_Class;
 
 }  // namespace Corvex::WebWrapper

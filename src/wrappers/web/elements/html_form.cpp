@@ -16,6 +16,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_Form_Class = classRows("HTML_Form", "HTML_Object", methods);
+const ClassMembers HTML_Form_Class = classMembers(methods);
 
 }  // namespace Corvex::WebWrapper

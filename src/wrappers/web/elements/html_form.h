@@ -14,6 +14,6 @@ public:
   QString submit();
 };
 
-extern const ClassRows HTML_Form_Class;
+extern const ClassMembers HTML_Form_Class;
 
 }  // namespace Corvex::WebWrapper

@@ -35,6 +35,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_FormElement_Class = classRows("HTML_FormElement", "HTML_Object", properties, methods);
+const ClassMembers HTML_FormElement_Class = classMembers(properties, methods);
 
 }  // namespace Corvex::WebWrapper

@@ -23,6 +23,6 @@ protected:
   QString sendChangeEvent(const char* sentence) const;
 };
 
-extern const ClassRows HTML_FormElement_Class;
+extern const ClassMembers HTML_FormElement_Class;
 
 }  // namespace Corvex::WebWrapper

@@ -6,6 +6,4 @@ namespace Corvex::WebWrapper {
 
 const char* HTML_Image::className() const { return ScriptName; }
 
-const ClassRows HTML_Image_Class = classRows("HTML_Image", "HTML_Object");
-
 }  // namespace Corvex::WebWrapper

@@ -23,6 +23,7 @@ QString doubleClickAtX(HTML_Object& object, int modifierState, int x) {
 
 constexpr PropertyRow properties[] = {
     property<&HTML_Object::boundingClientRect>("boundingClientRect"),
+    property<&HTML_Object::cssProperties>("css"),
     property<&HTML_Object::domClassName>("domClassName"),
     property<&HTML_Object::hierarchicalQualifiedName>("domPath"),
     property<&HTML_Object::hasFocus>("hasFocus"),
@@ -56,6 +57,7 @@ constexpr MethodRow methods[] = {
     method<&doubleClickWith>("doubleClick", "modifierState"),
     method<&doubleClickAtX>("doubleClick", "modifierState", "x"),
     method<&HTML_Object::doubleClick>("doubleClick", "modifierState", "x", "y"),
+    method<&HTML_Object::evaluateXPath>("evaluateXPath", "expression"),
     method<&HTML_Object::firstChild>("firstChild"),
     method<&HTML_Object::height>("height"),
     method<&HTML_Object::hierarchicalQualifiedName>("hierarchicalQualifiedName"),
@@ -81,6 +83,7 @@ constexpr MethodRow methods[] = {
     method<overload<const char*, int>(&HTML_Object::setProperty)>("setProperty", "name", "value"),
     method<overload<const char*, bool>(&HTML_Object::setProperty)>("setProperty", "name", "value"),
     method<&HTML_Object::simplifiedInnerText>("simplifiedInnerText"),
+    method<&HTML_Object::style>("style"),
     method<&HTML_Object::styleDisplay>("styleDisplay"),
     method<&HTML_Object::styleVisibility>("styleVisibility"),
     method<&HTML_Object::tagName>("tagName"),
@@ -93,6 +96,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_Object_Class = classRows("HTML_Object", nullptr, properties, methods);
+const ClassMembers HTML_Object_Class = classMembers(properties, methods);
 
 }  // namespace Corvex::WebWrapper

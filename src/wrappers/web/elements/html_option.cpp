@@ -44,6 +44,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_Option_Class = classRows("HTML_Option", "HTML_Object", properties, methods);
+const ClassMembers HTML_Option_Class = classMembers(properties, methods);
 
 }  // namespace Corvex::WebWrapper

@@ -23,6 +23,6 @@ public:
   FunctionCallResult<int> index() const;
 };
 
-extern const ClassRows HTML_Option_Class;
+extern const ClassMembers HTML_Option_Class;
 
 }  // namespace Corvex::WebWrapper

@@ -233,6 +233,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_Select_Class = classRows("HTML_Select", "HTML_FormElement", properties, methods);
+const ClassMembers HTML_Select_Class = classMembers(properties, methods);
 
 }  // namespace Corvex::WebWrapper

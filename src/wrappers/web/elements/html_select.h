@@ -54,6 +54,6 @@ private:
   FunctionCallResult<std::vector<std::string>> selectedList(const char* function, const char* what) const;
 };
 
-extern const ClassRows HTML_Select_Class;
+extern const ClassMembers HTML_Select_Class;
 
 }  // namespace Corvex::WebWrapper

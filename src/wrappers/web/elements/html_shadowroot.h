@@ -13,6 +13,4 @@ public:
   const char* className() const override;
 };
 
-extern const ClassRows HTML_ShadowRoot_Class;
-
 }  // namespace Corvex::WebWrapper

@@ -77,8 +77,5 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_TextBase_Class = classRows("HTML_TextBase", "HTML_FormElement", properties, methods);
-const ClassRows HTML_Text_Class = classRows("HTML_Text", "HTML_TextBase");
-const ClassRows HTML_TextArea_Class = classRows("HTML_TextArea", "HTML_TextBase");
-
+const ClassMembers HTML_TextBase_Class = classMembers(properties, methods);
 }  // namespace Corvex::WebWrapper

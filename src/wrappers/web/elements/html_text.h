@@ -42,8 +42,6 @@ public:
   const char* className() const override;
 };
 
-extern const ClassRows HTML_TextBase_Class;
-extern const ClassRows HTML_Text_Class;
-extern const ClassRows HTML_TextArea_Class;
+extern const ClassMembers HTML_TextBase_Class;
 
 }  // namespace Corvex::WebWrapper

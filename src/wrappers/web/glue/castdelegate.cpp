@@ -6,19 +6,36 @@
 
 namespace Corvex::WebWrapper {
 
-HTML_Object_CastToStringDelegate::HTML_Object_CastToStringDelegate() : CastDelegate(QStringLiteral("HTML_Object")) {}
+namespace {
 
-bool HTML_Object_CastToStringDelegate::canCastTo(const Class* target) const {
+FunctionCallResult<QString> referenceOf(const SharedPtr<Object>& object) {
+  const HTML_Object* const native = retrieveObject(object);
+  return FunctionCallResult<QString>::success(native ? native->reference : QString());
+}
+
+}  // namespace
+
+bool CastToStringDelegate::canCastTo(const Class* target) const {
   return target && target == Inspector::self()->primitiveType(PrimitiveType::String);
 }
 
-bool HTML_Object_CastToStringDelegate::canCastFrom(const Class*) const { return false; }
+bool CastToStringDelegate::canCastFrom(const Class*) const { return false; }
 
-SharedPtr<Object> HTML_Object_CastToStringDelegate::castTo(SharedPtr<Object> object, const Class* target) const {
-  const HTML_Object* native = retrieveObject(object);
-  return native && canCastTo(target) ? Inspector::self()->wrapString(native->reference) : SharedPtr<Object>();
+SharedPtr<Object> CastToStringDelegate::castTo(SharedPtr<Object> object, const Class* target) const {
+  if (!object || object->isNull() || !canCastTo(target)) {
+    return nullptr;
+  }
+  const FunctionCallResult<QString> text = m_textOf(object);
+  if (text.failed()) {
+    Inspector::self()->reportScriptError(text.error);
+    return nullptr;
+  }
+  return Inspector::self()->wrapString(text.value);
 }
 
-SharedPtr<Object> HTML_Object_CastToStringDelegate::castFrom(SharedPtr<Object>, const Class*) const { return nullptr; }
+SharedPtr<Object> CastToStringDelegate::castFrom(SharedPtr<Object>, const Class*) const { return nullptr; }
+
+HTML_Object_CastToStringDelegate::HTML_Object_CastToStringDelegate()
+    : CastToStringDelegate(QStringLiteral("HTML_Object"), referenceOf) {}
 
 }  // namespace Corvex::WebWrapper

@@ -1,5 +1,6 @@
 #include "wrappers/web/glue/comparisondelegate.h"
 
+#include "shared/visibletext.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 
 #include <cstdio>
@@ -24,7 +25,7 @@ bool HTML_Object_ComparisonDelegate::sameObjects(SharedPtr<Object> a, SharedPtr<
   }
   const FunctionCallResult<bool> same = first->sameAs(second);
   if (same.failed()) {
-    std::fprintf(stderr, "%s\n", qUtf8Printable(same.error));
+    std::fprintf(stderr, "%s\n", qUtf8Printable(visibleText(same.error)));
   }
   return same.value;
 }

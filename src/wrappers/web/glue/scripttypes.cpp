@@ -31,6 +31,8 @@ const Class* scriptString() { return Inspector::self()->primitiveType(PrimitiveT
 
 const Class* scriptVoid() { return Inspector::self()->primitiveType(PrimitiveType::Void); }
 
+const Class* scriptAny() { return Inspector::self()->primitiveType(PrimitiveType::Any); }
+
 const Class* scriptClassByName(const char* name) {
   return Inspector::self()->globalNamespace()->getClass(QString::fromLatin1(name));
 }
@@ -38,6 +40,8 @@ const Class* scriptClassByName(const char* name) {
 SharedPtr<Object> wrapVoid() { return Inspector::self()->wrapVoid(); }
 
 const Class* ScriptArgument<QStringList>::type() { return ArrayClass::registeredClass(); }
+
+const Class* ScriptArgument<SharedPtr<Object>>::type() { return ArrayClass::registeredClass(); }
 
 QStringList ScriptArgument<QStringList>::from(const SharedPtr<Object>& value) {
   QStringList texts;
@@ -76,6 +80,10 @@ const Class* ScriptValue<std::vector<std::string>>::type() { return ArrayClass::
 SharedPtr<Object> ScriptValue<std::vector<std::string>>::wrap(const std::vector<std::string>& values) {
   return wrapList(
       values, [](const std::string& value) { return Inspector::self()->wrapString(QString::fromStdString(value)); });
+}
+
+SharedPtr<Object> wrapNative(void* native, const char* className) {
+  return wrapAndTransferOwnership(native, QLatin1String(className));
 }
 
 SharedPtr<Object> wrapPageObject(HTML_Object* object) { return wrapObject(object); }

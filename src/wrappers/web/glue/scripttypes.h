@@ -24,6 +24,7 @@ const Class* scriptBool();
 const Class* scriptDouble();
 const Class* scriptString();
 const Class* scriptVoid();
+const Class* scriptAny();
 const Class* scriptClassByName(const char* name);
 
 SharedPtr<Object> wrapVoid();
@@ -85,6 +86,13 @@ struct ScriptArgument<QStringList> {
   static QStringList from(const SharedPtr<Object>& value);
 };
 
+/// A list as it is, for members that look at the entries themselves.
+template <>
+struct ScriptArgument<SharedPtr<Object>> {
+  static const Class* type();
+  static SharedPtr<Object> from(const SharedPtr<Object>& value) { return value; }
+};
+
 HTML_Object* nativeObject(const SharedPtr<Object>& value);
 
 /// A page object, which stays the script's; null for the script's null.
@@ -143,6 +151,13 @@ struct ScriptValue<std::vector<std::string>> {
   static SharedPtr<Object> wrap(const std::vector<std::string>& values);
 };
 
+/// A value of any kind.
+template <>
+struct ScriptValue<SharedPtr<Object>> {
+  static constexpr ScriptType type = scriptAny;
+  static SharedPtr<Object> wrap(const SharedPtr<Object>& value) { return value; }
+};
+
 SharedPtr<Object> wrapPageObject(HTML_Object* object);
 
 /// The script owns the page object from then on.
@@ -152,6 +167,31 @@ struct ScriptValue<T*> {
   static const Class* type() { return scriptClassByName(T::ScriptName); }
   static SharedPtr<Object> wrap(T* value) { return wrapPageObject(value); }
 };
+
+/// A native object that is no page object, and which this room knows by the name of its script class alone. The script
+/// owns it from then on.
+template <typename T>
+constexpr const char* scriptNameOf = nullptr;
+template <>
+inline constexpr const char* scriptNameOf<HTML_Style> = "HTML_Style";
+template <>
+inline constexpr const char* scriptNameOf<HTML_XPathResult> = "HTML_XPathResult";
+template <>
+inline constexpr const char* scriptNameOf<CSSProperties> = "CSSProperties";
+
+SharedPtr<Object> wrapNative(void* native, const char* className);
+
+template <typename T>
+struct NamedValue {
+  static const Class* type() { return scriptClassByName(scriptNameOf<T>); }
+  static SharedPtr<Object> wrap(T* value) { return wrapNative(value, scriptNameOf<T>); }
+};
+template <>
+struct ScriptValue<HTML_Style*> : NamedValue<HTML_Style> {};
+template <>
+struct ScriptValue<HTML_XPathResult*> : NamedValue<HTML_XPathResult> {};
+template <>
+struct ScriptValue<CSSProperties*> : NamedValue<CSSProperties> {};
 
 /// What a native member's result means: a value that cannot fail ...
 template <typename T>

@@ -1,8 +1,10 @@
 // Gives: the event handlers of documents and windows, picking with the pointer, and the touch listeners.
-// Needs: event objects and sources, contexts, names, the change-listener installer, the touch switches, the transport.
+// Needs: runtime/natives, runtime/builtins, runtime/state, runtime/nodes, runtime/framewalk, runtime/contexts,
+//   runtime/text, runtime/eventobject, runtime/transport, runtime/longpoll, runtime/listeners, names/entry,
+//   geometry/screenrect, visibility, touch.
 
 function __corvex__isEventObject(ev) {
-  return !!ev && typeof ev.type == "string" && __corvex__srcElement(ev) !== undefined;
+  return !!ev && typeof ev.type === "string" && __corvex__srcElement(ev) !== undefined;
 }
 
 function __corvex__determineEventObject(eventParameter, win) {
@@ -16,27 +18,14 @@ function __corvex__determineEventObject(eventParameter, win) {
 }
 
 function __corvex__findEventInFrameWindowsForOldIE(w) {
-  var frames = window.top.__corvex.getAllFrames(w.document);
-  for (var i = 0; i < frames.length; ++i) {
-    try {
-      var frameWindow = frames[i].contentWindow;
-      if (__corvex__isEventObject(frameWindow.event)) {
-        return frameWindow.event;
-      }
-      var nested = __corvex__findEventInFrameWindowsForOldIE(frameWindow);
-      if (nested) {
-        return nested;
-      }
-    } catch (e) {
-      // A frame of another origin.
-    }
-  }
-  return undefined;
+  return __corvex__firstInFrames(w.document, function (frameWindow) {
+    return __corvex__isEventObject(frameWindow.event) && frameWindow.event;
+  });
 }
 
 // A canvas that is driven, recorded and picked in by the hook inside the application which paints it.
 function __corvex__isHookedWasmCanvas(elem) {
-  return elem.tagName == "CANVAS" && __corvex__listContains(elem.className, "corvex-qt-application-screen");
+  return elem.tagName === "CANVAS" && __corvex__listContains(elem.className, "corvex-qt-application-screen");
 }
 
 // The event that is going on and its window; both undefined where there is none.
@@ -47,7 +36,7 @@ function __corvex__findCurrentEvent(e) {
   }
   var contexts = __corvex__contextList();
   for (var i = 0; i < contexts.length; ++i) {
-    if (typeof contexts[i] == "function") {
+    if (typeof contexts[i] === "function") {
       continue;
     }
     ev = __corvex__findEventInFrameWindowsForOldIE(contexts[i]);
@@ -64,20 +53,20 @@ function __corvex__windowOfSource(win, elem) {
     return win;
   }
   var root = elem;
-  while (__corvex__node.parentNode(root)) {
-    root = __corvex__node.parentNode(root);
+  while (__corvex__nodeReader.parentNode(root)) {
+    root = __corvex__nodeReader.parentNode(root);
   }
   return root === win.document ? win : __corvex__findDocument(win, root) || win;
 }
 
 function __corvex__enterEventContext(win, d, source) {
   if (d) {
-    window.__corvex__ctxwin = __corvex__findDocument(win, d) || window.__corvex__ctxwin;
+    __corvex__windowState.ctxwin = __corvex__findDocument(win, d) || __corvex__windowState.ctxwin;
     return;
   }
   try {
     var found = __corvex__findDocument(win, __corvex__getDocumentForNode(source));
-    window.__corvex__ctxwin = found || window.__corvex__ctxwin;
+    __corvex__windowState.ctxwin = found || __corvex__windowState.ctxwin;
   } catch (e) {
     // The source is no node, or its document is out of reach: the context stays.
   }
@@ -86,13 +75,13 @@ function __corvex__enterEventContext(win, d, source) {
 // e: the event, where the browser passes one; d: the document that the listener sits on, for a frame's document.
 // There is no early exit while nothing is recorded: replay of some pages lives on what happens here.
 function __corvex__handler(e, d) {
-  var cw = window.__corvex__ctxwin;
+  var cw = __corvex__windowState.ctxwin;
   var current = __corvex__findCurrentEvent(e);
   var ev = current.event;
   if (!ev || !current.win) {
     return true;
   }
-  if (ev.type == "mousedown" || ev.type == "click") {
+  if (ev.type === "mousedown" || ev.type === "click") {
     __corvex__install__handler(ev, cw);
     // One tap is recorded once: as the touch.
     if (window.top.__corvex__recordTouchEvents()) {
@@ -104,13 +93,13 @@ function __corvex__handler(e, d) {
   __corvex__enterEventContext(current.win, d, source);
   var result = __corvex__logEvent(ev, w);
   if (cw) {
-    window.__corvex__ctxwin = cw;
+    __corvex__windowState.ctxwin = cw;
   }
   return result;
 }
 
 function __corvex__isSelectionElement(o) {
-  return !!o && typeof o.type == "string" && o.type.indexOf("select") != -1;
+  return !!o && typeof o.type === "string" && o.type.indexOf("select") !== -1;
 }
 
 // While it picks, the page never sees the event.
@@ -121,19 +110,6 @@ function __corvex__swallowEvent(e) {
   }
   if (e.preventDefault) {
     e.preventDefault();
-  }
-}
-
-// A waiting request must not catch code that is meant for the next page.
-function __corvex__stopLongPoll() {
-  try {
-    var wait = window.__corvex__asyncWaitRequest;
-    if (wait && wait.request) {
-      wait.startAgain = false;
-      wait.request.abort();
-    }
-  } catch (e) {
-    // It goes with the page.
   }
 }
 
@@ -158,7 +134,7 @@ function __corvex__logUnload(e) {
   window.old_onunload = undefined;
   try {
     if (handler) {
-      handler.call(window, e);
+      __corvex__natives.apply(handler, window, [e]);
     }
   } finally {
     __corvex__sendUnload(e);
@@ -170,7 +146,7 @@ function __corvex__logEvent(e, w) {
   if (!e) {
     return undefined;
   }
-  if (e.type == "unload") {
+  if (e.type === "unload") {
     __corvex__logUnload(e);
     return undefined;
   }
@@ -182,12 +158,12 @@ function __corvex__logEvent(e, w) {
     return undefined;
   }
   if (__corvex__isSelectionElement(o)) {
-    __corvex__lastSelectEvent = e;
-    __corvex__lastSelectEventObject = o;
+    __corvex__recordingState.lastSelectEvent = e;
+    __corvex__recordingState.lastSelectEventObject = o;
   }
   if (isPicking) {
     __corvex__swallowEvent(e);
-    if (o && (e.type == "mousedown" || e.type == "click")) {
+    if (o && (e.type === "mousedown" || e.type === "click")) {
       __corvex__logPickEvent(e, o, text);
     }
     return false;
@@ -201,30 +177,30 @@ function __corvex__logEventByWindow(e, w) {
   if (!__corvex__isEventObject(ev)) {
     ev = __corvex__determineEventObject(ev, window);
   }
-  var ctxwin = window.__corvex__ctxwin;
+  var ctxwin = __corvex__windowState.ctxwin;
   if (w.document) {
-    window.__corvex__ctxwin = w;
+    __corvex__windowState.ctxwin = w;
   }
-  if (ev && (ev.type == "mousedown" || ev.type == "click")) {
+  if (ev && (ev.type === "mousedown" || ev.type === "click")) {
     __corvex__install__handler(ev, w);
   }
   __corvex__logEvent(ev, w);
-  window.__corvex__ctxwin = ctxwin;
+  __corvex__windowState.ctxwin = ctxwin;
 }
 
 // Change handler of old Internet Explorer for selection elements.
 function __corvex__onChangeHandler() {
-  var source = __corvex__lastSelectEventObject;
+  var source = __corvex__recordingState.lastSelectEventObject;
   var doc = __corvex__getDocumentForNode(source);
-  if (source && doc && __corvex__lastSelectEvent) {
-    var ev = doc.createEventObject(__corvex__lastSelectEvent);
+  if (source && doc && __corvex__recordingState.lastSelectEvent) {
+    var ev = doc.createEventObject(__corvex__recordingState.lastSelectEvent);
     ev.type = "change";
     ev.secElement = source;
-    __corvex__handler(__corvex__lastSelectEvent, source);
+    __corvex__handler(__corvex__recordingState.lastSelectEvent, source);
   }
   // A later widget of another kind must not run into them.
-  __corvex__lastSelectEvent = null;
-  __corvex__lastSelectEventObject = null;
+  __corvex__recordingState.lastSelectEvent = null;
+  __corvex__recordingState.lastSelectEventObject = null;
 }
 
 function __corvex__tabIdLogEventParameter() {
@@ -235,10 +211,10 @@ function __corvex__tabIdLogEventParameter() {
 // url: the text to put the object behind.
 function __corvex__logPickEvent(e, o, url) {
   var node = o;
-  var nodeType = __corvex__node.nodeType(node);
+  var nodeType = __corvex__nodeReader.nodeType(node);
   while (node && nodeType !== 1 && nodeType !== 9) {
-    node = __corvex__node.parentNode(node);
-    nodeType = node && __corvex__node.nodeType(node);
+    node = __corvex__nodeReader.parentNode(node);
+    nodeType = node && __corvex__nodeReader.nodeType(node);
   }
   var text = url + "pickedObject&object=" + __corvex__nameOf(node) + __corvex__tabIdLogEventParameter();
   // So late that the click behind a press is swallowed, too.
@@ -249,7 +225,7 @@ function __corvex__logPickEvent(e, o, url) {
 }
 
 function __corvex__isFunction(obj) {
-  return typeof obj == "function" || Object.prototype.toString.call(obj) == "[object Function]";
+  return typeof obj === "function" || __corvex__natives.classOf(obj) === "[object Function]";
 }
 
 function __corvex__pickableObject(elem) {
@@ -270,11 +246,11 @@ function __corvex__pickableObject(elem) {
 
 // The name of the message is misspelled, and the driver knows it so.
 function __corvex__hoverElement() {
-  __corvex__hoverTimer = null;
+  __corvex__recordingState.hoverTimer = null;
   try {
-    var rect = __corvex__getScreenRect(__corvex__mouseElement);
+    var rect = __corvex__getScreenRect(__corvex__recordingState.mouseElement);
     __corvex__sendXMLHttpRequest(document, "highlighteWidget&info=" + rect + "," +
-      __corvex__nameOf(__corvex__mouseElement, true) + "&" + __corvex__natives.milliseconds(), true);
+      __corvex__nameOf(__corvex__recordingState.mouseElement, true) + "&" + __corvex__natives.milliseconds(), true);
   } catch (e) {
     // The element is gone.
   }
@@ -298,16 +274,16 @@ function __corvex__mousemove(e) {
     return;
   }
   var picked = __corvex__pickableObject(source);
-  if (!picked || picked === window.__corvex__selectedObject) {
+  if (!picked || picked === __corvex__recordingState.selectedObject) {
     return;
   }
-  window.__corvex__selectedObject = picked;
-  __corvex__mouseElement = picked;
+  __corvex__recordingState.selectedObject = picked;
+  __corvex__recordingState.mouseElement = picked;
   // A pointer that crosses many objects fast causes one message.
-  if (__corvex__hoverTimer) {
-    __corvex__natives.clearTimeout(__corvex__hoverTimer);
+  if (__corvex__recordingState.hoverTimer) {
+    __corvex__natives.clearTimeout(__corvex__recordingState.hoverTimer);
   }
-  __corvex__hoverTimer = __corvex__natives.setTimeout(__corvex__hoverElement, 50);
+  __corvex__recordingState.hoverTimer = __corvex__natives.setTimeout(__corvex__hoverElement, 50);
 }
 
 function __corvex__touchstart(ev) {

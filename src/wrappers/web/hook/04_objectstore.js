@@ -1,5 +1,5 @@
 // Gives: top.__corvex__globalObjectRefStore, references of page objects into it, and the objects of references.
-// Needs: __corvex__createMap.
+// Needs: runtime/natives, properties/path.
 
 top.__corvex__globalObjectRefStore = [];
 
@@ -16,22 +16,29 @@ var __corvex__refPlaces = (function () {
     known = 0;
   }
 
-  function learn() {
-    for (; known < store.length; ++known) {
-      if (places.get(store[known]) === undefined) {
-        places.set(store[known], known);
+  // An entry that cannot be read, such as a node of a closed window, hides no other.
+  function isAt(theStore, place, obj) {
+    try {
+      return theStore[place] === obj;
+    } catch (e) {
+      return false;
+    }
+  }
+
+  function learnEntry(place) {
+    try {
+      if (places.get(store[place]) === undefined) {
+        places.set(store[place], place);
       }
+    } catch (e) {
+      // As above.
     }
   }
 
   function walk(theStore, obj) {
     for (var i = 0; i < theStore.length; ++i) {
-      try {
-        if (theStore[i] === obj) {
-          return i;
-        }
-      } catch (e) {
-        // A node of a closed window.
+      if (isAt(theStore, i, obj)) {
+        return i;
       }
     }
     return -1;
@@ -46,12 +53,14 @@ var __corvex__refPlaces = (function () {
       if (!places) {
         return walk(theStore, obj);
       }
-      learn();
+      for (; known < store.length; ++known) {
+        learnEntry(known);
+      }
       var place = places.get(obj);
       if (place === undefined) {
         return -1;
       }
-      if (theStore[place] === obj) {
+      if (isAt(theStore, place, obj)) {
         return place;
       }
       // The entry was overwritten, so that other places may be wrong, too.
@@ -64,15 +73,14 @@ var __corvex__refPlaces = (function () {
 function __corvex__idForObject(obj) {
   var store = top.__corvex__globalObjectRefStore;
   var index = __corvex__refPlaces.find(store, obj);
-  if (index == -1) {
+  if (index === -1) {
     index = store.length;
     store[index] = obj;
   }
   return "top.__corvex__globalObjectRefStore[" + index + "]";
 }
 
-// The store's own references are read without eval, which a page's policy may forbid.
 function __corvex__objectOfReference(reference) {
   var place = /^top\.__corvex__globalObjectRefStore\[(\d+)\]$/.exec(reference);
-  return place ? top.__corvex__globalObjectRefStore[place[1]] : eval(reference);
+  return place ? top.__corvex__globalObjectRefStore[place[1]] : __corvex__valueAtPath(window, reference);
 }

@@ -1,9 +1,9 @@
 // Gives: frames by the names that a page gave them, and the window that a link or form addresses.
-// Needs: getAllFrames, the name test of frames.
+// Needs: runtime/natives, runtime/state, runtime/nodes, runtime/framewalk, input/contexts.
 
 function __corvex__findFrameByIdOrName(ctxdoc, frame) {
   var elem = __corvex__askDocument(ctxdoc, "getElementById", frame);
-  if (elem && (elem.tagName == "IFRAME" || elem.tagName == "FRAME")) {
+  if (elem && (elem.tagName === "IFRAME" || elem.tagName === "FRAME")) {
     return elem;
   }
   return __corvex__matchFrameByName(window.top.__corvex.getAllFrames(ctxdoc), frame);
@@ -13,27 +13,14 @@ function __corvex__findFrameRecursive(ctxdoc, frameName) {
   if (!ctxdoc) {
     return null;
   }
-  var found = __corvex__findFrameByIdOrName(ctxdoc, frameName);
-  if (found) {
-    return found;
-  }
-  var frames = window.top.__corvex.getAllFrames(ctxdoc);
-  for (var i = 0; i < frames.length; ++i) {
-    try {
-      found = __corvex__findFrameRecursive(frames[i].contentWindow.document, frameName);
-      if (found) {
-        return found;
-      }
-    } catch (e) {
-      // A frame of another origin.
-    }
-  }
-  return null;
+  return __corvex__findFrameByIdOrName(ctxdoc, frameName) || __corvex__firstInFrames(ctxdoc, function (frameWindow) {
+    return __corvex__findFrameByIdOrName(frameWindow.document, frameName);
+  }) || null;
 }
 
 var __corvex__targetWindows = {
   _top: function () {
-    return __corvex__topWindow;
+    return __corvex__windowState.topWindow;
   },
   _parent: function (start) {
     return start.parent;
@@ -48,15 +35,15 @@ var __corvex__targetWindows = {
 
 // A named window that is no frame is not resolved: a reference to it would not outlive the page.
 function __corvex__findTargetWindow(elem) {
-  var start = __corvex__node.ownerDocument(elem).defaultView;
+  var start = __corvex__nodeReader.ownerDocument(elem).defaultView;
   // A field of that name hides the target of a form.
-  var target = typeof elem.target == "object" ? Element.prototype.getAttribute.call(elem, "target") : elem.target;
+  var target = typeof elem.target === "object" ? __corvex__attributeOf(elem, "target") : elem.target;
   if (!target) {
     return start;
   }
-  if (__corvex__targetWindows.hasOwnProperty(target)) {
+  if (__corvex__natives.has(__corvex__targetWindows, target)) {
     return __corvex__targetWindows[target](start);
   }
-  var frame = __corvex__findFrameRecursive(__corvex__topWindow.document, target);
+  var frame = __corvex__findFrameRecursive(__corvex__windowState.topWindow.document, target);
   return frame ? frame.contentWindow : start;
 }

@@ -1,5 +1,5 @@
 // Gives: the questions that other fragments ask about the browser and the embedding.
-// Needs: nothing; an undefined flag counts as false.
+// Needs: nothing.
 
 // The flag's value, which is no boolean in general.
 function __corvex__topFlag(name) {
@@ -65,7 +65,7 @@ function __corvex__isSafariUsingWebDriver() {
 
 function __corvex__needToApplyDevicePixelRatio(win) {
   try {
-    return win.devicePixelRatio !== undefined && window.__corvex__os != "MacOSX" && !__corvex__isWKWebViewBrowser() &&
+    return win.devicePixelRatio !== undefined && window.__corvex__os !== "MacOSX" && !__corvex__isWKWebViewBrowser() &&
            !__corvex__isCocoaTouchWebViewBrowser();
   } catch (e) {
     return false;

@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.objectTreeInformation and readPropertiesFromObjects: a whole tree in one answer each.
-// Needs: childObjectAndInfo, the object store.
+// Needs: runtime/natives, runtime/children, objectstore.
 
 window.top.__corvex.objectTreeInformation = function (domNode) {
   var records = window.top.__corvex.childObjectAndInfo(domNode);
@@ -20,7 +20,7 @@ window.top.__corvex.readPropertiesFromObjects = function (objectinfolist) {
     if (object) {
       var values = {};
       for (var name in getters) {
-        if (Object.prototype.hasOwnProperty.call(getters, name)) {
+        if (__corvex__natives.has(getters, name)) {
           values[name] = getters[name]();
         }
       }

@@ -1,13 +1,15 @@
 // Gives: window.top.__corvex.simplifyText and getSimplifiedInnerText.
-// Needs: getPropertyValue.
+// Needs: properties/values.
 
-window.top.__corvex.simplifyText = function (text) {
+function __corvex__simplifiedText(text) {
   if (!text) {
     return text;
   }
   return text.replace(/\s+/g, " ").replace(/^ | $/g, "");
-};
+}
+
+window.top.__corvex.simplifyText = __corvex__simplifiedText;
 
 window.top.__corvex.getSimplifiedInnerText = function (o) {
-  return window.top.__corvex.simplifyText(window.top.__corvex.getPropertyValue(o, "innerText"));
+  return __corvex__simplifiedText(__corvex__propertyValue(o, "innerText"));
 };

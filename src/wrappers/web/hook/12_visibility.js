@@ -1,12 +1,12 @@
-// Gives: computed styles, and whether an element is shown at all (wherever it stands, whatever its size).
-// Needs: node property reads.
+// Gives: computed styles one by one and at once, and whether an element is shown at all (whatever its place and size).
+// Needs: runtime/natives, runtime/nodes, csscolor.
 
 function __corvex__styleInfo(elem) {
   this.obj = elem;
 }
 
 __corvex__styleInfo.prototype.hasComputedStyle = function (obj) {
-  return !!__corvex__node.ownerDocument(obj).defaultView.getComputedStyle;
+  return !!__corvex__nodeReader.ownerDocument(obj).defaultView.getComputedStyle;
 };
 
 // Undefined where the style cannot be read.
@@ -16,11 +16,11 @@ __corvex__styleInfo.prototype.styleProperty = function (prop) {
       return undefined;
     }
     if (this.hasComputedStyle(this.obj)) {
-      return __corvex__node.ownerDocument(this.obj).defaultView.getComputedStyle(this.obj, null)[prop];
+      return __corvex__nodeReader.ownerDocument(this.obj).defaultView.getComputedStyle(this.obj, null)[prop];
     }
     var obj = this.obj;
-    while (obj.currentStyle[prop] == "inherit") {
-      obj = __corvex__node.parentNode(obj);
+    while (obj.currentStyle[prop] === "inherit") {
+      obj = __corvex__nodeReader.parentNode(obj);
     }
     return obj.currentStyle[prop];
   } catch (e) {
@@ -28,11 +28,32 @@ __corvex__styleInfo.prototype.styleProperty = function (prop) {
   }
 };
 
+// The values of the named properties: colours as records of their components, what cannot be read as "undefined".
+function __corvex__allCSSProperties(domObj, propNames) {
+  var style = new __corvex__styleInfo(domObj);
+  var all = {};
+  for (var i = 0; i < propNames.length; ++i) {
+    var value = style.styleProperty(propNames[i]);
+    var color = null;
+    if (value !== undefined && propNames[i].toLowerCase().indexOf("color") >= 0) {
+      try {
+        color = __corvex__parseCSSColor(value);
+      } catch (e) {
+        color = null;
+      }
+    }
+    all[propNames[i]] = color ? { red: color[0], green: color[1], blue: color[2], alpha: color[3] } :
+      value === undefined ? "undefined" : value;
+  }
+  return all;
+}
+
 function __corvex__hasDisplayNone(elem) {
   try {
     // A document ends the walk: it has no style.
-    for (var node = elem; node && __corvex__node.nodeType(node) !== 9; node = __corvex__node.parentNode(node)) {
-      if (new __corvex__styleInfo(node).styleProperty("display") == "none") {
+    var reader = __corvex__nodeReader;
+    for (var node = elem; node && reader.nodeType(node) !== 9; node = reader.parentNode(node)) {
+      if (new __corvex__styleInfo(node).styleProperty("display") === "none") {
         return true;
       }
     }
@@ -66,15 +87,15 @@ var __corvex__isSurelyVisible = (function () {
 
 function __corvex__isVisibleByStyle(elem) {
   try {
-    if (!elem || elem === __corvex__node.ownerDocument(elem)) {
+    if (!elem || elem === __corvex__nodeReader.ownerDocument(elem)) {
       return true;
     }
     var style = new __corvex__styleInfo(elem);
     // The computed visibility holds the parents' state already; the computed display does not.
-    if (style.styleProperty("display") == "none" || style.styleProperty("visibility") == "hidden") {
+    if (style.styleProperty("display") === "none" || style.styleProperty("visibility") === "hidden") {
       return false;
     }
-    return !__corvex__hasDisplayNone(__corvex__node.parentNode(elem));
+    return !__corvex__hasDisplayNone(__corvex__nodeReader.parentNode(elem));
   } catch (e) {
     return true;
   }
@@ -85,5 +106,5 @@ function __corvex__isVisible(elem) {
 }
 
 function __corvex__cssToPx(sizeVal) {
-  return typeof sizeVal == "string" && /px$/.test(sizeVal) ? parseInt(sizeVal, 10) : sizeVal;
+  return typeof sizeVal === "string" && /px$/.test(sizeVal) ? parseInt(sizeVal, 10) : sizeVal;
 }

@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.getTextContent, the text that a reader takes as this element's own.
-// Needs: simplifyText, node property reads.
+// Needs: runtime/natives, runtime/nodes, simplifiedtext.
 
 window.top.__corvex.getTextContent = (function () {
   var textTags = {
@@ -9,15 +9,15 @@ window.top.__corvex.getTextContent = (function () {
   };
 
   function upperTagName(node) {
-    return String(__corvex__node.tagName(node) || "").toUpperCase();
+    return String(__corvex__nodeReader.tagName(node) || "").toUpperCase();
   }
 
   function isElement(node) {
-    return __corvex__node.nodeType(node) === 1;
+    return __corvex__nodeReader.nodeType(node) === 1;
   }
 
   function hasFirstChildTextNodeOfMultipleChildren(element) {
-    var children = __corvex__node.childNodes(element);
+    var children = __corvex__nodeReader.childNodes(element);
     for (var i = 0; i < children.length; ++i) {
       if (isElement(children[i])) {
         return false;
@@ -30,32 +30,32 @@ window.top.__corvex.getTextContent = (function () {
   }
 
   function shouldHaveTextContent(element) {
-    if (!element || !__corvex__node.tagName(element)) {
+    if (!element || !__corvex__nodeReader.tagName(element)) {
       return false;
     }
-    if (textTags.hasOwnProperty(upperTagName(element))) {
+    if (__corvex__natives.has(textTags, upperTagName(element))) {
       return true;
     }
     if (!hasFirstChildTextNodeOfMultipleChildren(element)) {
       return false;
     }
     // The parent holds the text already.
-    var parent = __corvex__node.parentNode(element);
-    return !(parent && __corvex__node.tagName(parent) && upperTagName(parent) != "BODY" &&
+    var parent = __corvex__nodeReader.parentNode(element);
+    return !(parent && __corvex__nodeReader.tagName(parent) && upperTagName(parent) !== "BODY" &&
              shouldHaveTextContent(parent));
   }
 
   function assembleTextContent(element) {
     var parts = [];
-    var children = __corvex__node.childNodes(element);
+    var children = __corvex__nodeReader.childNodes(element);
     for (var i = 0; i < children.length; ++i) {
       var child = children[i];
       var tagName = upperTagName(child);
       if (!isElement(child)) {
         parts.push(window.top.__corvex.simplifyText(child.nodeValue));
-      } else if (tagName == "BR") {
+      } else if (tagName === "BR") {
         parts.push("\n");
-      } else if (tagName == "SELECT" || tagName == "TEXTAREA") {
+      } else if (tagName === "SELECT" || tagName === "TEXTAREA") {
         parts.push(assembleTextContent(child));
       }
     }

@@ -1,5 +1,6 @@
 // Gives: __corvex__matchObject and its parts: does an element have a property's value?; the standard matcher.
-// Needs: window.top.__corvex; when called, the text, visibility and name functions, Corvex.hasClassName, the transport.
+// Needs: runtime/natives, runtime/state, runtime/nodes, runtime/text, runtime/transport, names/properties,
+//   properties/path, simplifiedtext, visibility, search/kept, api/forwarders.
 
 var PropertyValue_StrictMatch = 0;
 var PropertyValue_RegExp = 1;
@@ -77,6 +78,7 @@ function __corvex__wildcardToRegExp(s) {
 function __corvex__propMatches(prop, s, clean) {
   switch (prop.modifiers) {
     case PropertyValue_StrictMatch:
+      // eslint-disable-next-line eqeqeq -- numbers match their digits
       return (clean ? __corvex__clean(prop.value) : prop.value) == s;
     case PropertyValue_RegExp:
     case PropertyValue_Wildcard:
@@ -122,7 +124,7 @@ function __corvex__wantsTrue(value) {
 
 var __corvex__propertyTests = {
   id: function (o, value) {
-    return __corvex__propMatches(value, __corvex__idHelper(__corvex__node.id(o)));
+    return __corvex__propMatches(value, __corvex__idHelper(__corvex__nodeReader.id(o)));
   },
   img_alt: function (o, value) {
     return __corvex__matchesPlainOrCleaned(value, o.alt);
@@ -141,23 +143,6 @@ var __corvex__propertyTests = {
   }
 };
 
-// A plain path is walked, since a page's policy may forbid eval.
-function __corvex__valueAtPath(o, path) {
-  if (!/^[\w$]+(\.[\w$]+)*$/.test(path)) {
-    return eval("o." + path);
-  }
-  var names = path.split(".");
-  for (var i = 0; i < names.length; ++i) {
-    o = o[names[i]];
-  }
-  return o;
-}
-
-// A form may hide the function behind a field; what is no element has none.
-function __corvex__attributeOf(o, name) {
-  return typeof o.getAttribute === "function" ? o.getAttribute(name) : Element.prototype.getAttribute.call(o, name);
-}
-
 function __corvex__otherPropertyMatches(o, prop, value) {
   var current = o[prop];
   if (typeof current === "boolean") {
@@ -175,7 +160,7 @@ function __corvex__otherPropertyMatches(o, prop, value) {
 
 // A function that tells whether an element has this value of this property.
 function __corvex__testOfProperty(prop, value) {
-  if (Object.prototype.hasOwnProperty.call(__corvex__propertyTests, prop)) {
+  if (__corvex__natives.has(__corvex__propertyTests, prop)) {
     var test = __corvex__propertyTests[prop];
     return function (o) {
       return test(o, value);

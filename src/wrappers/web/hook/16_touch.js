@@ -1,5 +1,5 @@
 // Gives: whether input is replayed, and recorded, as touches.
-// Needs: the browser predicates.
+// Needs: browsers.
 
 function __corvex__emulateViaTouchEvents() {
   return !!(__corvex__isCocoaTouchWebViewBrowser() || __corvex__isAndroidWebViewBrowser() ||

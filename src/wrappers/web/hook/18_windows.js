@@ -1,10 +1,10 @@
 // Gives: dates as text for the driver, and whether the browser side watches windows itself.
-// Needs: the top-window flags.
+// Needs: runtime/natives, browsers.
 
 // Year, month from 1, day, hours, minutes in the local zone; undefined for anything but a date.
 function __corvex__convertJSDateToDateTimeString(date) {
   // By its class text: instanceof fails for a date of another frame.
-  if (Object.prototype.toString.call(date) != "[object Date]") {
+  if (__corvex__natives.classOf(date) !== "[object Date]") {
     return undefined;
   }
   return [date.getFullYear(), date.getMonth() + 1, date.getDate(), date.getHours(), date.getMinutes()].join(",");

@@ -1,16 +1,16 @@
 // Gives: __corvexDOMAPI, traversal that honours the node filter.
-// Needs: node property reads.
+// Needs: runtime/nodes.
 /* global __corvex__filter__non__element__nodes */
 
 var __corvexDOMAPI = (function () {
   function isElementNode(e) {
-    return __corvex__node.nodeType(e) === 1;
+    return __corvex__nodeReader.nodeType(e) === 1;
   }
 
   function filterNonElementNodes() {
     try {
       // Asked first: an exception at each step of a walk would be dear where the flag is not set.
-      return typeof __corvex__filter__non__element__nodes != "undefined" && !!__corvex__filter__non__element__nodes;
+      return typeof __corvex__filter__non__element__nodes !== "undefined" && !!__corvex__filter__non__element__nodes;
     } catch (e) {
       return false;
     }
@@ -20,14 +20,14 @@ var __corvexDOMAPI = (function () {
   function traversal(property, direction) {
     return function (e) {
       if (!filterNonElementNodes()) {
-        return __corvex__node[property](e);
+        return __corvex__nodeReader[property](e);
       }
       if (!e) {
         return undefined;
       }
-      var node = __corvex__node[property](e);
+      var node = __corvex__nodeReader[property](e);
       while (node && !isElementNode(node)) {
-        node = __corvex__node[direction](node);
+        node = __corvex__nodeReader[direction](node);
       }
       return node;
     };
@@ -47,7 +47,7 @@ var __corvexDOMAPI = (function () {
 
   api.numChildren = function (e) {
     if (!filterNonElementNodes()) {
-      return __corvex__node.childNodes(e).length;
+      return __corvex__nodeReader.childNodes(e).length;
     }
     if (!e) {
       return undefined;

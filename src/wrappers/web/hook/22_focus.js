@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.hasFocus, through shadow roots and frames.
-// Needs: node property reads, contexts.
+// Needs: runtime/nodes, runtime/contexts.
 
 window.top.__corvex.hasFocus = (function () {
   function isFocusedInFrames(window_) {
@@ -12,8 +12,8 @@ window.top.__corvex.hasFocus = (function () {
   }
 
   return function (element) {
-    var doc = __corvex__node.ownerDocument(element);
-    if (typeof ShadowRoot != "undefined") {
+    var doc = __corvex__nodeReader.ownerDocument(element);
+    if (typeof ShadowRoot !== "undefined") {
       doc = element.getRootNode();
       while (__corvex__isShadowRoot(doc)) {
         if (doc.activeElement !== element) {

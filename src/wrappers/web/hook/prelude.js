@@ -1,5 +1,7 @@
-// Gives window.top.__corvex, the page-wide namespace object; changes nothing where it already is.
-// Needs nothing, and is evaluated before everything else.
+// Gives: window.top.__corvex, the page-wide namespace object; changes nothing where it already is.
+// Needs: nothing.
+
+// It is evaluated before everything else.
 if (!window.top.__corvex) {
   window.top.__corvex = {
     glassPaneIds: [],

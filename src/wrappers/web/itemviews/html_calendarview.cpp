@@ -23,6 +23,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_CalendarView_Class = classRows("HTML_CalendarView", "HTML_CustomItemView", methods);
+const ClassMembers HTML_CalendarView_Class = classMembers(methods);
 
 }  // namespace Corvex::WebWrapper

@@ -22,6 +22,6 @@ public:
   FunctionCallResult<HTML_Object*> visibleEventAt(int index);
 };
 
-extern const ClassRows HTML_CalendarView_Class;
+extern const ClassMembers HTML_CalendarView_Class;
 
 }  // namespace Corvex::WebWrapper

@@ -34,6 +34,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_CustomItem_Class = classRows("HTML_CustomItem", "HTML_Object", methods);
+const ClassMembers HTML_CustomItem_Class = classMembers(methods);
 
 }  // namespace Corvex::WebWrapper

@@ -27,6 +27,6 @@ public:
   FunctionCallResult<HTML_Object*> itemView();
 };
 
-extern const ClassRows HTML_CustomItem_Class;
+extern const ClassMembers HTML_CustomItem_Class;
 
 }  // namespace Corvex::WebWrapper

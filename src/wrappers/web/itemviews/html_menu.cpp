@@ -29,6 +29,6 @@ constexpr MethodRow methods[] = {
 
 }  // namespace
 
-const ClassRows HTML_Menu_Class = classRows("HTML_Menu", "HTML_Object", properties, methods);
+const ClassMembers HTML_Menu_Class = classMembers(properties, methods);
 
 }  // namespace Corvex::WebWrapper

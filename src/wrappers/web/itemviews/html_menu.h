@@ -22,6 +22,6 @@ public:
   FunctionCallResult<HTML_MenuItem*> itemAt(int index);
 };
 
-extern const ClassRows HTML_Menu_Class;
+extern const ClassMembers HTML_Menu_Class;
 
 }  // namespace Corvex::WebWrapper

@@ -1,3 +1,4 @@
+#include "shared/visibletext.h"
 #include "wrappers/web/itemviews/html_customitem.h"
 #include "wrappers/web/lookup/itemchildren.h"
 #include "wrappers/web/lookup/webobjectdelegate.h"
@@ -22,7 +23,7 @@ template <typename T>
 bool isThere(const FunctionCallResult<T*>& result, bool* failed) {
   const std::unique_ptr<T> object(result.value);
   if (result.failed()) {
-    std::fprintf(stderr, "%s\n", qUtf8Printable(result.error));
+    std::fprintf(stderr, "%s\n", qUtf8Printable(visibleText(result.error)));
     *failed = true;
   }
   return object != nullptr;
@@ -62,7 +63,7 @@ QString CustomViewItemPropertyDelegate::name(SharedPtr<Object> item) const {
   }
   const FunctionCallResult<QString> name = native->name();
   if (name.failed()) {
-    std::fprintf(stderr, "%s\n", qUtf8Printable(name.error));
+    std::fprintf(stderr, "%s\n", qUtf8Printable(visibleText(name.error)));
   }
   return name.value;
 }
@@ -77,7 +78,7 @@ ObjectList CustomViewItemPropertyDelegate::children(SharedPtr<Object> item) cons
   const FunctionCallResult<ObjectList> items =
       fetchItems("__corvex__fetchItemChildren", *native, native->extensionObject());
   if (items.failed()) {
-    std::fprintf(stderr, "Error obtaining itemview children: %s\n", qUtf8Printable(items.error));
+    std::fprintf(stderr, "Error obtaining itemview children: %s\n", qUtf8Printable(visibleText(items.error)));
   }
   return items.value;
 }

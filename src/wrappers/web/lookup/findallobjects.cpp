@@ -21,7 +21,9 @@ ObjectList searchPage(HTMLComponent* page, const QString& name, const QString& c
   const QString below = container.isEmpty() ? QString() : QLatin1String(", ") + container;
   const QString code = QLatin1String("window.top.__corvex.findAllObjects(\"") +
                        escapeObjectNameForUseAsStringLiteral(name) + QLatin1Char('"') + below + QLatin1Char(')');
-  const FunctionCallResult<Json::Value> found = callJavaScriptFunction(page, code, objectLookupTimeout());
+  const FunctionCallResult<Json::Value> found = container.isEmpty()
+                                                    ? callInAnyDocument(page, code, objectLookupTimeout())
+                                                    : callJavaScriptFunction(page, code, objectLookupTimeout());
   if (found.failed() || !found.value.isArray()) {
     Inspector::self()->reportScriptError(
         QStringLiteral("Failed to look up all objects with the name '%1': %2")

@@ -21,9 +21,8 @@ unsigned int objectLookupTimeout() {
   return isNumber ? timeoutMs : defaultTimeoutMs;
 }
 
-SharedPtr<Object> findObjectWithJsFunction(const QString& code, const QString& name, HTMLComponent* component) {
-  const FunctionCallResult<HTML_Object*> result =
-      htmlObjectFromJavaScriptResult(component, code, name, objectLookupTimeout());
+static SharedPtr<Object> foundObject(const FunctionCallResult<HTML_Object*>& result, const QString& code,
+                                     const QString& name) {
   TRACE_POINT("WebObjectDelegate", QLatin1String("Generated html object for name ") + name + QLatin1String(": ") +
                                        (result.value ? result.value->reference : QStringLiteral("null")));
   if (result.failed()) {
@@ -36,6 +35,14 @@ SharedPtr<Object> findObjectWithJsFunction(const QString& code, const QString& n
   }
   Inspector::self()->removeUnmatchedProperties(unescape(name));
   return wrapObject(result.value);
+}
+
+SharedPtr<Object> findObjectWithJsFunction(const QString& code, const QString& name, HTMLComponent* component) {
+  return foundObject(htmlObjectFromJavaScriptResult(component, code, name, objectLookupTimeout()), code, name);
+}
+
+SharedPtr<Object> findFromRootWithJsFunction(const QString& code, const QString& name, HTMLComponent* component) {
+  return foundObject(htmlObjectFromAnyDocument(component, code, name, objectLookupTimeout()), code, name);
 }
 
 SharedPtr<Object> foundInContainer(const SharedPtr<Object>& object, const ObjectName& name) {

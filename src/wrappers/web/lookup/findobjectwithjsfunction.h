@@ -14,6 +14,9 @@ class HTMLComponent;
 /// CORVEX_WEB_OBJECT_LOOKUP_TIMEOUT has the time limit in milliseconds, 5000 without it.
 SharedPtr<Object> findObjectWithJsFunction(const QString& code, const QString& name, HTMLComponent* component);
 
+/// The same for code without a reference, which looks from the root of whatever document is there.
+SharedPtr<Object> findFromRootWithJsFunction(const QString& code, const QString& name, HTMLComponent* component);
+
 /// The time limit of a lookup in milliseconds, from the environment.
 unsigned int objectLookupTimeout();
 

@@ -1,4 +1,5 @@
 #include "corvexhook/inspector.h"
+#include "shared/visibletext.h"
 #include "tracelib/tracepoint.h"
 #include "wrappers/web/lookup/containers.h"
 #include "wrappers/web/lookup/findobjectwithjsfunction.h"
@@ -24,7 +25,9 @@ const unsigned int childInfoTimeoutMs = 60000;
 
 bool isReachable(const HTML_Object* object) { return object && object->component && object->component->isAvailable(); }
 
-void printError(const char* format, const QString& text) { std::fprintf(stderr, format, qUtf8Printable(text)); }
+void printError(const char* format, const QString& text) {
+  std::fprintf(stderr, format, qUtf8Printable(visibleText(text)));
+}
 
 }  // namespace
 
@@ -146,7 +149,7 @@ ObjectList HTMLObjectHierarchyDelegate::children(SharedPtr<Object> object) const
   }
   // Other work may have changed the cache during the page call.
   list.append(m_childCache.value(object));
-  list.append(extensionChildren(retrieveObject(object)));
+  list.append(itemsOf(retrieveObject(object)));
   return list;
 }
 

@@ -1,5 +1,6 @@
 #include "wrappers/web/lookup/itemchildren.h"
 
+#include "shared/visibletext.h"
 #include "wrappers/web/itemviews/html_calendarview.h"
 #include "wrappers/web/itemviews/html_menu.h"
 #include "wrappers/web/object/retrievehtmlobject.h"
@@ -19,65 +20,6 @@ void append(HTML_Object* object, ObjectList* list) {
     list->push_back(wrapObject(object));
   }
 }
-
-ObjectList itemsOfView(HTML_Object* object) {
-  const auto* view = dynamic_cast<HTML_CustomItemView*>(object);
-  if (!view) {
-    return {};
-  }
-  const FunctionCallResult<ObjectList> items =
-      fetchItems("__corvex__fetchItemViewChildren", *view, view->extensionObject());
-  if (items.failed()) {
-    std::fprintf(stderr, "Error obtaining itemview children: %s\n", qUtf8Printable(items.error));
-  }
-  return items.value;
-}
-
-ObjectList itemsOfMenu(HTML_Object* object) {
-  ObjectList list;
-  auto* menu = dynamic_cast<HTML_Menu*>(object);
-  const FunctionCallResult<int> count = menu ? menu->numItems() : FunctionCallResult<int>::success(0);
-  if (count.failed()) {
-    std::fprintf(stderr, "Error obtaining number of menu items: %s\n", qUtf8Printable(count.error));
-  }
-  for (int i = 0; i < count.value; ++i) {
-    const FunctionCallResult<HTML_MenuItem*> item = menu->itemAt(i);
-    if (item.failed()) {
-      std::fprintf(stderr, "%s\n", qUtf8Printable(item.error));
-      return list;
-    }
-    append(item.value, &list);
-  }
-  return list;
-}
-
-ObjectList eventsOfCalendar(HTML_Object* object) {
-  ObjectList list;
-  auto* calendar = dynamic_cast<HTML_CalendarView*>(object);
-  const FunctionCallResult<int> count = calendar ? calendar->numVisibleEvents() : FunctionCallResult<int>::success(0);
-  if (count.failed()) {
-    std::fprintf(stderr, "Error obtaining number of events: %s\n", qUtf8Printable(count.error));
-  }
-  for (int i = 0; i < count.value; ++i) {
-    const FunctionCallResult<HTML_Object*> event = calendar->visibleEventAt(i);
-    if (event.failed()) {
-      std::fprintf(stderr, "Error obtaining event at %d: %s\n", i, qUtf8Printable(event.error));
-    }
-    append(event.value, &list);
-  }
-  return list;
-}
-
-struct Row {
-  const char* className;
-  ObjectList (*children)(HTML_Object* object);
-};
-
-const Row rows[] = {
-    {HTML_CustomItemView::ScriptName, itemsOfView},
-    {HTML_Menu::ScriptName, itemsOfMenu},
-    {HTML_CalendarView::ScriptName, eventsOfCalendar},
-};
 
 }  // namespace
 
@@ -113,14 +55,52 @@ FunctionCallResult<ObjectList> fetchItems(const char* function, const HTML_Objec
              : FunctionCallResult<ObjectList>::failure(answer.text);
 }
 
-ObjectList extensionChildren(HTML_Object* object) {
-  const QLatin1String className(object->className());
-  for (const Row& row : rows) {
-    if (className == QLatin1String(row.className)) {
-      return row.children(object);
-    }
+ObjectList itemsOfView(HTML_Object* object) {
+  const auto* view = dynamic_cast<HTML_CustomItemView*>(object);
+  if (!view) {
+    return {};
   }
-  return {};
+  const FunctionCallResult<ObjectList> items =
+      fetchItems("__corvex__fetchItemViewChildren", *view, view->extensionObject());
+  if (items.failed()) {
+    std::fprintf(stderr, "Error obtaining itemview children: %s\n", qUtf8Printable(visibleText(items.error)));
+  }
+  return items.value;
+}
+
+ObjectList itemsOfMenu(HTML_Object* object) {
+  ObjectList list;
+  auto* menu = dynamic_cast<HTML_Menu*>(object);
+  const FunctionCallResult<int> count = menu ? menu->numItems() : FunctionCallResult<int>::success(0);
+  if (count.failed()) {
+    std::fprintf(stderr, "Error obtaining number of menu items: %s\n", qUtf8Printable(visibleText(count.error)));
+  }
+  for (int i = 0; i < count.value; ++i) {
+    const FunctionCallResult<HTML_MenuItem*> item = menu->itemAt(i);
+    if (item.failed()) {
+      std::fprintf(stderr, "%s\n", qUtf8Printable(visibleText(item.error)));
+      return list;
+    }
+    append(item.value, &list);
+  }
+  return list;
+}
+
+ObjectList eventsOfCalendar(HTML_Object* object) {
+  ObjectList list;
+  auto* calendar = dynamic_cast<HTML_CalendarView*>(object);
+  const FunctionCallResult<int> count = calendar ? calendar->numVisibleEvents() : FunctionCallResult<int>::success(0);
+  if (count.failed()) {
+    std::fprintf(stderr, "Error obtaining number of events: %s\n", qUtf8Printable(visibleText(count.error)));
+  }
+  for (int i = 0; i < count.value; ++i) {
+    const FunctionCallResult<HTML_Object*> event = calendar->visibleEventAt(i);
+    if (event.failed()) {
+      std::fprintf(stderr, "Error obtaining event at %d: %s\n", i, qUtf8Printable(visibleText(event.error)));
+    }
+    append(event.value, &list);
+  }
+  return list;
 }
 
 }  // namespace Corvex::WebWrapper

@@ -1,3 +1,4 @@
+#include "shared/visibletext.h"
 #include "wrappers/web/lookup/webobjectdelegate.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 
@@ -18,8 +19,8 @@ bool WebObjectComparisonDelegate::sameObjects(SharedPtr<Object> a, SharedPtr<Obj
   const JavaScriptAnswer answer = first->evaluateJS(
       QStringLiteral("if( %1 === %2 ) { true; } else { false; }").arg(first->reference, second->reference));
   if (!answer.succeeded()) {
-    std::fprintf(stderr, "Error comparing JS references %s and %s: %s\n", qUtf8Printable(first->reference),
-                 qUtf8Printable(second->reference), qUtf8Printable(answer.text));
+    std::fprintf(stderr, "Error comparing JS references %s and %s: %s\n", qUtf8Printable(visibleText(first->reference)),
+                 qUtf8Printable(visibleText(second->reference)), qUtf8Printable(visibleText(answer.text)));
     return false;
   }
   return answer.text == QLatin1String("true");

@@ -85,7 +85,7 @@ SharedPtr<Object> WebToplevelDelegate::childByName(SharedPtr<Object> root, const
   if (!name.startsWith(documentName)) {
     const QString code = QLatin1String("__corvex__findObjectByHeuristic(\"") +
                          escapeObjectNameForUseAsStringLiteral(name) + QLatin1String("\");");
-    return findObjectWithJsFunction(code, name, connection);
+    return findFromRootWithJsFunction(code, name, connection);
   }
   const FunctionCallResult<HTML_Object*> result = documentByContextName(connection, name);
   if (result.failed()) {
@@ -112,7 +112,7 @@ SharedPtr<Object> WebToplevelDelegate::objectByQualifiedName(SharedPtr<Object> r
   const QString qualifiedName = inPage->qualifiedName();
   const QString code = QLatin1String("__corvex__findObject(\"") + escapeObjectNameForUseAsStringLiteral(qualifiedName) +
                        QLatin1String("\");");
-  return findObjectWithJsFunction(code, qualifiedName, connection);
+  return findFromRootWithJsFunction(code, qualifiedName, connection);
 }
 
 SharedPtr<Object> WebToplevelDelegate::objectInContainer(std::list<ObjectName> parts, const ObjectName& name) const {

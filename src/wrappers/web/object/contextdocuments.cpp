@@ -7,7 +7,7 @@
 namespace Corvex::WebWrapper {
 
 FunctionCallResult<HTML_Object*> contextDocument(HTMLComponent* component) {
-  return htmlObjectFromJavaScriptResult(
+  return htmlObjectFromAnyDocument(
       component,
       QStringLiteral("(function() { if( !window.__corvex__ctxwin ) { window.__corvex__ctxwin = window } "
                      "return window.__corvex__ctxwin.document; }());"),
@@ -18,7 +18,7 @@ FunctionCallResult<HTML_Object*> documentByContextName(HTMLComponent* component,
   const int open = name.indexOf(QLatin1Char('['));
   const int close = name.indexOf(QLatin1Char(']'));
   const QString context = open >= 0 && close > open ? name.mid(open + 1, close - open - 1) : QString();
-  const FunctionCallResult<HTML_Object*> document = htmlObjectFromJavaScriptResult(
+  const FunctionCallResult<HTML_Object*> document = htmlObjectFromAnyDocument(
       component, QStringLiteral("__corvex__documentOfContext('%1');").arg(escapeQuoteWithBackslash(context)), QString(),
       0);
   if (!document.failed() && document.value) {

@@ -2,6 +2,8 @@
 
 #include "wrappers/web/object/webobject.h"
 
+#include <QRegularExpression>
+
 #include <iterator>
 
 namespace Corvex::WebWrapper {
@@ -10,13 +12,15 @@ namespace Corvex::WebWrapper {
 ReferenceRegistry& referencedObjects = *new ReferenceRegistry;
 ReferenceRegistry& referencedStyles = *new ReferenceRegistry;
 ReferenceRegistry& referencedXPathResults = *new ReferenceRegistry;
+ReferenceRegistry& referencedValues = *new ReferenceRegistry;
 
 namespace {
 
 int ocnt = 0;
 
 // In the order in which they are swept.
-ReferenceRegistry* const registries[] = {&referencedObjects, &referencedStyles, &referencedXPathResults};
+ReferenceRegistry* const registries[] = {&referencedObjects, &referencedStyles, &referencedXPathResults,
+                                         &referencedValues};
 
 }  // namespace
 
@@ -59,6 +63,12 @@ void createdHtmlObject(HTML_Object* object) { referencedObjects.add(object, &obj
 void destroyedHtmlObject(HTML_Object* object) { referencedObjects.remove(object); }
 
 QString nextDriverReference() { return QStringLiteral("window.__corvex__object__C%1").arg(ocnt++); }
+
+bool isObjectReference(const QString& text) {
+  static const QRegularExpression forms(QStringLiteral(
+      "\\A(?:top\\.__corvex__globalObjectRefStore\\[[0-9]{1,9}\\]|window\\.__corvex__object(?:__C|I__)[0-9]{1,9})\\z"));
+  return forms.match(text).hasMatch();
+}
 
 const QString& deadReference() {
   static const QString text = QStringLiteral("undefined");

@@ -45,6 +45,7 @@ private:
 extern ReferenceRegistry& referencedObjects;
 extern ReferenceRegistry& referencedStyles;
 extern ReferenceRegistry& referencedXPathResults;
+extern ReferenceRegistry& referencedValues;
 
 void createdHtmlObject(HTML_Object* object);
 void destroyedHtmlObject(HTML_Object* object);
@@ -55,6 +56,10 @@ void destroyedHtmlXPathResult(HTML_XPathResult* result);
 
 /// A name for a page global that this side assigns, different at each call.
 QString nextDriverReference();
+
+/// Whether a text that came from a page is a reference of one of the forms that pages and this side make. Anything else
+/// would be code of the page's own, which might run in a document of another origin.
+bool isObjectReference(const QString& text);
 
 /// The reference of what is dead.
 const QString& deadReference();

@@ -1,5 +1,6 @@
 #include "wrappers/web/object/retrievehtmlobject.h"
 
+#include "wrappers/web/object/references.h"
 #include "wrappers/web/page/htmlcomponent.h"
 #include "wrappers/web/page/jsonanswer.h"
 
@@ -56,15 +57,18 @@ ObjectResult objectFromAnswer(HTMLComponent* component, const Json::Value& root,
           QStringLiteral("JSON return value '%1' is missing the %2 member.").arg(raw, QLatin1String(member)));
     }
   }
-  return ObjectResult::success(htmlObjectFromReferenceInfo(component, text(root["type"]), text(root["refName"]), name));
+  const QString reference = text(root["refName"]);
+  HTML_Object* const object = htmlObjectFromReferenceInfo(component, text(root["type"]), reference, name);
+  return !object && !reference.isEmpty() && !isObjectReference(reference)
+             ? ObjectResult::failure(QStringLiteral("The page gave a text that is no reference for an object: '%1'. It "
+                                                    "replaces functions of the hook script.")
+                                         .arg(reference.left(100)))
+             : ObjectResult::success(object);
 }
 
-}  // namespace
+QString retrieval(const QString& expression) { return QString::fromLatin1(retrieveTemplate).arg(expression); }
 
-ObjectResult htmlObjectFromJavaScriptResult(HTMLComponent* component, const QString& expression, const QString& name,
-                                            unsigned int timeoutMs) {
-  const JavaScriptAnswer answer =
-      component->evaluateJS(QString::fromLatin1(retrieveTemplate).arg(expression), timeoutMs);
+ObjectResult objectFrom(HTMLComponent* component, const JavaScriptAnswer& answer, const QString& name) {
   if (!answer.succeeded()) {
     return ObjectResult::failure(answer.text);
   }
@@ -84,6 +88,18 @@ ObjectResult htmlObjectFromJavaScriptResult(HTMLComponent* component, const QStr
     return ObjectResult::failure(
         QStringLiteral("Failed to parse JSON return value '%1': %2").arg(answer.text, QString::fromUtf8(e.what())));
   }
+}
+
+}  // namespace
+
+ObjectResult htmlObjectFromJavaScriptResult(HTMLComponent* component, const QString& expression, const QString& name,
+                                            unsigned int timeoutMs) {
+  return objectFrom(component, component->evaluateJS(retrieval(expression), timeoutMs), name);
+}
+
+ObjectResult htmlObjectFromAnyDocument(HTMLComponent* component, const QString& expression, const QString& name,
+                                       unsigned int timeoutMs) {
+  return objectFrom(component, component->evaluateInAnyDocument(retrieval(expression), timeoutMs), name);
 }
 
 }  // namespace Corvex::WebWrapper

@@ -13,8 +13,13 @@ namespace Corvex::WebWrapper {
 FunctionCallResult<HTML_Object*> htmlObjectFromJavaScriptResult(HTMLComponent* component, const QString& expression,
                                                                 const QString& name, unsigned int timeoutMs);
 
+/// The same for an expression without a reference; see `HTMLComponent::evaluateInAnyDocument`.
+FunctionCallResult<HTML_Object*> htmlObjectFromAnyDocument(HTMLComponent* component, const QString& expression,
+                                                           const QString& name, unsigned int timeoutMs);
+
 /// The object of the class that the page's type text stands for; null when the text names nothing. An unknown text
-/// gives a plain `HTML_Object`. The caller owns the object.
+/// gives a plain `HTML_Object`, and so does one whose extension has no name that could be one. Null for a text that is
+/// no reference. The caller owns the object.
 HTML_Object* htmlObjectFromReferenceInfo(HTMLComponent* component, const QString& type, const QString& reference,
                                          const QString& name);
 

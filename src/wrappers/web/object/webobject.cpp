@@ -22,6 +22,8 @@ const char* HTML_Object::className() const { return ScriptName; }
 
 bool HTML_Object::hasValidReference() const { return reference != deadReference(); }
 
+QString HTML_Object::deadError() { return deadObjectReferenceError(); }
+
 void HTML_Object::invalidate() { reference = deadReference(); }
 
 FunctionCallResult<bool> HTML_Object::sameAs(HTML_Object* other) const {

@@ -10,7 +10,10 @@
 namespace Corvex::WebWrapper {
 
 class HTMLComponent;
-struct ClassRows;
+class HTML_Style;
+class HTML_XPathResult;
+struct CSSProperties;
+struct ClassMembers;
 
 /// Properties of a page object that have a fixed way to be read.
 enum class PropertyId {
@@ -59,6 +62,8 @@ public:
   virtual FunctionCallResult<bool> hasFocus() const;
 
   bool hasValidReference() const;
+  /// What a script is told that uses the object when its reference is not valid.
+  static QString deadError();
   /// From now on the object is dead.
   void invalidate();
   /// Whether both mean the same object in the page. `other` is of the same connection and not null.
@@ -112,6 +117,14 @@ public:
   /// Pixels of the page's visible part; all -1 with an error.
   FunctionCallResult<ScreenRectangle> boundingClientRect() const;
 
+  // The caller owns what these give.
+
+  FunctionCallResult<HTML_Style*> style();
+  /// The whole computed style at once, as it is now.
+  FunctionCallResult<CSSProperties*> cssProperties() const;
+  /// Evaluates an XPath expression with this object as its context node.
+  FunctionCallResult<HTML_XPathResult*> evaluateXPath(const QString& expression);
+
   static bool isJavaScriptPropertyReadSupported(const QString& name);
   static FunctionCallResult<PropertyId> parsePropertyIdString(const QString& name);
   /// The expression that reads a property of this object.
@@ -151,6 +164,6 @@ protected:
   FunctionCallResult<HTML_Object*> navigate(const QString& expression, const char* sentence);
 };
 
-extern const ClassRows HTML_Object_Class;
+extern const ClassMembers HTML_Object_Class;
 
 }  // namespace Corvex::WebWrapper

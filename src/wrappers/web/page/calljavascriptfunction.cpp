@@ -38,10 +38,9 @@ QString exceptionDetail(const Json::Value& e) {
   return detail;
 }
 
-}  // namespace
+QString envelope(const QString& expression) { return QString::fromLatin1(callTemplate).arg(expression); }
 
-JsonResult callJavaScriptFunction(HTMLComponent* component, const QString& expression, unsigned int timeoutMs) {
-  const JavaScriptAnswer answer = component->evaluateJS(QString::fromLatin1(callTemplate).arg(expression), timeoutMs);
+JsonResult valueOf(const JavaScriptAnswer& answer, const QString& expression) {
   if (!answer.succeeded()) {
     return JsonResult::failure(answer.text);
   }
@@ -61,6 +60,16 @@ JsonResult callJavaScriptFunction(HTMLComponent* component, const QString& expre
   const Json::Value e = root.value.get("error", Json::Value());
   const QString detail = e.isObject() ? exceptionDetail(e) : jsonText(e);
   return JsonResult::failure(QStringLiteral("Calling %1: Error evaluating JavaScript: %3").arg(display, detail));
+}
+
+}  // namespace
+
+JsonResult callJavaScriptFunction(HTMLComponent* component, const QString& expression, unsigned int timeoutMs) {
+  return valueOf(component->evaluateJS(envelope(expression), timeoutMs), expression);
+}
+
+JsonResult callInAnyDocument(HTMLComponent* component, const QString& expression, unsigned int timeoutMs) {
+  return valueOf(component->evaluateInAnyDocument(envelope(expression), timeoutMs), expression);
 }
 
 }  // namespace Corvex::WebWrapper

@@ -15,4 +15,8 @@ class HTMLComponent;
 FunctionCallResult<Json::Value> callJavaScriptFunction(HTMLComponent* component, const QString& expression,
                                                        unsigned int timeoutMs);
 
+/// The same for an expression without a reference; see `HTMLComponent::evaluateInAnyDocument`.
+FunctionCallResult<Json::Value> callInAnyDocument(HTMLComponent* component, const QString& expression,
+                                                  unsigned int timeoutMs);
+
 }  // namespace Corvex::WebWrapper

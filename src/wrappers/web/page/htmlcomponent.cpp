@@ -4,6 +4,10 @@ namespace Corvex::WebWrapper {
 
 HTMLComponent::~HTMLComponent() = default;
 
+JavaScriptAnswer HTMLComponent::evaluateInAnyDocument(const QString& code, unsigned int timeoutMs) {
+  return evaluateJS(code, timeoutMs);
+}
+
 bool HTMLComponent::supportsPageScreenshot() { return false; }
 
 FunctionCallResult<QImage> HTMLComponent::grabPageScreenshot() { return FunctionCallResult<QImage>::success(QImage()); }

@@ -41,6 +41,10 @@ public:
   /// Puts `path` into a file input. Answers an error text, empty on success.
   virtual QString selectFileToUpload(HTML_TextBase* field, const QString& path) = 0;
   virtual QString selectFileToUpload(HTML_CustomText* field, const QString& path) = 0;
+
+  /// `evaluateJS` for code that holds no reference of an object, so that it may run in any document. A connection that
+  /// keeps other code to the document that its references come from need not do so here.
+  virtual JavaScriptAnswer evaluateInAnyDocument(const QString& code, unsigned int timeoutMs);
 };
 
 }  // namespace WebWrapper

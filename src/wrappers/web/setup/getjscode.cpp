@@ -1,7 +1,5 @@
 #include "wrappers/web/setup/getjscode.h"
 
-#include <QDir>
-#include <QFile>
 #include <QStringList>
 #include <cstdio>
 #include <cstdlib>
@@ -9,7 +7,7 @@
 
 #include "corvexhook/inspector.h"
 #include "hookfragments.h"
-#include "shared/environment.h"
+#include "wrappers/web/setup/extensionscripts.h"
 #include "wrappers/web/setup/wrapperconfig.h"
 
 namespace Corvex {
@@ -38,26 +36,6 @@ const char* get_jscode() {
   return code;
 }
 
-QString readExtension(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    std::fprintf(stderr, "Failed to read JavaScript extension: %s\n", qPrintable(path));
-    return QString();
-  }
-  return QString::fromUtf8(file.readAll());
-}
-
-QStringList readExtensions() {
-  const QDir directory(corvexPrefix() + QStringLiteral("/lib/extensions/web"));
-  const auto names =
-      directory.entryList({QStringLiteral("*.js")}, QDir::Files | QDir::CaseSensitive, QDir::Name | QDir::IgnoreCase);
-  QStringList texts;
-  for (const QString& name : names) {
-    texts.append(readExtension(directory.absoluteFilePath(name)));
-  }
-  return texts;
-}
-
 QString xpathText(int index) {
   return QString::fromUtf8(hookXPathTexts[index].text, static_cast<int>(hookXPathTexts[index].length));
 }
@@ -65,9 +43,17 @@ QString xpathText(int index) {
 }  // namespace
 
 QString getJSCode(const WrapperConfig& config) {
+  QStringList extensions;
+  for (const ExtensionScript& script : extensionScripts()) {
+    extensions.append(script.text);
+  }
+  return getJSCode(config, extensions);
+}
+
+QString getJSCode(const WrapperConfig& config, const QStringList& extensions) {
   const QChar newline = QLatin1Char('\n');
   QString text = QString::fromUtf8(get_jscode());
-  text += newline + readExtensions().join(newline) + newline;
+  text += newline + extensions.join(newline) + newline;
   text += newline + Inspector::self()->extensionCode() + newline;
   text += newline + xpathText(0) + newline + xpathText(1);
   text += QStringLiteral("\ntop.__corvex__xpath__caseInSensitiveMatching = %1;")

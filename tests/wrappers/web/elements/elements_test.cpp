@@ -130,7 +130,7 @@ TEST_F(Elements, ArraysKeepTheirBounds) {
   page.fail("ref[1];", "gone");
   EXPECT_EQ(array->at(1).error, QString("Could not get reference for array element at '1': gone"));
   page.answerObject("ref[1];", "option", "o");
-  EXPECT_EQ(std::unique_ptr<HTML_Object>(array->at(1).value)->reference, QString("o"));
+  EXPECT_EQ(page.named(std::unique_ptr<HTML_Object>(array->at(1).value)->reference), QString("o"));
   page.answer("'length');", "many");
   EXPECT_EQ(array->at(0).error,
             QString("Cannot retrieve element at '0', length check failed: Could not convert length of "
@@ -221,6 +221,6 @@ TEST_F(Elements, SelectsGiveTheirOptions) {
   page.answerObject("var dummy = ref.options;", "[unknown_type]", "list");
   page.answer("getPropertyValue( list, 'length');", "1");
   page.answerObject("var dummy = list[0];", "option", "o");
-  EXPECT_EQ(std::unique_ptr<HTML_Option>(select->optionAt(0).value)->reference, QString("o"));
+  EXPECT_EQ(page.named(std::unique_ptr<HTML_Option>(select->optionAt(0).value)->reference), QString("o"));
   EXPECT_EQ(select->optionAt(1).error, QString("Out of bounds access to array of length 1 with index 1."));
 }

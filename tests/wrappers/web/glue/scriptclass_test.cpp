@@ -13,32 +13,8 @@ using namespace TestSupport;
 
 namespace {
 
-SharedPtr<Object> text(const QString& value) { return Inspector::self()->wrapString(value); }
-
-SharedPtr<Object> number(int value) { return Inspector::self()->wrapInt(value); }
-
 class ScriptCalls : public WebTest {
 protected:
-  /// Calls the overload with as many arguments as it takes, or else the first of the name.
-  SharedPtr<Object> call(const SharedPtr<Object>& object, const QString& name, const ObjectList& arguments = {}) {
-    const Class* cls = object->objectClass();
-    int found = -1;
-    for (int id = 0; id < cls->numMethods(); ++id) {
-      const Method* method = cls->method(id);
-      if (method->name() == name && (found < 0 || method->signature().count() == arguments.size())) {
-        found = id;
-      }
-    }
-    const Method* method = cls->method(found);
-    return method->owner()->invoke(found, object, arguments, method);
-  }
-  SharedPtr<Object> get(const SharedPtr<Object>& object, const QString& name) {
-    return object->objectClass()->getProperty(object, object->objectClass()->property(name));
-  }
-  bool set(const SharedPtr<Object>& object, const QString& name, const SharedPtr<Object>& value) {
-    return object->objectClass()->setProperty(object, object->objectClass()->property(name), value);
-  }
-
   SharedPtr<Object> select = wrapped<HTML_Select>(false);
 };
 

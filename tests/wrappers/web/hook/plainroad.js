@@ -23,8 +23,8 @@ window.plainRoad = (function () {
       var all = root.querySelectorAll("*");
       for (var i = 0; i < all.length; ++i) {
         found.push(all[i]);
-        if (__corvex__node.shadowRoot(all[i])) {
-          collect(__corvex__node.shadowRoot(all[i]));
+        if (__corvex__nodeReader.shadowRoot(all[i])) {
+          collect(__corvex__nodeReader.shadowRoot(all[i]));
         }
         if (all[i].tagName === "IFRAME") {
           collect(all[i].contentDocument);
@@ -36,7 +36,7 @@ window.plainRoad = (function () {
   }
 
   function describe(element) {
-    return (__corvex__node.tagName(element) + " " + element.outerHTML).substring(0, 80);
+    return (__corvex__nodeReader.tagName(element) + " " + element.outerHTML).substring(0, 80);
   }
 
   // The answer of action, or what it threw.

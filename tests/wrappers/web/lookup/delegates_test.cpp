@@ -115,7 +115,7 @@ TEST_F(Delegates, TheContainersDelegateFindsTheRest) {
   const SharedPtr<Object> object = toplevel.objectByQualifiedName(
       nullptr, ObjectName("{tagName='A' container={tagName='P' container={tagName='DIV'}}}"));
   ASSERT_TRUE(object);
-  EXPECT_EQ(object->toString(), QString("link"));
+  EXPECT_EQ(page.named(object->toString()), QString("link"));
 
   page.answer("__corvex__findObject(", R"({"refName":null,"type":""})");
   const QString name = "{tagName='A' container={tagName='DIV'}}";
@@ -151,8 +151,8 @@ TEST_F(Delegates, TheDocumentIsTheRootsOnlyChild) {
   toplevel.keeps = true;
   EXPECT_EQ(toplevel.child(nullptr, 0), document);
   toplevel.keeps = false;
-  EXPECT_EQ(toplevel.child(nullptr, 0)->toString(), QString("other"));
-  EXPECT_EQ(document->toString(), QString("undefined"));
+  EXPECT_EQ(other.named(toplevel.child(nullptr, 0)->toString()), QString("other"));
+  EXPECT_EQ(page.named(document->toString()), QString("undefined"));
   toplevel.page = nullptr;
   EXPECT_FALSE(toplevel.child(nullptr, 0));
   EXPECT_EQ(toplevel.numChildren(nullptr), 1);
@@ -160,11 +160,11 @@ TEST_F(Delegates, TheDocumentIsTheRootsOnlyChild) {
 
 TEST_F(Delegates, OtherRootNamesAreContextsOrHeuristic) {
   page.answerObject("__corvex__documentOfContext('a.b')", "document", "inner");
-  EXPECT_EQ(toplevel.childByName(nullptr, "DOCUMENT[a.b]")->toString(), QString("inner"));
+  EXPECT_EQ(page.named(toplevel.childByName(nullptr, "DOCUMENT[a.b]")->toString()), QString("inner"));
   page.answerObject("__corvex__findObjectByHeuristic(\"O\\\"K\");", "button", "ok");
-  EXPECT_EQ(toplevel.childByName(nullptr, "O\"K")->toString(), QString("ok"));
+  EXPECT_EQ(page.named(toplevel.childByName(nullptr, "O\"K")->toString()), QString("ok"));
   page.answerObject("__corvex__documentOfContext('it\\'s|html')", "document", "its");
-  EXPECT_EQ(toplevel.childByName(nullptr, "DOCUMENT[it's|html]")->toString(), QString("its"));
+  EXPECT_EQ(page.named(toplevel.childByName(nullptr, "DOCUMENT[it's|html]")->toString()), QString("its"));
   page.fail("__corvex__documentOfContext", "no");
   EXPECT_FALSE(toplevel.childByName(nullptr, "DOCUMENT[x]"));
   EXPECT_EQ(scriptError(), QString("Failed to retrieve child object with name DOCUMENT[x]: no"));
@@ -178,24 +178,24 @@ TEST_F(Delegates, PlainNamesLeadFromChildToChild) {
   const QString nothing = R"({"refName":null,"type":""})";
   page.answer("__corvex__findObject", nothing);
   page.answerObject("__corvex__ctxwin", "document", "doc");
-  page.answerValue("childObjectAndInfo( doc )", R"([{"reference":"html","typeString":"html","nameInLeaf":"HTML1"}])");
+  page.answerValue("childObjectAndInfo( doc )", R"([{"reference":"@html@","typeString":"html","nameInLeaf":"HTML1"}])");
   page.answerValue("childObjectAndInfo( html )", "[]");
-  EXPECT_EQ(inspector->lookup("DOCUMENT")->toString(), QString("doc"));
-  EXPECT_EQ(inspector->lookup("DOCUMENT.HTML1")->toString(), QString("html"));
+  EXPECT_EQ(page.named(inspector->lookup("DOCUMENT")->toString()), QString("doc"));
+  EXPECT_EQ(page.named(inspector->lookup("DOCUMENT.HTML1")->toString()), QString("html"));
   page.answerObject("__corvex__documentOfContext('f')", "document", "inner");
-  EXPECT_EQ(inspector->lookup("DOCUMENT[f].")->toString(), QString("inner"));
+  EXPECT_EQ(page.named(inspector->lookup("DOCUMENT[f].")->toString()), QString("inner"));
   EXPECT_FALSE(inspector->lookup("DOCUMENT.HTML1.BODY1"));
   page.answerObject("__corvex__findObjectByHeuristic(\"Version 1.0\");", "a", "link");
-  EXPECT_EQ(inspector->lookup("Version 1.0")->toString(), QString("link"));
+  EXPECT_EQ(page.named(inspector->lookup("Version 1.0")->toString()), QString("link"));
   inspector->removeRootObject(root);
 }
 
 TEST_F(Delegates, ChildrenAreAskedForOnce) {
   const SharedPtr<Object> parent = wrapped<HTML_Object>();
   page.answerValue("window.top.__corvex.childObjectAndInfo( ref )",
-                   R"([{"reference":"a","typeString":"p","nameInLeaf":"P1"},
-                       {"reference":"b","typeString":"true","nameInLeaf":""},
-                       {"reference":"c","typeString":"select-one","nameInLeaf":"SELECT1"}, 7])");
+                   R"([{"reference":"@a@","typeString":"p","nameInLeaf":"P1"},
+                       {"reference":"@b@","typeString":"true","nameInLeaf":""},
+                       {"reference":"@c@","typeString":"select-one","nameInLeaf":"SELECT1"}, 7])");
   EXPECT_EQ(hierarchy.numChildren(parent), 2);
   EXPECT_EQ(page.calls[0].timeoutMs, 60000U);
   EXPECT_EQ(hierarchy.childByName(parent, "SELECT1")->objectClass()->name(), QString("HTML_Select"));
@@ -222,7 +222,7 @@ TEST_F(Delegates, ADocumentHasAParentOnlyInAFrame) {
   page.answer("__corvex__contextOf( ref );", "top");
   EXPECT_FALSE(hierarchy.parent(document));
   page.answer("__corvex__contextOf( ref );", "top.IFRAME1");
-  EXPECT_EQ(hierarchy.parent(document)->toString(), QString("frame"));
+  EXPECT_EQ(page.named(hierarchy.parent(document)->toString()), QString("frame"));
   page.answer("ref.parentNode;", R"({"refName":null,"type":""})");
   EXPECT_FALSE(hierarchy.parent(wrapped<HTML_Object>()));
   page.fail("ref.parentNode;", "gone");

@@ -25,7 +25,7 @@ protected:
   QString all(const QString& name) {
     QStringList references;
     for (const SharedPtr<Object>& object : findAllObjects(toplevel, nullptr, ObjectName(name))) {
-      references << object->toString();
+      references << page.named(object->toString());
     }
     return references.join(QLatin1Char(' '));
   }
@@ -38,7 +38,8 @@ protected:
 class ButtonPage : public FakeComponent {
 public:
   JavaScriptAnswer evaluateJS(const QString&, unsigned int) override {
-    return {QStringLiteral("{\"refName\":\"r%1\",\"type\":\"button\"}").arg(m_count++ % 1000), false, false};
+    return {QStringLiteral("{\"refName\":\"window.__corvex__object__C%1\",\"type\":\"button\"}").arg(m_count++ % 1000),
+            false, false};
   }
 
 private:
@@ -49,7 +50,7 @@ private:
 
 TEST_F(FindAll, AsksThePageOnce) {
   page.answerValue("findAllObjects(\"{tagName='P'}\")",
-                   R"([{"reference":"a","typeString":"p"},{"reference":"b","typeString":"a"},7])");
+                   R"([{"reference":"@a@","typeString":"p"},{"reference":"@b@","typeString":"a"},7])");
   EXPECT_EQ(all("{tagName='P'}"), QString("a b"));
   EXPECT_EQ(page.calls.size(), 1U);
   EXPECT_EQ(page.calls[0].timeoutMs, 5000U);
@@ -66,7 +67,7 @@ TEST_F(FindAll, LooksOnlyBelowTheContainer) {
   const QString name = "{tagName='P' container={tagName='UL' container={tagName='DIV'}}}";
   page.answerObject("__corvex__findObject(\"{tagName='DIV'}\")", "div", "box");
   page.answerObject("__corvex__findObjectByProps( box, \"{tagName='UL'}\")", "ul", "list");
-  page.answerValue("findAllObjects(\"{tagName='P'}\", list)", R"([{"reference":"a","typeString":"p"}])");
+  page.answerValue("findAllObjects(\"{tagName='P'}\", list)", R"([{"reference":"@a@","typeString":"p"}])");
   Inspector::self()->addUnmatchedProperty(name, "container");
   EXPECT_EQ(all(name), QString("a"));
   EXPECT_EQ(Inspector::self()->unmatchedProperties(name), QStringList());

@@ -16,18 +16,16 @@ class ItemChildren : public WebTest {
 protected:
   void SetUp() override {
     WebTest::SetUp();
-    page.answerValue("childObjectAndInfo( ref )", R"([{"reference":"d","typeString":"div","nameInLeaf":"DIV1"}])");
+    page.answerValue("childObjectAndInfo( ref )", R"([{"reference":"@d@","typeString":"div","nameInLeaf":"DIV1"}])");
   }
-  static QStringList texts(const ObjectList& list) {
+  QStringList texts(const ObjectList& list) const {
     QStringList references;
     for (const SharedPtr<Object>& object : list) {
-      references << object->toString() + QLatin1Char(' ') + object->objectClass()->name();
+      references << page.named(object->toString()) + QLatin1Char(' ') + object->objectClass()->name();
     }
     return references;
   }
-  static QStringList parse(FakeComponent& page, const QString& text) {
-    return texts(parseItemViewBasedChildInfo(&page, text));
-  }
+  QStringList parse(const QString& text) { return texts(parseItemViewBasedChildInfo(&page, page.expanded(text))); }
   /// The children of an object, and behind them, what was printed.
   template <typename T>
   QStringList children() {
@@ -47,23 +45,23 @@ const QString domChild = QStringLiteral("d HTML_Object");
 }  // namespace
 
 TEST_F(ItemChildren, RecordsAreReadCharacterByCharacter) {
-  EXPECT_EQ(parse(page, "item_1|a~custom_item_Kit#item_2|b~DIV#"), QStringList({"a HTML_CustomItem", "b HTML_Object"}));
-  EXPECT_EQ(parse(page, "item_1|a~custom_item_Kit#item_2|b~custom_it"), QStringList("a HTML_CustomItem"));
-  EXPECT_EQ(parse(page, "item_1|a~undefined#item_2|b~a#"), QStringList("b HTML_Anchor"));
-  EXPECT_EQ(parse(page, "[err]"), QStringList());
-  EXPECT_EQ(parse(page, ""), QStringList());
+  EXPECT_EQ(parse("item_1|@a@~custom_item_Kit#item_2|@b@~DIV#"), QStringList({"a HTML_CustomItem", "b HTML_Object"}));
+  EXPECT_EQ(parse("item_1|@a@~custom_item_Kit#item_2|@b@~custom_it"), QStringList("a HTML_CustomItem"));
+  EXPECT_EQ(parse("item_1|@a@~undefined#item_2|@b@~a#"), QStringList("b HTML_Anchor"));
+  EXPECT_EQ(parse("[err]"), QStringList());
+  EXPECT_EQ(parse(""), QStringList());
 }
 
 TEST_F(ItemChildren, ViewsShowTheirItemsBehindTheDomsChildren) {
   page.answer("try{__corvex__fetchItemViewChildren(ref, KitExtension );}catch(e){'[err]';}",
-              "item_1|a~custom_item_Kit#");
+              "item_1|@a@~custom_item_Kit#");
   EXPECT_EQ(children<HTML_CustomItemView>(), QStringList({domChild, "a HTML_CustomItem"}));
   EXPECT_EQ(page.calls.back().timeoutMs, 10000U);
   page.answer("fetchItemViewChildren", "[err]");
   EXPECT_EQ(children<HTML_CustomItemView>(), QStringList(domChild));
   page.abort("fetchItemViewChildren", "late");
   EXPECT_EQ(children<HTML_CustomItemView>(), QStringList({domChild, "Error obtaining itemview children: late\n"}));
-  page.answer("fetchItemViewChildren", "item_1|a~custom_item_Kit#");
+  page.answer("fetchItemViewChildren", "item_1|@a@~custom_item_Kit#");
   page.fail("childObjectAndInfo", "gone");
   EXPECT_EQ(children<HTML_CustomItemView>(),
             QStringList({"a HTML_CustomItem", "Failed to retrieve children for html object : gone\n\n"}));
@@ -71,7 +69,7 @@ TEST_F(ItemChildren, ViewsShowTheirItemsBehindTheDomsChildren) {
 
 TEST_F(ItemChildren, ItemsAreAskedForEachTimeButNotWithoutAPage) {
   const SharedPtr<Object> view = wrapped<HTML_CustomItemView>(QStringLiteral("Kit"));
-  page.answer("fetchItemViewChildren", "item_1|a~custom_item_Kit#");
+  page.answer("fetchItemViewChildren", "item_1|@a@~custom_item_Kit#");
   EXPECT_EQ(hierarchy.numChildren(view), 2);
   page.answer("fetchItemViewChildren", "");
   EXPECT_EQ(hierarchy.numChildren(view), 1);
@@ -105,7 +103,7 @@ TEST_F(ItemChildren, CalendarsPassOverAFailedEvent) {
 }
 
 TEST_F(ItemChildren, ItemsHaveAnItemsDelegate) {
-  page.answer("try{__corvex__fetchItemChildren(ref, KitExtension );}catch(e){'[err]';}", "item_1|a~custom_item_Kit#");
+  page.answer("try{__corvex__fetchItemChildren(ref, KitExtension );}catch(e){'[err]';}", "item_1|@a@~custom_item_Kit#");
   EXPECT_EQ(children<HTML_CustomItem>(), QStringList("a HTML_CustomItem"));
   page.fail("fetchItemChildren", "gone");
   EXPECT_EQ(children<HTML_CustomItem>(), QStringList("Error obtaining itemview children: gone\n"));

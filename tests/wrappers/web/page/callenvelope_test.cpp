@@ -87,6 +87,6 @@ TEST_F(CallEnvelope, AsksForDocuments) {
   Inspector::self()->addUnmatchedProperty("DOCUMENT[a.b]", "x");
   document.reset(documentByContextName(&page, "DOCUMENT[a.b]").value);
   ASSERT_TRUE(document);
-  EXPECT_EQ(document->reference, QString("inner"));
+  EXPECT_EQ(page.named(document->reference), QString("inner"));
   EXPECT_EQ(Inspector::self()->unmatchedProperties("DOCUMENT[a.b]"), QStringList());
 }

@@ -1,0 +1,172 @@
+#include "scripting/engine/scriptbridge.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QJSEngine>
+#include <QQmlEngine>
+
+#include "scripting/engine/evaluation.h"
+#include "scripting/objects/valuetext.h"
+
+namespace Corvex::Scripting {
+
+namespace {
+
+const int maxStepText = 160;
+
+QJSValueList entriesOf(const QJSValue& array) {
+  QJSValueList entries;
+  const quint32 count = Values::lengthOf(array);
+  for (quint32 i = 0; i < count; ++i) {
+    entries << array.property(i);
+  }
+  return entries;
+}
+
+}  // namespace
+
+ScriptBridge::ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCalls* calls, ScriptListener* listener,
+                           ScriptResult* result, ScriptFiles* files)
+    : m_engine(engine),
+      m_values(engine),
+      m_calls(calls),
+      m_listener(listener),
+      m_files(files),
+      m_functions(host, {calls, &m_values.liveObjects()}),
+      m_checks(m_values, listener, result) {
+  QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
+
+QString ScriptBridge::errorText(const QJSValue& thrown) const { return m_errors.textOf(thrown, m_functions.names()); }
+
+void ScriptBridge::setWrappers(const QJSValue& wrap, const QJSValue& handleOf) { m_values.setWrappers(wrap, handleOf); }
+
+QJSValue ScriptBridge::scriptArray(const QStringList& texts) const {
+  QJSValue array = m_engine->newArray(static_cast<uint>(texts.size()));
+  for (int i = 0; i < texts.size(); ++i) {
+    array.setProperty(static_cast<quint32>(i), texts.at(i));
+  }
+  return array;
+}
+
+QJSValue ScriptBridge::describeClass(int classNumber) {
+  const Class* cls = m_values.classOfNumber(classNumber);
+  QStringList properties;
+  for (int id = cls->superClassOffset(Class::PropertyOffset); id < cls->numProperties(); ++id) {
+    if (const Property* property = cls->property(id)) {
+      properties << property->name();
+    }
+  }
+  QStringList methods;
+  for (int id = cls->superClassOffset(Class::MethodOffset); id < cls->numMethods(); ++id) {
+    const Method* method = cls->method(id);
+    // Of a property and a method of one name scripts see the property.
+    if (method && !cls->property(method->name())) {
+      methods << method->name();
+    }
+  }
+  methods.removeDuplicates();
+  QJSValue description = m_engine->newObject();
+  description.setProperty(QStringLiteral("superClass"), m_values.numberOfClass(cls->superClass()));
+  description.setProperty(QStringLiteral("properties"), scriptArray(properties));
+  description.setProperty(QStringLiteral("methods"), scriptArray(methods));
+  return description;
+}
+
+QJSValue ScriptBridge::callMethod(const QJSValue& handle, const QString& name, const QJSValue& arguments) {
+  const FunctionCallResult<ObjectList> list = m_values.listFromScript(arguments);
+  if (list.failed()) {
+    return finished(ObjectResult::failure(name + QLatin1String(": ") + list.error));
+  }
+  return finished(m_calls->callMethod(Values::objectOfHandle(handle), name, list.value));
+}
+
+QJSValue ScriptBridge::readProperty(const QJSValue& handle, const QString& name) {
+  const SharedPtr<Object> object = Values::objectOfHandle(handle);
+  m_errors.noteReadProperty(object, name);
+  return finished(m_calls->readProperty(object, name));
+}
+
+void ScriptBridge::writeProperty(const QJSValue& handle, const QString& name, const QJSValue& value) {
+  const ObjectResult native = m_values.fromScript(value);
+  const QString error = native.failed() ? name + QLatin1String(": ") + native.error
+                                        : m_calls->writeProperty(Values::objectOfHandle(handle), name, native.value);
+  if (!error.isEmpty()) {
+    m_engine->throwError(error);
+  }
+}
+
+void ScriptBridge::unknownMember(const QJSValue& handle, const QString& name) {
+  const SharedPtr<Object> object = Values::objectOfHandle(handle);
+  if (!object) {
+    return;
+  }
+  const QString error = MemberCalls::unknownMemberError(object->objectClass(), name);
+  m_errors.noteLackedMember(name, error);
+  m_engine->throwError(error);
+}
+
+bool ScriptBridge::isCalled(const QString& name, const QString& stack) const {
+  return m_files->callsMember(stack, name);
+}
+
+QString ScriptBridge::textOf(const QJSValue& handle) const {
+  const SharedPtr<Object> object = Values::objectOfHandle(handle);
+  return object ? Values::textOf(object) : QString();
+}
+
+QJSValue ScriptBridge::functionNames() const { return scriptArray(m_functions.names()); }
+
+QJSValue ScriptBridge::callFunction(const QString& name, const QJSValue& arguments) {
+  QElapsedTimer timer;
+  timer.start();
+  const FunctionCallResult<ObjectList> list = m_values.listFromScript(arguments);
+  const ObjectResult result = list.failed() ? ObjectResult::failure(name + QLatin1String(": ") + list.error)
+                                            : m_functions.call(name, list.value);
+  m_listener->step(stepText(name, arguments), timer.elapsed());
+  return finished(result);
+}
+
+QJSValue ScriptBridge::checkNames() const { return scriptArray(Checks::names()); }
+
+QJSValue ScriptBridge::callCheck(const QString& name, const QJSValue& arguments, const QString& stack) {
+  const Checks::Answer answer = m_checks.call(name, entriesOf(arguments), m_files->traceOf(stack));
+  if (answer.failed()) {
+    m_engine->throwError(answer.error);
+  }
+  return answer.value;
+}
+
+QJSValue ScriptBridge::source(const QString& path, const QString& stack) {
+  QElapsedTimer timer;
+  timer.start();
+  const ScriptLocation caller = m_files->traceOf(stack).front();
+  const QDir directory = QFileInfo(caller.file).absoluteDir();
+  const Evaluation evaluation = evaluateFile(m_engine, m_files, QDir::cleanPath(directory.absoluteFilePath(path)));
+  m_listener->step(QStringLiteral("source ") + path, timer.elapsed());
+  QJSValue outcome = m_engine->newObject();
+  outcome.setProperty(QStringLiteral("failed"), evaluation.failed);
+  outcome.setProperty(QStringLiteral("error"), evaluation.thrown);
+  return outcome;
+}
+
+QJSValue ScriptBridge::finished(const ObjectResult& result) {
+  if (!result.failed()) {
+    return m_values.toScript(result.value);
+  }
+  m_engine->throwError(result.error);
+  return QJSValue();
+}
+
+QString ScriptBridge::stepText(const QString& name, const QJSValue& arguments) const {
+  QStringList texts;
+  for (const QJSValue& argument : entriesOf(arguments)) {
+    const bool isName = texts.isEmpty() && argument.isString();
+    texts << (isName ? argument.toString() : valueText(m_values, argument));
+  }
+  const QString text = name + QLatin1Char(' ') + texts.join(QLatin1String(", "));
+  return text.size() <= maxStepText ? text.simplified() : text.left(maxStepText).simplified() + QChar(0x2026);
+}
+
+}  // namespace Corvex::Scripting

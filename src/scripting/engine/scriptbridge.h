@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QJSValue>
+#include <QObject>
+
+#include "scripting/engine/scripterrors.h"
+#include "scripting/engine/scriptfiles.h"
+#include "scripting/functions/checks.h"
+#include "scripting/functions/globalfunctions.h"
+#include "scripting/objects/membercalls.h"
+#include "scripting/objects/values.h"
+#include "scripting/scriptfunction.h"
+
+class QJSEngine;
+
+namespace Corvex::Scripting {
+
+/// The native side of one running script: what the prelude calls. An operation
+/// that fails raises a script error. A `stack` is the text of the calls that led
+/// to the operation.
+class ScriptBridge : public QObject {
+  Q_OBJECT
+
+public:
+  /// Borrows all but the functions of the host.
+  ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCalls* calls, ScriptListener* listener,
+               ScriptResult* result, ScriptFiles* files);
+
+  /// What a thrown value says to people.
+  QString errorText(const QJSValue& thrown) const;
+
+  /// `wrap` makes a script object around a handle, `handleOf` gives the handle
+  /// behind a script object, or undefined.
+  Q_INVOKABLE void setWrappers(const QJSValue& wrap, const QJSValue& handleOf);
+  Q_INVOKABLE QJSValue describeClass(int classNumber);
+  Q_INVOKABLE QJSValue callMethod(const QJSValue& handle, const QString& name, const QJSValue& arguments);
+  Q_INVOKABLE QJSValue readProperty(const QJSValue& handle, const QString& name);
+  Q_INVOKABLE void writeProperty(const QJSValue& handle, const QString& name, const QJSValue& value);
+  Q_INVOKABLE void unknownMember(const QJSValue& handle, const QString& name);
+  /// Whether a member of this name is about to be called, as far as the script's text tells.
+  Q_INVOKABLE bool isCalled(const QString& name, const QString& stack) const;
+  Q_INVOKABLE QString textOf(const QJSValue& handle) const;
+
+  Q_INVOKABLE QJSValue functionNames() const;
+  Q_INVOKABLE QJSValue callFunction(const QString& name, const QJSValue& arguments);
+  Q_INVOKABLE QJSValue checkNames() const;
+  Q_INVOKABLE QJSValue callCheck(const QString& name, const QJSValue& arguments, const QString& stack);
+  /// Runs another script file in the same scope. Answers an object: whether it
+  /// `failed`, and the `error` that it threw.
+  Q_INVOKABLE QJSValue source(const QString& path, const QString& stack);
+
+private:
+  QJSValue scriptArray(const QStringList& texts) const;
+  QJSValue finished(const ObjectResult& result);
+  QString stepText(const QString& name, const QJSValue& arguments) const;
+
+  QJSEngine* m_engine;
+  Values m_values;
+  MemberCalls* m_calls;
+  ScriptListener* m_listener;
+  ScriptFiles* m_files;
+  ScriptErrors m_errors;
+  GlobalFunctions m_functions;
+  Checks m_checks;
+};
+
+}  // namespace Corvex::Scripting

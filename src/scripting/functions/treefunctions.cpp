@@ -1,0 +1,79 @@
+#include "corvexhook/arrayclass.h"
+#include "corvexhook/delegate.h"
+#include "corvexhook/hostservices.h"
+#include "corvexhook/inspector.h"
+#include "scripting/functions/targets.h"
+#include "scripting/objects/overloads.h"
+
+namespace Corvex::Scripting {
+
+namespace {
+
+/// The first argument, as an object that has a place in the tree.
+Target treeTarget(const FunctionCall& call) {
+  Target target = presentTarget(call, call.arguments[0]);
+  if (target.error.isEmpty()) {
+    target.error = Inspector::self()->hostServices().whyNotUse(target.object);
+  }
+  if (target.error.isEmpty() && !hierarchyDelegate(target.object)) {
+    target.error = QStringLiteral("%1 needs an object of a page, but got %2.")
+                       .arg(QLatin1String(call.function), withArticle(target.object->objectClass()->name()));
+  }
+  return target;
+}
+
+ObjectResult children(const FunctionCall& call) {
+  const Target target = treeTarget(call);
+  if (!target.error.isEmpty()) {
+    return ObjectResult::failure(target.error);
+  }
+  const ObjectList found = hierarchyDelegate(target.object)->children(target.object);
+  return outcome(ArrayClass::wrapObject({found.begin(), found.end()}));
+}
+
+ObjectResult parent(const FunctionCall& call) {
+  const Target target = treeTarget(call);
+  if (!target.error.isEmpty()) {
+    return ObjectResult::failure(target.error);
+  }
+  const SharedPtr<Object> found = hierarchyDelegate(target.object)->parent(target.object);
+  return outcome(found ? found : Inspector::self()->nullObject(target.object->objectClass()));
+}
+
+ObjectResult objectName(const FunctionCall& call) {
+  const Target target = treeTarget(call);
+  if (!target.error.isEmpty()) {
+    return ObjectResult::failure(target.error);
+  }
+  const QString name = hierarchyDelegate(target.object)->qualifiedName(target.object);
+  return name.isEmpty() ? ObjectResult::failure(QStringLiteral("objectName: the page gave no name for %1.")
+                                                    .arg(withArticle(target.object->objectClass()->name())))
+                        : outcome(Inspector::self()->wrapString(name));
+}
+
+bool isNull(const SharedPtr<Object>& value) { return !value || value->isNull(); }
+
+ObjectResult sameObject(const FunctionCall& call) {
+  const Inspector* inspector = Inspector::self();
+  if (isNull(call.arguments[0]) || isNull(call.arguments[1])) {
+    return outcome(inspector->wrapBool(isNull(call.arguments[0]) && isNull(call.arguments[1])));
+  }
+  const Target first = presentTarget(call, call.arguments[0]);
+  const Target second = first.error.isEmpty() ? presentTarget(call, call.arguments[1]) : first;
+  return second.error.isEmpty()
+             ? outcome(inspector->wrapBool(first.object->objectClass()->sameObjects(first.object, second.object)))
+             : ObjectResult::failure(second.error);
+}
+
+}  // namespace
+
+FunctionTable treeFunctions() {
+  return {
+      {"children", "children(object)", 1, 1, children},
+      {"parent", "parent(object)", 1, 1, parent},
+      {"objectName", "objectName(object)", 1, 1, objectName},
+      {"sameObject", "sameObject(a, b)", 2, 2, sameObject},
+  };
+}
+
+}  // namespace Corvex::Scripting

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdio>
+#include <functional>
+#include <system_error>
+
+#include "scripting/scriptlistener.h"
+
+namespace Corvex::Scripting {
+
+/// Prints each script, step and check as it happens; the last line is the
+/// summary of all. Texts are made visible, and further lines of a text are
+/// indented, so that none passes for a line of the report.
+class CORVEXSCRIPTING_EXPORT ConsoleReporter : public ScriptListener {
+public:
+  enum class Detail { Steps, ObjectCalls };
+
+  /// Borrows the stream.
+  explicit ConsoleReporter(std::FILE* out, Detail detail = Detail::Steps);
+  /// Colours are on at first when the stream is a terminal and the environment
+  /// variable NO_COLOR is not set.
+  void setColours(bool on) { m_colours = on; }
+  /// Called once, when the stream takes no more. Nothing is written from then on.
+  void setOutputEnd(const std::function<void()>& outputEnd) { m_outputEnd = outputEnd; }
+  /// Why the stream takes no more; none as long as it does.
+  std::error_code error() const { return m_error; }
+
+  void scriptStarted(const QString& path) override;
+  void step(const QString& text, qint64 durationMs) override;
+  void objectCall(const QString& text, qint64 durationMs) override;
+  void check(bool passed, const QString& text, const ScriptTrace& trace) override;
+  void log(const QString& text) override;
+  void scriptFinished(const ScriptResult& result) override;
+  void runFinished(const RunSummary& summary) override;
+
+private:
+  enum class Colour { Plain, Dim, Green, Red };
+
+  void print(const QString& text, Colour colour = Colour::Plain);
+
+  std::FILE* m_out;
+  Detail m_detail;
+  bool m_colours;
+  std::function<void()> m_outputEnd;
+  std::error_code m_error;
+};
+
+}  // namespace Corvex::Scripting

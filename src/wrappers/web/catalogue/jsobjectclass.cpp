@@ -1,0 +1,39 @@
+#include "wrappers/web/catalogue/jsobjectclass.h"
+
+#include "corvexhook/primitives.h"
+
+namespace Corvex::WebWrapper {
+
+namespace {
+
+ScriptResult call(JsObject& object, const QString& method) { return object.call(method, nullptr); }
+
+constexpr MethodRow methods[] = {
+    method<&JsObject::property>("property", "propertyName"),
+    method<&call>("call", "methodName"),
+    method<&JsObject::call>("call", "methodName", "arguments"),
+};
+
+bool isText(const SharedPtr<Object>& value) { return primitiveValue(value).type() == QVariant::String; }
+
+QString textOf(const SharedPtr<Object>& value) { return value ? value->toString() : QStringLiteral("null"); }
+
+QString callError(const QString& method, const ObjectList& arguments) {
+  if (method == QLatin1String("property")) {
+    return arguments.size() != 1 ? QStringLiteral("JsObject::property: Requires exactly 1 argument")
+                                 : QStringLiteral("JsObject::property: Requires a string argument");
+  }
+  if (arguments.size() != 1 && arguments.size() != 2) {
+    return QStringLiteral("JsObject::call: Requires 1 or 2 arguments");
+  }
+  return isText(arguments[0])
+             ? QStringLiteral("JsObject::call: Requires a list as second argument, got: %1")
+                   .arg(textOf(arguments.at(1)))
+             : QStringLiteral("JsObject::call: Requires a string as first argument, got: %1").arg(textOf(arguments[0]));
+}
+
+}  // namespace
+
+const ClassMembers JsObjectClass = classMembers(methods).withCallError(callError);
+
+}  // namespace Corvex::WebWrapper

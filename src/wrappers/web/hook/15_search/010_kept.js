@@ -1,0 +1,34 @@
+// Gives: __corvex__whilePageStays and __corvex__kept: what was read of elements is kept for the time of one action.
+// Needs: runtime/natives.
+
+var __corvex__keptAnswers = null;
+
+// Calls action, which changes nothing in the page, and gives its answer. For actions that ask the same of the same
+// elements again and again, as naming all of them does.
+function __corvex__whilePageStays(action) {
+  var outer = __corvex__keptAnswers;
+  __corvex__keptAnswers = outer || __corvex__createMap();
+  try {
+    return action();
+  } finally {
+    __corvex__keptAnswers = outer;
+  }
+}
+
+// read(o); while the page stays, the first answer for each object.
+function __corvex__kept(read, o) {
+  if (!__corvex__keptAnswers) {
+    return read(o);
+  }
+  var answers = __corvex__keptAnswers.get(read);
+  if (!answers) {
+    answers = __corvex__createMap();
+    __corvex__keptAnswers.set(read, answers);
+  }
+  var answer = answers.get(o);
+  if (answer === undefined) {
+    answer = read(o);
+    answers.set(o, answer);
+  }
+  return answer;
+}

@@ -1,0 +1,99 @@
+// Gives: why a name finds nothing: how many elements have its tag, and which of its properties none of them has.
+// Needs: runtime/framewalk, runtime/contexts, matching, search/name, search/candidates, search/properties.
+
+// What is wrong with a name, whatever there is in the page, as the fault of a record; undefined where nothing is.
+window.top.__corvex.faultOfName = function (nm) {
+  var map;
+  try {
+    map = __corvex__propertyMap(nm);
+  } catch (e) {
+    return { fault: String(e.message) };
+  }
+  var tagName = map && __corvex__mapEntry(map, "tagName");
+  if (tagName && tagName.modifiers !== PropertyValue_StrictMatch) {
+    return { fault: "its tagName is a pattern; the search needs an exact one" };
+  }
+  return undefined;
+};
+
+function __corvex__newSurvey(map, nm) {
+  return { matchers: __corvex__matchersFor(map, nm), seen: [], errors: [], count: 0, most: 0 };
+}
+
+// Which matchers accept an element at all, and what went wrong where they did not.
+function __corvex__askMatchers(element, survey) {
+  for (var k = 0; k < survey.matchers.length; ++k) {
+    try {
+      survey.seen[k] = survey.seen[k] || !!survey.matchers[k].matchObject(element);
+    } catch (e) {
+      survey.errors[k] = String(e.message);
+    }
+  }
+}
+
+// How many hits there are for an occurrence to count; 0 where the search fails.
+function __corvex__countHits(container, nm) {
+  var count = 0;
+  try {
+    __corvex__searchByProps(container, __corvex__propertyMap(nm), nm, function () {
+      ++count;
+      return false;
+    });
+  } catch (e) {
+    return 0;
+  }
+  return count;
+}
+
+function __corvex__surveyContainer(container, nm, tagName, survey) {
+  var elements = __corvex__withShadowCandidates(__corvex__elementsByTag(container, tagName), container, tagName);
+  for (var i = 0; i < elements.length; ++i) {
+    __corvex__askMatchers(elements[i], survey);
+  }
+  survey.count += elements.length;
+  survey.most = Math.max(survey.most, __corvex__countHits(container, nm));
+}
+
+function __corvex__surveyAsRecord(survey, map) {
+  var record = { tag: String(map.tagName.value), count: survey.count, missing: [] };
+  for (var k = 0; k < survey.matchers.length; ++k) {
+    if (!survey.seen[k]) {
+      record.missing.push(survey.matchers[k].propName);
+      record.error = record.error || survey.errors[k];
+    }
+  }
+  if (survey.most && __corvex__matchesToSkip(map) > 0) {
+    record.most = survey.most;
+  }
+  return record;
+}
+
+// A record of: context, the name of one that does not exist; or tag, count (elements of that tag below container, in the
+// context or in all documents), missing (the properties that none of these has), error (why one of these could not be
+// compared) and, if an occurrence asks for more, most (the hits there are to count). undefined for a name that has no
+// list of properties, or a fault.
+window.top.__corvex.explainFailedSearch = function (nm, container) {
+  var map;
+  try {
+    map = __corvex__propertyMap(nm);
+  } catch (e) {
+    return undefined;
+  }
+  if (!map || !__corvex__mapEntry(map, "tagName")) {
+    return undefined;
+  }
+  var context = __corvex__exactText(__corvex__mapEntry(map, "context"));
+  if (context && !__corvex__hasContext(context)) {
+    return { context: context };
+  }
+  var survey = __corvex__newSurvey(map, nm);
+  var only = container || (context && __corvex__findContext2(context).document);
+  if (only) {
+    __corvex__surveyContainer(only, nm, map.tagName.value, survey);
+  } else {
+    __corvex__eachDocument(function (doc) {
+      __corvex__surveyContainer(doc, nm, map.tagName.value, survey);
+    });
+  }
+  return __corvex__surveyAsRecord(survey, map);
+};

@@ -1,0 +1,37 @@
+#include "wrappers/web/setup/extensionscripts.h"
+
+#include "shared/environment.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstdio>
+
+namespace Corvex::WebWrapper {
+
+namespace {
+
+QString readExtension(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    std::fprintf(stderr, "Failed to read JavaScript extension: %s\n", qPrintable(path));
+    return QString();
+  }
+  return QString::fromUtf8(file.readAll());
+}
+
+}  // namespace
+
+std::vector<ExtensionScript> extensionScripts() {
+  const QDir directory(corvexPrefix() + QStringLiteral("/lib/extensions/web"));
+  const auto names =
+      directory.entryList({QStringLiteral("*.js")}, QDir::Files | QDir::CaseSensitive, QDir::Name | QDir::IgnoreCase);
+  std::vector<ExtensionScript> scripts;
+  for (const QString& name : names) {
+    const QString path = directory.absoluteFilePath(name);
+    scripts.push_back({path, readExtension(path)});
+  }
+  return scripts;
+}
+
+}  // namespace Corvex::WebWrapper

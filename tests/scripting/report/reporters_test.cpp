@@ -1,0 +1,150 @@
+#include <QXmlStreamReader>
+#include <cstdlib>
+
+#include "scripting/report/consolereporter.h"
+#include "scripting/report/junitreporter.h"
+#include "scripting/scripttest.h"
+
+using namespace Corvex::Scripting;
+
+namespace {
+
+class ScriptReporters : public FakeModel::ScriptTest {
+protected:
+  ScriptReporters() {
+    FakeModel::world().add(s("{id='f'}"), s("Field"));
+    write("setFocus(\"{id='f'}\");\ntest.compare(1, 1);", "good.js");
+    write("test.verify(false, 'a < b & \"c\"');\ntest.log('bad \\u0001');", "checks.js");
+    write("var x = 1;\nsource('lib.js');\nlook();", "error.js");
+    write("function look() {\n  findObject(\"{id='<none>'}\");\n}", "lib.js");
+  }
+
+  /// What a reporter prints of one script.
+  QString printedOf(const QByteArray& script) {
+    write(script, "one.js");
+    return textOf(ConsoleReporter::Detail::Steps,
+                  [this](ConsoleReporter* reporter) { ScriptEngine(host, reporter).runFile(path("one.js")); });
+  }
+
+  RunSummary runAll(ScriptListener* reporter) {
+    ScriptEngine engine(host, reporter);
+    return engine.run({path("good.js"), path("checks.js"), path("error.js")});
+  }
+
+  QStringList printed(ConsoleReporter::Detail detail) {
+    return textOf(detail, [this](ConsoleReporter* reporter) { runAll(reporter); })
+        .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+  }
+
+private:
+  static QString textOf(ConsoleReporter::Detail detail, const std::function<void(ConsoleReporter*)>& run) {
+    char* buffer = nullptr;
+    std::size_t size = 0;
+    std::FILE* stream = open_memstream(&buffer, &size);
+    ConsoleReporter reporter(stream, detail);
+    run(&reporter);
+    std::fclose(stream);
+    const QString text = QString::fromUtf8(buffer, static_cast<int>(size));
+    std::free(buffer);
+    return text;
+  }
+};
+
+}  // namespace
+
+TEST_F(ScriptReporters, SummaryCountsScriptsAndChecks) {
+  FakeModel::RecordingListener recording;
+  const RunSummary summary = runAll(&recording);
+  EXPECT_TRUE(summary.text().startsWith(s("3 scripts: 1 passed, 2 failed; 2 checks, 1 failed; ")));
+  RunSummary one;
+  ScriptResult result;
+  result.checksPassed = 1;
+  result.durationMs = 3249;
+  one.add(result);
+  EXPECT_EQ(one.text(), s("1 script: 1 passed, 0 failed; 1 check, 0 failed; 3.2 s"));
+}
+
+TEST_F(ScriptReporters, ConsoleShowsStepsErrorsAndTheSummaryLast) {
+  const QStringList lines = printed(ConsoleReporter::Detail::Steps);
+  ASSERT_GT(lines.size(), 8);
+  EXPECT_EQ(lines.value(0), path("good.js"));
+  EXPECT_TRUE(lines.value(1).endsWith(s("s  setFocus {id='f'}")));
+  EXPECT_EQ(lines.value(2), s("  passed  got 1 as expected"));
+  EXPECT_TRUE(lines.contains(s("  FAILED  a < b & \"c\" does not hold (") + path("checks.js") + s(":1)")));
+  EXPECT_TRUE(lines.contains(s("  ERROR   Object '{id='<none>'}' not found.")));
+  EXPECT_TRUE(lines.contains(s("          ") + path("lib.js") + s(":2: findObject(\"{id='<none>'}\");")));
+  EXPECT_TRUE(lines.contains(s("          called from ") + path("error.js") + s(":3: look();")));
+  EXPECT_TRUE(lines.last().startsWith(s("3 scripts: 1 passed, 2 failed")));
+  EXPECT_FALSE(lines.join(QString()).contains(QChar(0x1b)));
+  EXPECT_EQ(lines.filter(s("Field.focus()")), QStringList());
+  EXPECT_EQ(printed(ConsoleReporter::Detail::ObjectCalls).filter(s("Field.focus()")).size(), 1);
+}
+
+TEST_F(ScriptReporters, ConsoleShowsTextsInOnePieceAndWhoCalledWhat) {
+  const QString lines = printedOf(
+      "function check(text) { test.compare(text, ''); }\n"
+      "test.log('one\\n  FAILED  two\\u001b[2J\\0\\n');\n"
+      "check('a\\nb');\n"
+      "findObject('a\\rb');\n");
+  EXPECT_TRUE(lines.contains(s("  log     one\n            FAILED  two\\u001b[2J\\u0000\n")));
+  EXPECT_TRUE(lines.contains(s("  FAILED  got 'a\n          b', but expected '' (") + path("one.js") +
+                             s(":1, called from ") + path("one.js") + s(":3)\n")));
+  EXPECT_TRUE(lines.contains(s("  ERROR   Object 'a\\rb' not found.\n          ") + path("one.js") + s(":4: ")));
+}
+
+TEST_F(ScriptReporters, AnOutputThatTakesNoMoreIsToldOnce) {
+  std::FILE* full = std::fopen("/dev/full", "w");
+  ConsoleReporter reporter(full);
+  int ends = 0;
+  reporter.setOutputEnd([&ends] { ++ends; });
+  runAll(&reporter);
+  std::fclose(full);
+  EXPECT_EQ(reporter.error(), std::errc::no_space_on_device);
+  EXPECT_EQ(ends, 1);
+}
+
+TEST_F(ScriptReporters, JUnitFileIsValidAndComplete) {
+  JUnitReporter reporter(path("junit.xml"));
+  ASSERT_EQ(reporter.open(), QString());
+  runAll(&reporter);
+  EXPECT_EQ(reporter.error(), QString());
+
+  QXmlStreamReader xml(TestSupport::readFile(path("junit.xml")));
+  QStringList seen;
+  while (!xml.atEnd()) {
+    if (xml.readNext() != QXmlStreamReader::StartElement) {
+      continue;
+    }
+    const QXmlStreamAttributes attributes = xml.attributes();
+    const QString element = xml.name().toString();
+    if (element == s("testsuite")) {
+      seen << s("suite ") + attributes.value(s("tests")).toString() + attributes.value(s("failures")).toString() +
+                  attributes.value(s("errors")).toString();
+    }
+    if (element == s("testcase")) {
+      seen << s("case ") + attributes.value(s("classname")).toString();
+    }
+    if (element == s("failure") || element == s("error")) {
+      seen << element + s(" ") + attributes.value(s("message")).toString() + s(" | ") + xml.readElementText().trimmed();
+    }
+    if (element == s("system-out")) {
+      seen << s("out ") + xml.readElementText().trimmed();
+    }
+  }
+  EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+  EXPECT_EQ(
+      seen,
+      QStringList({s("suite 311"), s("case good"), s("case checks"),
+                   s("failure 1 of 1 checks failed | ") + path("checks.js") + s(":1: a < b & \"c\" does not hold"),
+                   s("out bad \\u0001"), s("case error"),
+                   s("error Object '{id='<none>'}' not found. | ") + path("lib.js") +
+                       s(":2: findObject(\"{id='<none>'}\");\ncalled from ") + path("error.js") + s(":3: look();")}));
+}
+
+TEST_F(ScriptReporters, JUnitFileThatCannotBeWrittenIsToldBeforehand) {
+  JUnitReporter reporter(path("none/junit.xml"));
+  EXPECT_EQ(reporter.open(), QStringLiteral("Cannot write the JUnit file '%1': No such file or "
+                                            "directory. Choose a file in a directory that "
+                                            "exists and that you may write to.")
+                                 .arg(path("none/junit.xml")));
+}
