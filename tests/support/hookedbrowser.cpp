@@ -55,6 +55,8 @@ HookedBrowser::HookedBrowser() : m_model(new Corvex::Webhook::WebModel) {
   require(error);
   m_endpoint.setAllowedOrigins({originOf(m_server.url(QStringLiteral("/")))});
   m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, *m_model, m_endpoint.place());
+  // The hook script's own replacement of dialogs is under test, too.
+  m_windows->keepDialogsInPages();
   require(m_windows->open());
 }
 

@@ -21,6 +21,8 @@ public:
 
   Corvex::Webhook::BrowserSession& session() { return *m_session; }
   Corvex::Webhook::Connection& connection() { return *m_windows->current(); }
+  Corvex::Webhook::BrowserWindows& windows() { return *m_windows; }
+  Corvex::Webhook::MessageEndpoint& endpoint() { return m_endpoint; }
   TestServer& server() { return m_server; }
 
   /// Loads a page with this body from the local server; the test fails when it cannot.

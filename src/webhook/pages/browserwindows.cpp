@@ -1,10 +1,17 @@
 #include "webhook/pages/browserwindows.h"
 
+#include "shared/wait.h"
+#include "webhook/pages/dialogsentence.h"
+#include "webhook/pages/windownames.h"
 #include "wrappers/web/setup/wrapperconfig.h"
 
 namespace Corvex::Webhook {
 
 namespace {
+
+// Long enough for a page that is only slow, and for one that has been waited for already.
+const int signOfLifeMs = 2000;
+const int nextSignMs = 100;
 
 BrowserIdentity identify(const BrowserSession& session) {
   BrowserIdentity identity;
@@ -49,6 +56,12 @@ void BrowserWindows::addPage(BrowserPage* page) {
   connect(connection, &Connection::navigating, this, &BrowserWindows::documentExpected);
   connect(page, &BrowserPage::navigated, this, &BrowserWindows::documentExpected);
   connect(page, &BrowserPage::closed, connection, [this, connection] { noteClosed(connection); });
+  connection->setObstacle([this, connection] { return whyNotAsk(connection); });
+  connect(page, &BrowserPage::dialogOpened, this, [this, connection] {
+    if (const std::optional<Dialog> dialog = connection->openDialog()) {
+      Q_EMIT dialogOpened(*dialog);
+    }
+  });
   Q_EMIT documentExpected(page->url());
 }
 
@@ -73,6 +86,53 @@ QVector<Connection*> BrowserWindows::connections() const {
     }
   }
   return open;
+}
+
+QString BrowserWindows::dialogOf(Connection* connection, const QString& who) const {
+  const std::optional<Dialog> dialog = connection ? connection->openDialog() : std::nullopt;
+  return dialog ? dialogSentence(who, dialog->kind, dialog->text) : QString();
+}
+
+QString BrowserWindows::nameByAddress(const Connection* connection) const {
+  NameCount count;
+  for (const Connection* each : connections()) {
+    const QString page = pageOfAddress(each->address());
+    const QString name = page + count.nextSuffix(page);
+    if (each == connection) {
+      return name;
+    }
+  }
+  return QString();
+}
+
+QString BrowserWindows::dialogOfAnother(const Connection* connection) const {
+  for (Connection* other : connections()) {
+    if (other != connection && other->openDialog()) {
+      return dialogOf(other, QStringLiteral("window '%1'").arg(nameByAddress(other)));
+    }
+  }
+  return QString();
+}
+
+QString BrowserWindows::whatIsShown() const {
+  const QString own = dialogOf(current(), QStringLiteral("page"));
+  return own.isEmpty() ? dialogOfAnother(current()) : own;
+}
+
+QString BrowserWindows::whyNotAsk(Connection* connection) const {
+  const QString own = dialogOf(connection, QStringLiteral("page"));
+  if (!own.isEmpty() || !connection->isAvailable() || dialogOfAnother(connection).isEmpty()) {
+    return own;
+  }
+  const int timeoutMs = m_silent.contains(connection) ? nextSignMs : signOfLifeMs;
+  const QDeadlineTimer deadline(timeoutMs);
+  const JavaScriptAnswer sign = connection->page()->evaluate(QStringLiteral("0"), timeoutMs);
+  if (!sign.aborted || !deadline.hasExpired()) {
+    m_silent.remove(connection);
+    return QString();
+  }
+  m_silent.insert(connection);
+  return dialogOfAnother(connection);
 }
 
 }  // namespace Corvex::Webhook

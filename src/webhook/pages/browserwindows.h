@@ -5,6 +5,7 @@
 #include "webhook/pages/webmodel.h"
 
 #include <QObject>
+#include <QSet>
 #include <QVector>
 
 #include <memory>
@@ -24,6 +25,9 @@ public:
                  const QString& messagePort = {});
   ~BrowserWindows() override;
 
+  /// For a browser whose protocol answers no dialogs; before `open`.
+  void keepDialogsInPages() { m_identity.opensNativeDialogs = false; }
+
   /// Hooks the first page, and every page that opens from now on.
   QString open();
 
@@ -32,20 +36,31 @@ public:
   void setCurrent(Connection* connection);
   /// The open ones, oldest first.
   QVector<Connection*> connections() const;
-  bool opensNativeDialogs() const { return m_identity.opensNativeDialogs(); }
+
+  /// The sentence about the dialog that an open window shows, the current one's first; empty without one.
+  QString whatIsShown() const;
+  /// The sentence about the dialog that keeps a page from answering: its own, or that of another window whose page runs
+  /// in the same process. A page beside a dialog is asked for a sign of life.
+  QString whyNotAsk(Connection* connection) const;
 
 Q_SIGNALS:
   /// A page shows another document, or is about to.
   void documentExpected(const QString& url);
+  void dialogOpened(const Corvex::Webhook::Dialog& dialog);
 
 private:
   void addPage(BrowserPage* page);
   void noteClosed(Connection* connection);
+  QString nameByAddress(const Connection* connection) const;
+  QString dialogOf(Connection* connection, const QString& who) const;
+  QString dialogOfAnother(const Connection* connection) const;
 
   BrowserSession& m_session;
   const WebWrapper::WrapperConfig& m_config;
   WebModel& m_model;
   BrowserIdentity m_identity;
+  // Those that gave no sign of life when they were last asked for one.
+  mutable QSet<const Connection*> m_silent;
   // Closed ones too: calls through them may be under way.
   std::vector<std::unique_ptr<Connection>> m_connections;
 };

@@ -1,5 +1,6 @@
 #include "webhook/pages/connection.h"
 
+#include "shared/wait.h"
 #include "webhook/browser/pageerrors.h"
 #include "webhook/pages/extensioncheck.h"
 #include "webhook/protocol/inpagetext.h"
@@ -23,6 +24,9 @@ const BrowserKindRow browserKinds[] = {
     {BrowserIdentity::Chromium, 4},
 };
 
+const int scriptsTimeoutMs = 2000;
+const int scriptsIntervalMs = 5;
+
 /// What code needs to be safe in a page that is not ours. The page may have replaced what answers are written with; and
 /// a reference into one document may name anything in the next one, which can be there before the browser tells of it.
 QString guarded(const QString& code, int document) {
@@ -44,11 +48,6 @@ Connection::Connection(BrowserPage* page, const WebWrapper::WrapperConfig* confi
   connect(page, &BrowserPage::navigated, this, &Connection::documentGone);
   connect(page, &BrowserPage::closed, this, &Connection::documentGone);
   connect(this, &Connection::documentGone, this, [this] { m_greeted = false; });
-  connect(page, &BrowserPage::dialogOpened, this, [this] {
-    if (const std::optional<Dialog> dialog = openDialog()) {
-      m_lastDialogs[dialog->kind] = *dialog;
-    }
-  });
 }
 
 QString Connection::install() {
@@ -109,7 +108,12 @@ QString Connection::navigate(const QString& url, int timeoutMs) {
 bool Connection::setContext(const QString& name) {
   m_contextName = name;
   const QString code = QStringLiteral("__corvex__setContext('%1')").arg(WebWrapper::escapeQuoteWithBackslash(name));
-  return evaluateJS(code, 0).text == QLatin1String("true");
+  if (!openDialog() && evaluateJS(code, 0).text == QLatin1String("true")) {
+    return true;
+  }
+  const bool isHeld = openDialog().has_value();
+  m_greeted = m_greeted && !isHeld;
+  return isHeld;
 }
 
 QString Connection::close() { return m_page ? m_page->close() : QString(); }
@@ -119,7 +123,18 @@ bool Connection::isOpen() const { return m_page && m_page->isOpen(); }
 std::optional<Dialog> Connection::openDialog() const { return m_page ? m_page->openDialog() : std::nullopt; }
 
 QString Connection::answerDialog(bool accept, const QString& text) {
-  return m_page ? m_page->answerDialog(accept, text) : closedPage();
+  const QString error = m_page ? m_page->answerDialog(accept, text) : closedPage();
+  if (error.isEmpty() && m_browser.family == BrowserIdentity::Firefox) {
+    awaitScripts();
+  }
+  return error;
+}
+
+void Connection::awaitScripts() {
+  const auto goesOn = [this] {
+    return !m_page || m_page->evaluate(inPageText("scriptswait.js"), scriptsTimeoutMs).text != QLatin1String("true");
+  };
+  poll(scriptsTimeoutMs, scriptsIntervalMs, goesOn);
 }
 
 JavaScriptAnswer Connection::evaluateJS(const QString& code, unsigned int timeoutMs) {
@@ -141,13 +156,18 @@ JavaScriptAnswer Connection::evaluateInAnyDocument(const QString& code, unsigned
 }
 
 JavaScriptAnswer Connection::ask(const QString& code, unsigned int timeoutMs) {
+  const QString obstacle = m_whyNotAsk();
   if (!m_page) {
     return {closedPage(), false, true};
+  }
+  if (!obstacle.isEmpty()) {
+    return {obstacle, false, true};
   }
   ++m_questions;
   const JavaScriptAnswer answer = m_page->evaluate(code, static_cast<int>(timeoutMs));
   --m_questions;
-  return answer;
+  const QString reason = answer.aborted ? m_whyNotAsk() : QString();
+  return reason.isEmpty() ? answer : JavaScriptAnswer{reason, false, true};
 }
 
 int Connection::browserKind() {

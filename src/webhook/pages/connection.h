@@ -4,10 +4,10 @@
 #include "webhook/pages/hookinjector.h"
 #include "wrappers/web/page/htmlcomponent.h"
 
-#include <QHash>
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <optional>
 
 namespace Corvex::Webhook {
@@ -31,20 +31,26 @@ public:
   QString close();
   bool isOpen() const;
   BrowserPage* page() const { return m_page; }
+  /// Of the document that the page shows, also while the page cannot be asked.
+  QString address() const { return m_page ? m_page->url() : QString(); }
 
   /// Selects a context of this page, by its name inside the page; after a reload it is selected again. False where
-  /// there is none of that name: a window that gets the name later is then selected.
+  /// there is none of that name: a window that gets the name later is then selected. A page that shows a dialog is told
+  /// when the dialog is answered.
   bool setContext(const QString& name);
+
+  /// `whyNotAsk` is asked before each question to the page and after one that got no answer. What it says, if anything,
+  /// is the answer.
+  void setObstacle(const std::function<QString()>& whyNotAsk) { m_whyNotAsk = whyNotAsk; }
 
   /// Whether a question to the page is under way.
   bool isBusy() const { return m_questions > 0; }
 
   /// The dialog that keeps the page's scripts from going on.
   std::optional<Dialog> openDialog() const;
-  /// A null text leaves a prompt's field as it is.
+  /// A null text leaves a prompt's field as it is. On return the page's scripts have gone on, as far as the next
+  /// dialog.
   QString answerDialog(bool accept, const QString& text);
-  /// The last dialog of a kind that the browser showed; one without a kind before there was one.
-  Dialog lastDialog(const QString& kind) const { return m_lastDialogs.value(kind); }
 
   JavaScriptAnswer evaluateJS(const QString& code, unsigned int timeoutMs) override;
   JavaScriptAnswer evaluateInAnyDocument(const QString& code, unsigned int timeoutMs) override;
@@ -67,6 +73,8 @@ private:
   JavaScriptAnswer ask(const QString& code, unsigned int timeoutMs);
   /// Makes a document that was not asked anything yet ready for questions. Answers why it is not, or an empty text.
   QString greetDocument();
+  /// Waits until the page's scripts stand still no more.
+  void awaitScripts();
   QString upload(const QString& reference, const QString& path);
 
   QPointer<BrowserPage> m_page;
@@ -74,7 +82,7 @@ private:
   BrowserIdentity m_browser;
   QString m_tabId;
   QString m_contextName;
-  QHash<QString, Dialog> m_lastDialogs;
+  std::function<QString()> m_whyNotAsk = [] { return QString(); };
   bool m_greeted = false;
   int m_document = 0;  ///< Counts the documents that were greeted; each knows its number.
   int m_questions = 0;

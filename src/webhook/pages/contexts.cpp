@@ -1,10 +1,8 @@
 #include "webhook/pages/contexts.h"
 
 #include "webhook/pages/browserwindows.h"
+#include "webhook/pages/windownames.h"
 #include "wrappers/web/page/escaping.h"
-
-#include <QHash>
-#include <QRegularExpression>
 
 namespace Corvex::Webhook {
 
@@ -30,19 +28,31 @@ const char* const namesInPage = R"JS((function () {
   return names;
 }()))JS";
 
-QString frameSuffix(const QString& name) {
-  static const QRegularExpression frames(QStringLiteral("(\\.FRAME\\d+)+$"));
-  return frames.match(name).captured(0);
-}
+// What stands in the way of a frame path; empty where nothing does, and the frame is then selected. A frame of another
+// origin would be selected without a word, too.
+const char* const frameSelection = R"JS((function (path) {
+  var before = window.__corvex__ctxwin;
+  var names = path.split(".");
+  for (var i = 1; i <= names.length; ++i) {
+    var step = names.slice(0, i).join(".");
+    if (!__corvex__hasFrameContext(step)) {
+      var isThere = __corvex__setFrameContext(step);
+      window.__corvex__ctxwin = before;
+      return (isThere ? "foreign " : "missing ") + step;
+    }
+  }
+  __corvex__setFrameContext(path);
+  return "";
+}))JS";
 
 QStringList namesOf(Connection* connection) {
   const WebWrapper::JavaScriptAnswer answer = connection->evaluateJS(QLatin1String(namesInPage), 0);
   if (!answer.succeeded()) {
-    return {};
+    return {pageOfAddress(connection->address())};
   }
   QStringList names = answer.text.split(QLatin1Char('\n'));
   names.removeLast();
-  return names;
+  return names.isEmpty() ? QStringList(pageOfAddress(connection->address())) : names;
 }
 
 QString join(const QStringList& names) {
@@ -53,15 +63,14 @@ QString join(const QStringList& names) {
 
 QVector<Context> allContexts(const BrowserWindows& windows) {
   QVector<Context> contexts;
-  QHash<QString, int> pagesOfName;
+  NameCount count;
   for (Connection* connection : windows.connections()) {
-    const QStringList names = connection->isAvailable() ? namesOf(connection) : QStringList();
-    const int count = names.isEmpty() ? 0 : ++pagesOfName[names.first()];
-    for (const QString& name : names) {
-      const QString frames = frameSuffix(name);
-      const QString page = name.left(name.size() - frames.size());
-      const QString suffix = count > 1 ? QStringLiteral("<%1>").arg(count) : QString();
-      contexts.append({page + suffix + frames, connection, name});
+    const QStringList names = namesOf(connection);
+    // It may have closed instead of answering.
+    const QString suffix = connection->isOpen() ? count.nextSuffix(names.first()) : QString();
+    for (const QString& name : connection->isOpen() ? names : QStringList()) {
+      const QString frames = framesOf(name);
+      contexts.append({name.left(name.size() - frames.size()) + suffix + frames, connection, name});
     }
   }
   return contexts;
@@ -72,29 +81,43 @@ bool hasContext(const BrowserWindows& windows, const QString& name) { return con
 QString selectContext(BrowserWindows& windows, const QString& name) {
   for (const Context& context : allContexts(windows)) {
     // A window may have closed while later ones were asked.
-    if (context.name == name && context.connection->isOpen()) {
-      windows.setCurrent(context.connection);
-      return context.connection->setContext(context.localName)
-                 ? QString()
-                 : QStringLiteral("The context '%1' went away while it was being selected.").arg(name);
+    if (context.name != name || !context.connection->isOpen()) {
+      continue;
     }
+    if (context.connection->setContext(context.localName)) {
+      windows.setCurrent(context.connection);
+      return QString();
+    }
+    const QString why = windows.whyNotAsk(context.connection);
+    return why.isEmpty() ? QStringLiteral("The context '%1' went away while it was being selected.").arg(name) : why;
   }
-  return QStringLiteral("There is no context '%1'. There are: %2.").arg(name, join(contextNames(windows)));
+  return whyNoContext(windows, QStringLiteral("There is no context '%1'.").arg(name));
+}
+
+QString whyNoContext(const BrowserWindows& windows, const QString& what) {
+  const QString shown = windows.whatIsShown();
+  return QStringLiteral("%1 There are: %2.").arg(what, join(contextNames(windows))) +
+         (shown.isEmpty() ? QString() : QLatin1Char(' ') + shown);
 }
 
 QString selectFrame(const BrowserWindows& windows, const QString& path) {
   const QString code =
-      QStringLiteral("__corvex__setFrameContext('%1')").arg(WebWrapper::escapeQuoteWithBackslash(path));
+      QLatin1String(frameSelection) + QStringLiteral("('%1')").arg(WebWrapper::escapeQuoteWithBackslash(path));
   const WebWrapper::JavaScriptAnswer answer = windows.current()->evaluateJS(code, 0);
   if (!answer.succeeded()) {
     return answer.text;
   }
-  return answer.text == QLatin1String("true")
-             ? QString()
-             : QStringLiteral(
-                   "There is no frame '%1' in the current page. Give names, ids or FRAME with a number, "
-                   "parted by dots.")
-                   .arg(path);
+  if (answer.text.startsWith(QLatin1String("foreign "))) {
+    return QStringLiteral(
+               "The frame '%1' shows a page of another origin, which scripts cannot reach. Open its address "
+               "with startBrowser(url) instead.")
+        .arg(answer.text.section(QLatin1Char(' '), 1));
+  }
+  return answer.text.isEmpty() ? QString()
+                               : QStringLiteral(
+                                     "There is no frame '%1' in the current page. Give names, ids or FRAME "
+                                     "with a number, parted by dots.")
+                                     .arg(path);
 }
 
 QStringList contextNames(const BrowserWindows& windows) {
@@ -108,7 +131,7 @@ QStringList contextNames(const BrowserWindows& windows) {
 QStringList windowNames(const BrowserWindows& windows) {
   QStringList names;
   for (const Context& context : allContexts(windows)) {
-    if (frameSuffix(context.name).isEmpty()) {
+    if (framesOf(context.name).isEmpty()) {
       names << context.name;
     }
   }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "shared/functioncallresult.h"
-
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -20,7 +18,8 @@ struct Context {
 };
 
 /// All contexts of all pages: each window's document, and behind it its frames. Where two pages have the same name, the
-/// second and later ones have "<2>" and so on behind the page's part of the name. Pages that cannot answer have none.
+/// second and later ones have "<2>" and so on behind the page's part of the name. Of a page that does not answer, as
+/// one that shows a dialog, only the window is known.
 QVector<Context> allContexts(const BrowserWindows& windows);
 
 /// Whether there is a context of that name now.
@@ -28,6 +27,10 @@ bool hasContext(const BrowserWindows& windows, const QString& name);
 
 /// Lookups start in that context from now on. The error lists the names that there are.
 QString selectContext(BrowserWindows& windows, const QString& name);
+
+/// The sentence `what` about a context that is missing, and what there is instead. A page that shows a dialog has told
+/// nothing of its frames, so the dialog is part of it.
+QString whyNoContext(const BrowserWindows& windows, const QString& what);
 
 /// Selects a frame of the current page by its path of names, ids or "FRAME" and number, parted by dots.
 QString selectFrame(const BrowserWindows& windows, const QString& path);

@@ -4,6 +4,7 @@
 #include "shared/wait.h"
 #include "webhook/endpoint/endpoint.h"
 #include "webhook/pages/browserwindows.h"
+#include "webhook/pages/dialogsentence.h"
 
 #include <algorithm>
 
@@ -13,25 +14,22 @@ namespace {
 
 const int attemptIntervalMs = 20;
 
-struct TextFunction {
-  const char* kind;
-  const char* function;
-};
-
-const TextFunction textFunctions[] = {
-    {"alert", "__corvex__lastAlertText"},
-    {"confirm", "__corvex__lastConfirmText"},
-    {"prompt", "__corvex__lastPromptText"},
-};
-
-/// The question whether to leave a page is answered as a confirm is.
-QString answeredAs(const QString& kind) {
-  return kind == QLatin1String("beforeunload") ? QStringLiteral("confirm") : kind;
-}
+const char* const promptDefault = "default";
 
 }  // namespace
 
-Dialogs::Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint) : m_windows(windows), m_endpoint(endpoint) {}
+Dialogs::Dialogs(BrowserWindows& windows, MessageEndpoint& endpoint) : m_windows(windows), m_endpoint(endpoint) {
+  connect(&windows, &BrowserWindows::dialogOpened, this, &Dialogs::noteDialog);
+  // An alert is gone with the page that swallowed it.
+  connect(&windows, &BrowserWindows::documentExpected, this, [this] { m_swallowedAlerts = 0; });
+}
+
+void Dialogs::noteDialog(const Dialog& dialog) {
+  m_texts[dialog.kind] = dialog.text;
+  if (dialog.kind == QLatin1String("prompt")) {
+    m_texts[QLatin1String(promptDefault)] = dialog.defaultText;
+  }
+}
 
 void Dialogs::noteMessage(const PageMessage& message) {
   if (message.wantsReply()) {
@@ -75,7 +73,7 @@ QString Dialogs::answer(const QString& kind, bool accept, const QString& text, i
   if (isAnswered) {
     return error;
   }
-  const QString other = whyNotAskPage();
+  const QString other = whatIsShown();
   return QStringLiteral("No %1 opened within %2 ms.").arg(kind).arg(timeoutMs) +
          (other.isEmpty() ? QString() : QLatin1Char(' ') + other);
 }
@@ -110,8 +108,10 @@ bool Dialogs::answerWait(const QString& kind, bool accept, const QString& text, 
 }
 
 Connection* Dialogs::showing(const QString& kind) const {
-  for (Connection* connection : m_windows.connections()) {
-    const std::optional<Dialog> dialog = connection->openDialog();
+  QVector<Connection*> candidates = m_windows.connections();
+  candidates.prepend(m_windows.current());
+  for (Connection* connection : candidates) {
+    const std::optional<Dialog> dialog = connection ? connection->openDialog() : std::nullopt;
     if (dialog && answeredAs(dialog->kind) == kind) {
       return connection;
     }
@@ -119,52 +119,25 @@ Connection* Dialogs::showing(const QString& kind) const {
   return nullptr;
 }
 
-FunctionCallResult<QString> Dialogs::lastText(const QString& kind) const {
-  const Connection* current = m_windows.current();
-  if (current && !current->lastDialog(kind).kind.isEmpty()) {
-    return FunctionCallResult<QString>::success(current->lastDialog(kind).text);
-  }
-  if (m_texts.contains(kind)) {
-    return FunctionCallResult<QString>::success(m_texts.value(kind));
-  }
-  for (const TextFunction& row : textFunctions) {
-    if (kind == QLatin1String(row.kind)) {
-      return fromPage(QLatin1String(row.function));
-    }
-  }
-  return {};
-}
-
-FunctionCallResult<QString> Dialogs::lastPromptDefault() const {
-  const Connection* current = m_windows.current();
-  if (current && !current->lastDialog(QStringLiteral("prompt")).kind.isEmpty()) {
-    return FunctionCallResult<QString>::success(current->lastDialog(QStringLiteral("prompt")).defaultText);
-  }
-  return m_texts.contains(QStringLiteral("default"))
-             ? FunctionCallResult<QString>::success(m_texts.value(QStringLiteral("default")))
-             : fromPage(QStringLiteral("__corvex__lastPromptDefault"));
-}
-
-FunctionCallResult<QString> Dialogs::fromPage(const QString& function) const {
-  Connection* current = m_windows.current();
-  if (!current) {
-    return {};
-  }
-  const WebWrapper::JavaScriptAnswer answer = current->evaluateJS(function + QStringLiteral("()"), 0);
-  return answer.succeeded() ? FunctionCallResult<QString>::success(answer.text)
-                            : FunctionCallResult<QString>::failure(answer.text);
-}
+QString Dialogs::lastPromptDefault() const { return lastText(QLatin1String(promptDefault)); }
 
 QString Dialogs::whyNotAskPage() const {
-  const Connection* current = m_windows.current();
-  const std::optional<Dialog> dialog = current ? current->openDialog() : std::nullopt;
-  if (!dialog && m_waits.isEmpty()) {
+  Connection* const current = m_windows.current();
+  const QString why = current ? m_windows.whyNotAsk(current) : QString();
+  return why.isEmpty() ? whatIsWaitedFor() : why;
+}
+
+QString Dialogs::whatIsShown() const {
+  const QString shown = m_windows.whatIsShown();
+  return shown.isEmpty() ? whatIsWaitedFor() : shown;
+}
+
+QString Dialogs::whatIsWaitedFor() const {
+  if (m_waits.isEmpty()) {
     return QString();
   }
-  const QString kind = dialog ? dialog->kind : m_waits.first().kind;
-  const QString text = dialog ? dialog->text : m_texts.value(kind);
-  return QStringLiteral("The page shows a dialog (%1: '%2'). Answer it with close%3.")
-      .arg(kind, text, answeredAs(kind).left(1).toUpper() + answeredAs(kind).mid(1));
+  const QString kind = m_waits.first().kind;
+  return dialogSentence(QStringLiteral("page"), kind, m_texts.value(kind));
 }
 
 }  // namespace Corvex::Webhook

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "shared/functioncallresult.h"
-
 #include <QHash>
 #include <QObject>
 #include <QString>
@@ -13,9 +11,11 @@ class BrowserWindows;
 class Connection;
 class MessageEndpoint;
 class PageMessage;
+struct Dialog;
 
-/// The dialogs that pages open by themselves, as test scripts answer them. Some browsers show the native dialog; in the
-/// others the page has swallowed it, or stands still until it is told the answer.
+/// The dialogs that pages open by themselves, as test scripts answer them. The browser shows them until they are
+/// answered. Where its protocol answers none, a page swallows its alerts and tells of them, and stands still until it
+/// is told the answer to the others.
 class Dialogs : public QObject {
   Q_OBJECT
 
@@ -27,7 +27,8 @@ public:
   void noteMessage(const PageMessage& message);
   void noteWaitEnded(quint64 waitId);
 
-  /// Each waits for a dialog of its kind and answers it. An error tells what is open instead.
+  /// Each waits for a dialog of its kind and answers it, the current window's first. An error tells what is open
+  /// instead.
   QString closeAlert(int timeoutMs);
   /// The question whether to leave a page counts as a confirm.
   QString closeConfirm(bool accept, int timeoutMs);
@@ -35,11 +36,11 @@ public:
   QString closePrompt(const QString& text, int timeoutMs);
 
   /// What the last dialog of the kind ("alert", "confirm", "prompt") said; empty before there was one.
-  FunctionCallResult<QString> lastText(const QString& kind) const;
+  QString lastText(const QString& kind) const { return m_texts.value(kind); }
   /// What the field of the last prompt held at first.
-  FunctionCallResult<QString> lastPromptDefault() const;
+  QString lastPromptDefault() const;
 
-  /// The sentence for calls that an open dialog blocks; empty when none is open in the current window.
+  /// The sentence for calls that an open dialog blocks; empty when the current window can be asked.
   QString whyNotAskPage() const;
 
 private:
@@ -49,11 +50,14 @@ private:
     quint64 id = 0;
   };
 
+  void noteDialog(const Dialog& dialog);
   bool tryAnswer(const QString& kind, bool accept, const QString& text, QString* error);
   QString answer(const QString& kind, bool accept, const QString& text, int timeoutMs);
   Connection* showing(const QString& kind) const;
   bool answerWait(const QString& kind, bool accept, const QString& text, QString* error);
-  FunctionCallResult<QString> fromPage(const QString& function) const;
+  /// The sentence about a dialog that is open in any window; empty without one.
+  QString whatIsShown() const;
+  QString whatIsWaitedFor() const;
 
   BrowserWindows& m_windows;
   MessageEndpoint& m_endpoint;

@@ -47,6 +47,9 @@ const ConfigVariable namespaceMembers[] = {
     {"window.__corvex.useSessionStorageForEvents", &WrapperConfig::useSessionStorageForEvents},
 };
 
+// Left to itself, the script knows of few browsers only that their dialogs can be answered.
+const char* const nativeDialogs = "\n__corvex__opensNativeDialogs = function () { return true; };\n";
+
 QString assignment(const char* variable, const QString& value) {
   return QStringLiteral("%1 = %2;\n").arg(QLatin1String(variable), value);
 }
@@ -103,11 +106,11 @@ QString hookScript(const WrapperConfig& config) {
 }  // namespace
 
 QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
-  const QString dialogTexts = browser.opensNativeDialogs() ? QString() : inPageText("dialogtexts.js");
+  const QString dialogs = browser.opensNativeDialogs ? QLatin1String(nativeDialogs) : inPageText("dialogtexts.js");
   return QStringLiteral(
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
-         members(config, browser) + inPageText("ownjson.js") + hookScript(config) + dialogTexts +
+         members(config, browser) + inPageText("ownjson.js") + hookScript(config) + dialogs +
          inPageText("fallback.js") + QStringLiteral("\n}");
 }
 

@@ -18,9 +18,9 @@ struct BrowserIdentity {
   int majorVersion = 0;
   /// Where pages send their messages, see MessageEndpoint::place(); "" leaves them in the queue of the session.
   QString messagePort;
-
-  /// Whether dialogs open as the browser's own; otherwise pages swallow alerts, and wait for the answer to the others.
-  bool opensNativeDialogs() const { return family == Chromium; }
+  /// Whether dialogs open as the browser's own, which its protocol answers; otherwise pages swallow alerts, and wait
+  /// for the answer to the others.
+  bool opensNativeDialogs = true;
 };
 
 /// The text that hooks a top page: browser flags and configuration values, then the namespace prelude, then the hook

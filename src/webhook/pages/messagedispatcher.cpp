@@ -60,7 +60,8 @@ void MessageDispatcher::takeLogEvent(const PageMessage& message) {
 }
 
 void MessageDispatcher::drainQueues() {
-  if (m_draining) {
+  // Pages beside one that shows a dialog may be held with it.
+  if (m_draining || !m_windows.whatIsShown().isEmpty()) {
     return;
   }
   m_draining = true;

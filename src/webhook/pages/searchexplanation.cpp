@@ -2,6 +2,8 @@
 
 #include "corvexhook/delegate.h"
 #include "corvexhook/inspector.h"
+#include "webhook/pages/browserwindows.h"
+#include "webhook/pages/windownames.h"
 #include "wrappers/web/lookup/containers.h"
 #include "wrappers/web/lookup/findallobjects.h"
 #include "wrappers/web/lookup/webobjectdelegate.h"
@@ -24,6 +26,8 @@ const unsigned int explanationTimeoutMs = 2000;
 
 // What the names begin with that are places in the tree.
 const QLatin1String treeRoot("DOCUMENT");
+
+const QLatin1String contextProperty("context");
 
 /// `where` has a blank in front.
 QString elements(const QString& tag, int count, const QString& where) {
@@ -76,17 +80,20 @@ QString explainElements(const QJsonObject& why, const ObjectName& name, const QS
                      .arg(missing, error.isEmpty() ? QString() : QLatin1String(": ") + error);
 }
 
-QString explainFailedStep(WebWrapper::HTMLComponent& page, const ObjectName& name, const QString& reference) {
-  const WebWrapper::JavaScriptAnswer answer = askPage(page, "explainFailedSearch", name.qualifiedName(), reference);
+/// `localName` is what the page knows `name` by.
+QString explainFailedStep(WebWrapper::HTMLComponent& page, const ObjectName& name, const ObjectName& localName,
+                          const QString& reference) {
+  const WebWrapper::JavaScriptAnswer answer =
+      askPage(page, "explainFailedSearch", localName.qualifiedName(), reference);
   const QJsonObject why = QJsonDocument::fromJson(answer.text.toUtf8()).object();
+  const QString context = name.property(contextProperty).value();
   if (why.contains(QLatin1String("context"))) {
-    return missingContext(why.value(QLatin1String("context")).toString());
+    return missingContext(context);
   }
   if (!answer.succeeded() || !why.contains(QLatin1String("tag"))) {
     return QString();
   }
-  const bool hasContext = !name.property(QStringLiteral("context")).value().isEmpty();
-  const QString where = hasContext ? QStringLiteral(" in its context") : QString();
+  const QString where = context.isEmpty() ? QString() : QStringLiteral(" in its context");
   return explainElements(why, name, reference.isEmpty() ? where : QStringLiteral(" in its container"));
 }
 
@@ -140,6 +147,37 @@ QString explainPath(const QString& name) {
   return QString();
 }
 
+/// Puts back the window that was the current one.
+class CurrentWindow {
+public:
+  explicit CurrentWindow(BrowserWindows& windows) : m_windows(windows), m_current(windows.current()) {}
+  ~CurrentWindow() { m_windows.setCurrent(m_current); }
+  CurrentWindow(const CurrentWindow&) = delete;
+  CurrentWindow& operator=(const CurrentWindow&) = delete;
+
+private:
+  BrowserWindows& m_windows;
+  Connection* m_current;
+};
+
+/// The page that a name means, and the name as that page knows it.
+struct PlacedName {
+  WebWrapper::HTMLComponent* page;
+  ObjectName name;
+};
+
+PlacedName placeName(const BrowserWindows& windows, WebWrapper::HTMLComponent* page, const ObjectName& name) {
+  const WindowNames names(name.hasProperty(contextProperty) ? windows.connections() : QVector<Connection*>());
+  const QString context = name.property(contextProperty).value();
+  Connection* const window = names.windowOf(context);
+  if (!window) {
+    return {page, name};
+  }
+  ObjectName local = name;
+  local.setProperty(contextProperty, PropertyValue(names.inside(window, context).value_or(context)));
+  return {window, local};
+}
+
 bool hasPattern(const ObjectName& name) {
   const QMap<QString, PropertyValue> properties = name.properties();
   return std::any_of(properties.begin(), properties.end(),
@@ -164,12 +202,14 @@ QString faultOfPart(WebWrapper::HTMLComponent& page, const ObjectName& part) {
 
 }  // namespace
 
-QString explainFailedSearch(WebWrapper::HTMLComponent& page, const QString& name) {
+QString explainFailedSearch(BrowserWindows& windows, const QString& name) {
+  // Looking a container up may make its window the current one.
+  const CurrentWindow before(windows);
   std::list<ObjectName> parts = WebWrapper::splitByContainer(ObjectName(name));
   const ObjectName last = parts.back();
   parts.pop_back();
   std::list<ObjectName> outer;
-  WebWrapper::HTMLComponent* searched = &page;
+  WebWrapper::HTMLComponent* searched = windows.current();
   QString reference;
   for (const ObjectName& part : parts) {
     outer.push_back(part);
@@ -186,7 +226,11 @@ QString explainFailedSearch(WebWrapper::HTMLComponent& page, const QString& name
     searched = native->component;
     reference = native->reference;
   }
-  return last.isMultiProperty() ? explainFailedStep(*searched, last, reference) : explainPath(name);
+  if (!last.isMultiProperty()) {
+    return explainPath(name);
+  }
+  const PlacedName placed = placeName(windows, searched, last);
+  return explainFailedStep(*placed.page, last, placed.name, reference);
 }
 
 QString faultOfName(WebWrapper::HTMLComponent& page, const QString& name) {

@@ -10,9 +10,12 @@ class HTMLComponent;
 
 namespace Webhook {
 
-/// Why a name finds nothing in a page, as a sentence: which of its containers is not there, or how many elements have
-/// its tag and what they lack; an empty text where the page cannot tell.
-QString explainFailedSearch(WebWrapper::HTMLComponent& page, const QString& name);
+class BrowserWindows;
+
+/// Why a name finds nothing in the current page, or in that of its context, as a sentence: which of its containers is
+/// not there, or how many elements have its tag and what they lack; an empty text where the page cannot tell. The
+/// current window stays.
+QString explainFailedSearch(BrowserWindows& windows, const QString& name);
 
 /// What makes it impossible that a name is ever found: a part without a tag name, a pattern that is none. Empty for a
 /// name without such a fault.

@@ -3,7 +3,8 @@
 #include "corvexhook/object.h"
 #include "corvexhook/objectname.h"
 
-#include <map>
+#include <QVector>
+
 #include <memory>
 #include <vector>
 
@@ -13,12 +14,12 @@ class Class;
 
 namespace WebWrapper {
 class CustomViewItemPropertyDelegate;
-class HTMLObjectHierarchyDelegate;
 class WebObjectComparisonDelegate;
 }  // namespace WebWrapper
 
 namespace Webhook {
 
+class BrowserHierarchyDelegate;
 class BrowserToplevelDelegate;
 class Connection;
 
@@ -28,30 +29,42 @@ class WebModel {
 public:
   WebModel();
   ~WebModel();
+  WebModel(const WebModel&) = delete;
+  WebModel& operator=(const WebModel&) = delete;
 
   /// From now on lookups look into this page too, behind the others. The connection stays its owner's.
   void addConnection(Connection* connection);
   /// Every object of the page is dead from now on.
   void removeConnection(Connection* connection);
+  /// Oldest first.
+  QVector<Connection*> connections() const;
   /// Lookups start in this page.
   void setCurrent(Connection* connection);
   /// Null without any.
-  Connection* current() const;
+  Connection* current() const { return m_current; }
 
   /// A document went away: every object of its page is dead from now on.
   void invalidateObjects(Connection* connection);
 
   /// Every object that a multi-property name fits, page by page in the order of `roots`; one at most for a name that
-  /// says which one it means.
-  ObjectList findAll(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) const;
+  /// says which one it means. The current page stays.
+  ObjectList findAll(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name);
 
 private:
+  struct Root {
+    Connection* connection;
+    SharedPtr<Object> object;
+  };
+
+  std::vector<Root>::iterator find(Connection* connection);
+
   const Class* m_browserClass;
   std::unique_ptr<BrowserToplevelDelegate> m_toplevel;
-  std::unique_ptr<WebWrapper::HTMLObjectHierarchyDelegate> m_hierarchy;
+  std::unique_ptr<BrowserHierarchyDelegate> m_hierarchy;
   std::unique_ptr<WebWrapper::CustomViewItemPropertyDelegate> m_items;
   std::unique_ptr<WebWrapper::WebObjectComparisonDelegate> m_comparison;
-  std::map<Connection*, SharedPtr<Object>> m_roots;
+  std::vector<Root> m_roots;
+  Connection* m_current = nullptr;
 };
 
 }  // namespace Webhook

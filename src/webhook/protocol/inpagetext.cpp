@@ -6,7 +6,10 @@ namespace Corvex::Webhook {
 
 QString inPageText(const char* name) {
   QFile file(QStringLiteral(":/webhook/") + QLatin1String(name));
-  return file.open(QIODevice::ReadOnly) ? QLatin1Char('\n') + QString::fromUtf8(file.readAll()) : QString();
+  if (!file.open(QIODevice::ReadOnly)) {
+    qFatal("The script text '%s' is not built in.", name);
+  }
+  return QLatin1Char('\n') + QString::fromUtf8(file.readAll());
 }
 
 }  // namespace Corvex::Webhook

@@ -1,6 +1,7 @@
 #include "webhook/run/browsercontrol.h"
 
 #include "corvexhook/inspector.h"
+#include "shared/wait.h"
 #include "wrappers/web/page/escaping.h"
 
 #include <QFileInfo>
@@ -8,6 +9,12 @@
 #include <QUrl>
 
 namespace Corvex::Webhook {
+
+namespace {
+
+const int loadIntervalMs = 20;
+
+}  // namespace
 
 BrowserControl::BrowserControl(const SessionOptions& options) : m_options(options), m_services(*this, m_model) {
   Inspector::self()->setHostServices(&m_services);
@@ -26,7 +33,22 @@ QString BrowserControl::startBrowser(const QString& address) {
     closeBrowser();
     return error;
   }
-  return m_windows->current()->navigate(resolveAddress(address));
+  const QString loadError = m_windows->current()->navigate(resolveAddress(address));
+  m_loadIsHeld = !loadError.isEmpty() && m_windows->current() && m_windows->current()->openDialog();
+  return m_loadIsHeld ? QString() : loadError;
+}
+
+void BrowserControl::finishLoad() {
+  if (!m_loadIsHeld || !whyNotAskPage().isEmpty()) {
+    return;
+  }
+  m_loadIsHeld = false;
+  poll(Inspector::self()->defaultTimeout(), loadIntervalMs, [this] {
+    Connection* const page = whyNoWindow().isEmpty() ? m_windows->current() : nullptr;
+    m_loadIsHeld = page && page->openDialog();
+    return !page || m_loadIsHeld ||
+           page->evaluateJS(QStringLiteral("__corvex__isPageLoaded()"), 0).text == QLatin1String("true");
+  });
 }
 
 QString BrowserControl::openSession() {
@@ -65,6 +87,7 @@ void BrowserControl::closeBrowser() {
   m_windows.reset();
   m_endpoint.reset();
   m_lossReason.clear();
+  m_loadIsHeld = false;
 }
 
 QString BrowserControl::whyLost() const {

@@ -22,8 +22,11 @@ public:
   explicit BrowserControl(const SessionOptions& options);
   ~BrowserControl() override;
 
-  /// Starts a browser, in place of one that runs, and opens a page in it.
+  /// Starts a browser, in place of one that runs, and opens a page in it. A dialog of the page that keeps it from being
+  /// loaded is no error: the script is to answer it.
   QString startBrowser(const QString& address);
+  /// Lets the page of `startBrowser` load to its end if a dialog held it, as far as its next dialog.
+  void finishLoad();
   /// Closes the current window.
   QString closeWindow();
   void closeBrowser();
@@ -61,6 +64,7 @@ private:
   QString m_scriptFolder;
   QString m_lossReason;
   bool m_browserFailure = false;
+  bool m_loadIsHeld = false;
 };
 
 }  // namespace Corvex::Webhook

@@ -16,9 +16,7 @@ const int attemptIntervalMs = 20;
 
 ScriptValue nothing(const QString& error) { return {nullptr, error}; }
 
-ScriptValue text(const FunctionCallResult<QString>& result) {
-  return {Inspector::self()->wrapString(result.value), result.error};
-}
+ScriptValue text(const QString& value) { return ScriptValue::success(Inspector::self()->wrapString(value)); }
 
 ScriptValue texts(const QStringList& values) {
   std::vector<SharedPtr<Object>> objects;
@@ -35,12 +33,6 @@ int timeoutOf(const ObjectList& arguments, int index) {
   return argument ? argument->toInt() : Inspector::self()->defaultTimeout();
 }
 
-/// A window with an open dialog has no contexts, so the dialog belongs to the explanation.
-QString withWhyNotAsk(const BrowserControl& control, const QString& error) {
-  const QString why = error.isEmpty() ? QString() : control.whyNotAskPage();
-  return why.isEmpty() ? error : error + QLatin1Char(' ') + why;
-}
-
 ScriptValue waitForContext(BrowserControl& control, const QString& name, int timeoutMs) {
   bool isThere = false;
   poll(timeoutMs, attemptIntervalMs, [&] {
@@ -52,13 +44,9 @@ ScriptValue waitForContext(BrowserControl& control, const QString& name, int tim
   }
   const QString end = Inspector::self()->whyNotGoOn();
   const QString error = end.isEmpty() ? control.whyNoWindow() : end;
-  return nothing(error.isEmpty()
-                     ? withWhyNotAsk(control, QStringLiteral("The context '%1' did not exist within %2 ms. There are: "
-                                                             "'%3'.")
-                                                  .arg(name)
-                                                  .arg(timeoutMs)
-                                                  .arg(contextNames(*control.windows()).join(QLatin1String("', '"))))
-                     : error);
+  const QString missing =
+      QStringLiteral("The context '%1' did not exist within %2 ms.").arg(name, QString::number(timeoutMs));
+  return nothing(error.isEmpty() ? whyNoContext(*control.windows(), missing) : error);
 }
 
 ScriptValue lastText(BrowserControl& control, const char* kind) {
@@ -79,9 +67,7 @@ const Row rows[] = {
     {"startBrowser", "startBrowser(url)", 1, 1, false,
      [](BrowserControl& c, const ObjectList& a) { return nothing(c.startBrowser(a[0]->toString())); }},
     {"scriptPath", "scriptPath(file)", 1, 1, false,
-     [](BrowserControl& c, const ObjectList& a) {
-       return text(FunctionCallResult<QString>::success(c.resolvePath(a[0]->toString())));
-     }},
+     [](BrowserControl& c, const ObjectList& a) { return text(c.resolvePath(a[0]->toString())); }},
     {"closeWindow", "closeWindow()", 0, 0, true,
      [](BrowserControl& c, const ObjectList&) { return nothing(c.closeWindow()); }},
     {"windows", "windows()", 0, 0, true,
@@ -91,9 +77,7 @@ const Row rows[] = {
     {"hasContext", "hasContext(name)", 1, 1, true,
      [](BrowserControl& c, const ObjectList& a) { return truth(hasContext(*c.windows(), a[0]->toString())); }},
     {"setContext", "setContext(name)", 1, 1, true,
-     [](BrowserControl& c, const ObjectList& a) {
-       return nothing(withWhyNotAsk(c, selectContext(*c.windows(), a[0]->toString())));
-     }},
+     [](BrowserControl& c, const ObjectList& a) { return nothing(selectContext(*c.windows(), a[0]->toString())); }},
     {"waitForContextExists", "waitForContextExists(name[, ms])", 1, 2, true,
      [](BrowserControl& c, const ObjectList& a) { return waitForContext(c, a[0]->toString(), timeoutOf(a, 1)); }},
     {"setFrameContext", "setFrameContext(path)", 1, 1, true,

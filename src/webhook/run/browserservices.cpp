@@ -10,7 +10,10 @@ namespace Corvex::Webhook {
 
 QString BrowserServices::whyNotGoOn() const { return m_control.whyLost(); }
 
-QString BrowserServices::whyNotLookUp() const { return m_control.whyNotAskPage(); }
+QString BrowserServices::whyNotLookUp() const {
+  m_control.finishLoad();
+  return m_control.whyNotAskPage();
+}
 
 QString BrowserServices::whyNotUse(const SharedPtr<Object>& object) const {
   const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(object);
@@ -22,7 +25,7 @@ QString BrowserServices::whyNeverFound(const QString& name) const {
 }
 
 QString BrowserServices::whyNotFound(const QString& name) const {
-  return whyNotLookUp().isEmpty() ? explainFailedSearch(*m_control.windows()->current(), name) : QString();
+  return whyNotLookUp().isEmpty() ? explainFailedSearch(*m_control.windows(), name) : QString();
 }
 
 FunctionCallResult<bool> BrowserServices::isReady(const SharedPtr<Object>& object) const {

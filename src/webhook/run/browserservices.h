@@ -11,7 +11,7 @@ class WebModel;
 class BrowserServices : public HostServices {
 public:
   /// Both outlive this object.
-  BrowserServices(const BrowserControl& control, const WebModel& model) : m_control(control), m_model(model) {}
+  BrowserServices(BrowserControl& control, WebModel& model) : m_control(control), m_model(model) {}
 
   QString whyNotGoOn() const override;
   QString whyNotLookUp() const override;
@@ -22,8 +22,8 @@ public:
   ObjectList findAll(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) const override;
 
 private:
-  const BrowserControl& m_control;
-  const WebModel& m_model;
+  BrowserControl& m_control;
+  WebModel& m_model;
 };
 
 }  // namespace Corvex::Webhook

@@ -10,4 +10,5 @@
     return name === null ? "null" : "'" + name + "'";
   });
   on("two", function () { return confirm("First?") + " " + confirm("Second?"); });
+  if (location.search === "?ask") { answer(confirm("In a frame")); }
 }());

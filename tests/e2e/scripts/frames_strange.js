@@ -16,5 +16,8 @@ test.verify(Date.now() - start < 20000, "no lookup waits for the other frames");
 test.compare(contextNames().join(" "), "stranger.html stranger.html.FRAME2 stranger.html.FRAME3",
   "the one that waits is still empty");
 verifyFails(function () { setContext("stranger.html.FRAME1"); }, "There is no context 'stranger.html.FRAME1'.");
+setContext("stranger.html");
+verifyFails(function () { setFrameContext("FRAME1.inner"); }, "The frame 'FRAME1' shows a page of another origin, ");
+test.compare(where(), "top", "and changes nothing");
 setFrameContext("own");
 test.compare(where(), "own");

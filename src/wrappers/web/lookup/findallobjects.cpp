@@ -79,7 +79,9 @@ ObjectList findAllObjects(const WebToplevelDelegate& toplevel, const SharedPtr<O
     return container ? searchContainer(container, last, name) : ObjectList();
   }
   HTMLComponent* const page = toplevel.component(root);
-  return page && page->isAvailable() ? searchPage(page, name.qualifiedName(), QString()) : ObjectList();
+  const std::optional<ObjectName> inPage =
+      page && page->isAvailable() ? toplevel.nameInPage(page, name) : std::optional<ObjectName>();
+  return inPage ? searchPage(page, inPage->qualifiedName(), QString()) : ObjectList();
 }
 
 }  // namespace Corvex::WebWrapper

@@ -6,6 +6,7 @@
 #include <QMap>
 
 #include <list>
+#include <optional>
 #include <vector>
 
 namespace Corvex::WebWrapper {
@@ -86,9 +87,15 @@ public:
   virtual HTMLComponent* component(SharedPtr<Object> root) const = 0;
   /// Whether the document that is kept serves any connection.
   virtual bool keepsDocumentAcrossComponents() const = 0;
+  /// A name without a container as a page knows it; nothing if it means another page. Here the name itself.
+  virtual std::optional<ObjectName> nameInPage(HTMLComponent* page, const ObjectName& name) const;
 
   /// To be called when the top document goes away.
   void clearDocumentReference() const;
+
+protected:
+  /// The next child is asked of the page. The kept document stays alive.
+  void forgetDocument() const;
 
 private:
   SharedPtr<Object> keptDocument(HTMLComponent* component) const;

@@ -105,7 +105,11 @@ SharedPtr<Object> WebToplevelDelegate::objectByQualifiedName(SharedPtr<Object> r
   if (!isReachable(connection)) {
     return nullptr;
   }
-  const QString qualifiedName = name.qualifiedName();
+  const std::optional<ObjectName> inPage = nameInPage(connection, name);
+  if (!inPage) {
+    return nullptr;
+  }
+  const QString qualifiedName = inPage->qualifiedName();
   const QString code = QLatin1String("__corvex__findObject(\"") + escapeObjectNameForUseAsStringLiteral(qualifiedName) +
                        QLatin1String("\");");
   return findFromRootWithJsFunction(code, qualifiedName, connection);
@@ -135,11 +139,15 @@ SharedPtr<Object> WebToplevelDelegate::objectInContainer(std::list<ObjectName> p
   return foundInContainer(delegate->objectByQualifiedName(container, rest), name);
 }
 
+std::optional<ObjectName> WebToplevelDelegate::nameInPage(HTMLComponent*, const ObjectName& name) const { return name; }
+
 void WebToplevelDelegate::clearDocumentReference() const {
   if (HTML_Object* native = retrieveObject(document)) {
     native->invalidate();
   }
-  document = nullptr;
+  forgetDocument();
 }
+
+void WebToplevelDelegate::forgetDocument() const { document = nullptr; }
 
 }  // namespace Corvex::WebWrapper

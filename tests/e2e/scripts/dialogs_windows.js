@@ -1,0 +1,34 @@
+// @options --timeout 5
+// The dialogs of several windows.
+startBrowser(SITE + "/windows.html");
+var ALERT = "The window 'popup.html' shows a dialog (alert: 'from the popup'). Answer it with closeAlert.";
+
+clickButton(element("BUTTON", "stranger"));
+waitForContextExists("popup.html");
+setContext("popup.html");
+test.compare(where(), "stranger", "a window of another origin");
+clickButton(element("BUTTON", "alert"));
+pause(0.5);
+setContext("windows.html");
+test.compare(where(), "opener", "other windows go on");
+test.compare(windows().join(" "), "windows.html popup.html", "the one that waits is listed");
+verifyFails(function () { closeConfirm(true, 100); }, ALERT);
+setContext("popup.html");
+closeWindow();
+test.compare(windows().join(" "), "windows.html");
+
+clickButton(element("BUTTON", "open"));
+waitForContextExists("popup.html");
+setContext("popup.html");
+clickButton(element("BUTTON", "alert"));
+pause(0.5);
+// Pages that opened one another share a process. Chromium holds it as a whole.
+var sentence = failureOf(function () { setContext("windows.html"); where(); });
+test.compare(sentence, BROWSER === "firefox" ? "" : "Error: " + ALERT);
+test.compare(windows().join(" "), "windows.html popup.html");
+closeAlert();
+test.compare(lastAlertText(), "from the popup");
+setContext("popup.html");
+waitForText("P", "where", "alerted");
+setContext("windows.html");
+test.compare(where(), "opener");
