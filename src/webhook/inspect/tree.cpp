@@ -6,6 +6,7 @@
 #include "shared/jsescape.h"
 #include "webhook/pages/connection.h"
 #include "webhook/pages/contexts.h"
+#include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/lookup/itemchildren.h"
 #include "wrappers/web/lookup/webobjectdelegate.h"
 #include "wrappers/web/object/wraphtmlobject.h"
@@ -25,29 +26,13 @@ namespace {
 const std::size_t objectsPerCall = 250;
 const unsigned int callTimeoutMs = 60000;
 
-// A line for each object: pages replace what JSON needs. What follows "!" is an error.
-const char* const askInPage = R"JS(__corvex__whilePageStays(function () {
-  var lines = "";
-  function ask(object) { %1 }
-  function add(object) {
-    try { lines += ask(object()) + "\n"; } catch (e) { lines += "!" + escape(e) + "\n"; }
-  }
-  %2
-  return lines;
-}))JS";
-
-const char* const nameInPage = "return escape(__corvex__nameOf(object));";
-
-const char* const hasChildrenInPage =
-    "return !!(object.qx_Widget || __corvexDOMAPI.firstChild(object) || __corvex__nodeReader.shadowRoot(object));";
-
 /// What the page answers for each of some objects, or why it answers nothing.
 FunctionCallResult<QStringList> askPage(Connection& page, const char* question, const ObjectList& objects) {
   QString calls;
   for (const SharedPtr<Object>& object : objects) {
     calls += QStringLiteral("add(function () { return %1; });\n").arg(WebWrapper::retrieveObject(object)->reference);
   }
-  const QString code = QString::fromLatin1(askInPage).arg(QLatin1String(question), calls);
+  const QString code = inPageText("asklines.js").arg(QLatin1String(question), calls);
   const WebWrapper::JavaScriptAnswer answer = page.evaluateJS(code, callTimeoutMs);
   QStringList lines = answer.text.split(QLatin1Char('\n'));
   if (!answer.succeeded() || lines.size() != static_cast<int>(objects.size()) + 1) {
@@ -99,7 +84,7 @@ std::set<std::size_t> childless(Connection& page, const Items& found, std::size_
     if (!isFull || objects.size() < 2) {
       continue;
     }
-    const QStringList answers = askPage(page, hasChildrenInPage, objects).value;
+    const QStringList answers = askPage(page, "hasChildren", objects).value;
     for (int k = 0; k < answers.size(); ++k) {
       if (answers.at(k) == QLatin1String("false")) {
         leaves.insert(places[k]);
@@ -222,7 +207,7 @@ void TreeReader::name(Connection& page, const std::vector<int>& places) {
   for (const int place : places) {
     objects.push_back(m_objects[place]);
   }
-  const FunctionCallResult<QStringList> names = askPage(page, nameInPage, objects);
+  const FunctionCallResult<QStringList> names = askPage(page, "name", objects);
   if (names.failed()) {
     fail(QStringLiteral("The page gave no names: %1").arg(names.error));
     return;

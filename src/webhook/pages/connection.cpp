@@ -24,6 +24,7 @@ const BrowserKindRow browserKinds[] = {
     {BrowserIdentity::Chromium, 4},
 };
 
+const int mostGreetings = 3;
 const int scriptsTimeoutMs = 2000;
 const int scriptsIntervalMs = 5;
 
@@ -31,8 +32,8 @@ const int scriptsIntervalMs = 5;
 /// a reference into one document may name anything in the next one, which can be there before the browser tells of it.
 QString guarded(const QString& code, int document) {
   static const QString frame = [] {
-    QString text = inPageText("guard.js");
-    return text.mid(text.indexOf(QLatin1Char('{'))).replace(QLatin1String("/*%3*/"), QLatin1String("\n%3\n"));
+    const QString text = inPageText("guard.js");
+    return text.mid(text.indexOf(QLatin1Char('{')));
   }();
   return frame.arg(QString::number(document), PageErrors::pageReplaced(), code);
 }
@@ -47,7 +48,10 @@ Connection::Connection(BrowserPage* page, const WebWrapper::WrapperConfig* confi
   connect(page, &BrowserPage::crashed, this, &Connection::documentGone);
   connect(page, &BrowserPage::navigated, this, &Connection::documentGone);
   connect(page, &BrowserPage::closed, this, &Connection::documentGone);
-  connect(this, &Connection::documentGone, this, [this] { m_greeted = false; });
+  connect(this, &Connection::documentGone, this, [this] {
+    m_greeted = false;
+    ++m_documentsGone;
+  });
 }
 
 QString Connection::install() {
@@ -60,12 +64,7 @@ QString Connection::install() {
 
 QString Connection::greetDocument() {
   m_greeted = true;
-  const QString greeting =
-      QStringLiteral(
-          "typeof __corvex__isHooked === 'function' && __corvex__isHooked() ? "
-          "(window.__corvex__browsertabid = '%1', window.__corvex.documentNumber = %2, true) : false")
-          .arg(m_tabId)
-          .arg(++m_document);
+  const QString greeting = inPageText("greeting.js").arg(m_tabId, QString::number(++m_document));
   JavaScriptAnswer answer = ask(greeting, 0);
   if (answer.succeeded() && answer.text != QLatin1String("true")) {
     answer = ask(hookText(*m_config, m_browser), 0);
@@ -99,8 +98,15 @@ QString Connection::navigate(const QString& url, int timeoutMs) {
   if (!error.isEmpty()) {
     return error;
   }
-  const QString why = m_greeted ? QString() : greetDocument();
-  return why.isEmpty()
+  QString why;
+  bool hasLeft = true;
+  // A page may leave while it is greeted: the next one takes its place.
+  for (int i = 0; i < mostGreetings && hasLeft && !m_greeted; ++i) {
+    const int gone = m_documentsGone;
+    why = greetDocument();
+    hasLeft = m_documentsGone != gone;
+  }
+  return why.isEmpty() || m_greeted
              ? QString()
              : QStringLiteral("The page '%1' was loaded, but its scripts could not be reached: %2").arg(url, why);
 }

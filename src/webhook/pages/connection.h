@@ -81,6 +81,7 @@ private:
   const WebWrapper::WrapperConfig* m_config;
   BrowserIdentity m_browser;
   QString m_tabId;
+  int m_documentsGone = 0;
   QString m_contextName;
   std::function<QString()> m_whyNotAsk = [] { return QString(); };
   bool m_greeted = false;

@@ -2,51 +2,15 @@
 
 #include "webhook/pages/browserwindows.h"
 #include "webhook/pages/windownames.h"
+#include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/page/escaping.h"
 
 namespace Corvex::Webhook {
 
 namespace {
 
-// One name a line: pages replace what JSON needs. Frames of other origins, and windows that close meanwhile, are passed
-// over.
-const char* const namesInPage = R"JS((function () {
-  var names = "";
-  function add(w) {
-    names += __corvex__contextOf(w) + "\n";
-    var frames = window.top.__corvex.getAllFrames(w.document);
-    for (var i = 0; i < frames.length; ++i) {
-      try {
-        if (frames[i].contentWindow.document) { add(frames[i].contentWindow); }
-      } catch (e) { continue; }
-    }
-  }
-  var windows = __corvex__contextList();
-  for (var i = 0; i < windows.length; ++i) {
-    try { add(windows[i]); } catch (e) { continue; }
-  }
-  return names;
-}()))JS";
-
-// What stands in the way of a frame path; empty where nothing does, and the frame is then selected. A frame of another
-// origin would be selected without a word, too.
-const char* const frameSelection = R"JS((function (path) {
-  var before = window.__corvex__ctxwin;
-  var names = path.split(".");
-  for (var i = 1; i <= names.length; ++i) {
-    var step = names.slice(0, i).join(".");
-    if (!__corvex__hasFrameContext(step)) {
-      var isThere = __corvex__setFrameContext(step);
-      window.__corvex__ctxwin = before;
-      return (isThere ? "foreign " : "missing ") + step;
-    }
-  }
-  __corvex__setFrameContext(path);
-  return "";
-}))JS";
-
 QStringList namesOf(Connection* connection) {
-  const WebWrapper::JavaScriptAnswer answer = connection->evaluateJS(QLatin1String(namesInPage), 0);
+  const WebWrapper::JavaScriptAnswer answer = connection->evaluateJS(inPageText("contextnames.js"), 0);
   if (!answer.succeeded()) {
     return {pageOfAddress(connection->address())};
   }
@@ -101,8 +65,7 @@ QString whyNoContext(const BrowserWindows& windows, const QString& what) {
 }
 
 QString selectFrame(const BrowserWindows& windows, const QString& path) {
-  const QString code =
-      QLatin1String(frameSelection) + QStringLiteral("('%1')").arg(WebWrapper::escapeQuoteWithBackslash(path));
+  const QString code = inPageText("frameselection.js").arg(WebWrapper::escapeQuoteWithBackslash(path));
   const WebWrapper::JavaScriptAnswer answer = windows.current()->evaluateJS(code, 0);
   if (!answer.succeeded()) {
     return answer.text;

@@ -1,6 +1,7 @@
 #include "webhook/protocol/inpagetext.h"
 
 #include <QFile>
+#include <QRegularExpression>
 
 namespace Corvex::Webhook {
 
@@ -9,7 +10,8 @@ QString inPageText(const char* name) {
   if (!file.open(QIODevice::ReadOnly)) {
     qFatal("The script text '%s' is not built in.", name);
   }
-  return QLatin1Char('\n') + QString::fromUtf8(file.readAll());
+  static const QRegularExpression placeOfCode(QStringLiteral("/\\*(%[1-9])\\*/"));
+  return QLatin1Char('\n') + QString::fromUtf8(file.readAll()).replace(placeOfCode, QStringLiteral("\n\\1\n"));
 }
 
 }  // namespace Corvex::Webhook

@@ -4,7 +4,8 @@
 
 namespace Corvex::Webhook {
 
-/// The script text of a file of a folder `inpage`, behind a line break.
+/// The script text of a file of a folder `inpage`, after a line break. A comment such as /*%3*/, which the linter can
+/// read, has become the place %3 for code.
 QString inPageText(const char* name);
 
 }  // namespace Corvex::Webhook

@@ -62,8 +62,24 @@ TEST_F(ConnectionTest, AnExtensionThatIsNoScriptIsNamed) {
                                                  : JavaScriptAnswer{QStringLiteral("false"), false, false};
   };
   const QString error = connection.navigate(QStringLiteral("http://x/"));
-  EXPECT_TRUE(error.contains(QStringLiteral("/lib/extensions/web/b.js' failed: SyntaxError: oh."))) << error.toStdString();
+  EXPECT_TRUE(error.contains(QStringLiteral("/lib/extensions/web/b.js' failed: SyntaxError: oh.")))
+      << error.toStdString();
   EXPECT_LT(page.codes.size(), 10);
+}
+
+TEST_F(ConnectionTest, APageThatLeavesWhileItIsGreetedIsFollowedToTheNext) {
+  int leaves = 1;
+  page.answer = [&](const QString& code) {
+    const bool isHook = code.contains(QStringLiteral("__corvex__findObject"));
+    if (!isHook || leaves-- <= 0) {
+      return JavaScriptAnswer{isHook || leaves < 0 ? QStringLiteral("true") : QStringLiteral("false"), false, false};
+    }
+    Q_EMIT page.navigated(QStringLiteral("http://x/next"));
+    return JavaScriptAnswer{PageErrors::pageReplaced(), true, false};
+  };
+  EXPECT_EQ(connection.navigate(QStringLiteral("http://x/")), QString());
+  leaves = 100;
+  EXPECT_TRUE(connection.navigate(QStringLiteral("http://x/")).contains(PageErrors::pageReplaced()));
 }
 
 TEST(GlobalDeclarations, AreFoundAtTheTopLevelOnly) {

@@ -1,6 +1,7 @@
 #include "wrappers/web/object/retrievehtmlobject.h"
 
 #include "wrappers/web/object/references.h"
+#include "wrappers/web/page/exceptiontext.h"
 #include "wrappers/web/page/htmlcomponent.h"
 #include "wrappers/web/page/jsonanswer.h"
 
@@ -12,6 +13,8 @@ namespace {
 
 using ObjectResult = FunctionCallResult<HTML_Object*>;
 
+const ExceptionForm retrievalForm = {" at ", ":", ". ", "Stacktrace: "};
+
 const char* const retrieveTemplate =
     "(function() {\n"
     "  try {\n"
@@ -21,35 +24,18 @@ const char* const retrieveTemplate =
     "    }\n"
     "    var globalRefName = __corvex__idForObject( dummy );\n"
     "    return JSON.stringify({'refName': globalRefName, 'type': __corvex__typeOf( dummy ) });\n"
-    "  } catch( e ) {\n"
-    "    return JSON.stringify({'error': {'name': e['name'], 'message': e['message'], 'file': e['fileName'], "
-    "'line': e['lineNumber'], 'stack': e['stack']}});"
+    "%2"
     "  }\n"
     "})();";
 
 QString text(const Json::Value& value) { return QString::fromStdString(value.asString()); }
 
-QString exceptionMessage(const Json::Value& e) {
-  QString message = QLatin1String("Error evaluating JavaScript to retrieve HTML Object: ") + text(e["name"]) +
-                    QLatin1String(": ") + text(e["message"]);
-  if (e.isMember("file")) {
-    message += QLatin1String(" at ") + text(e["file"]);
-    if (e.isMember("line")) {
-      message += QLatin1Char(':') + text(e["line"]);
-    }
-  }
-  message += QLatin1String(". ");
-  if (e.isMember("stack")) {
-    message += QLatin1String("Stacktrace: ") + text(e["stack"]);
-  }
-  return message;
-}
-
 /// The conversions of values throw where the page sends something of another kind.
 ObjectResult objectFromAnswer(HTMLComponent* component, const Json::Value& root, const QString& raw,
                               const QString& name) {
   if (root.isMember("error")) {
-    return ObjectResult::failure(exceptionMessage(root["error"]));
+    return ObjectResult::failure(QLatin1String("Error evaluating JavaScript to retrieve HTML Object: ") +
+                                 exceptionText(root["error"], retrievalForm));
   }
   for (const char* member : {"refName", "type"}) {
     if (!root.isMember(member)) {
@@ -66,7 +52,9 @@ ObjectResult objectFromAnswer(HTMLComponent* component, const Json::Value& root,
              : ObjectResult::success(object);
 }
 
-QString retrieval(const QString& expression) { return QString::fromLatin1(retrieveTemplate).arg(expression); }
+QString retrieval(const QString& expression) {
+  return QString::fromLatin1(retrieveTemplate).arg(expression, QLatin1String(catchAsError));
+}
 
 ObjectResult objectFrom(HTMLComponent* component, const JavaScriptAnswer& answer, const QString& name) {
   if (!answer.succeeded()) {

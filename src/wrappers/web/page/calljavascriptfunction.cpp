@@ -1,5 +1,6 @@
 #include "wrappers/web/page/calljavascriptfunction.h"
 
+#include "wrappers/web/page/exceptiontext.h"
 #include "wrappers/web/page/htmlcomponent.h"
 #include "wrappers/web/page/jsonanswer.h"
 
@@ -9,36 +10,16 @@ namespace {
 
 using JsonResult = FunctionCallResult<Json::Value>;
 
-const char* const callTemplate =
-    "(function() {\n"
-    "  try {\n"
-    "    return JSON.stringify({'result': %1});\n"
-    "  } catch( e ) {\n"
-    "    return JSON.stringify({'error': {'name': e['name'], 'message': e['message'], 'file': e['fileName'], "
-    "'line': e['lineNumber'], 'stack': e['stack']}});\n"
-    "  }\n"
-    "}());";
+const ExceptionForm callForm = {" at ", ": ", ".", " Stacktrace: "};
 
 QString displayForm(const QString& expression) {
   return expression.size() < 100 ? expression : expression.left(50) + QLatin1String("...") + expression.right(50);
 }
 
-QString exceptionDetail(const Json::Value& e) {
-  QString detail = QStringLiteral("%1: %2").arg(jsonText(e["name"]), jsonText(e["message"]));
-  if (e.isMember("file")) {
-    detail += QStringLiteral(" at %1").arg(jsonText(e["file"]));
-    if (e.isMember("line")) {
-      detail += QStringLiteral(": %1").arg(jsonText(e["line"]));
-    }
-  }
-  detail += QLatin1Char('.');
-  if (e.isMember("stack")) {
-    detail += QStringLiteral(" Stacktrace: %1").arg(jsonText(e["stack"]));
-  }
-  return detail;
+QString envelope(const QString& expression) {
+  return QLatin1String("(function() {\n  try {\n    return JSON.stringify({'result': ") + expression +
+         QLatin1String("});\n") + QLatin1String(catchAsError) + QLatin1String("\n  }\n}());");
 }
-
-QString envelope(const QString& expression) { return QString::fromLatin1(callTemplate).arg(expression); }
 
 JsonResult valueOf(const JavaScriptAnswer& answer, const QString& expression) {
   if (!answer.succeeded()) {
@@ -58,7 +39,7 @@ JsonResult valueOf(const JavaScriptAnswer& answer, const QString& expression) {
     return JsonResult::success(root.value.get("result", Json::Value()));
   }
   const Json::Value e = root.value.get("error", Json::Value());
-  const QString detail = e.isObject() ? exceptionDetail(e) : jsonText(e);
+  const QString detail = e.isObject() ? exceptionText(e, callForm) : jsonText(e);
   return JsonResult::failure(QStringLiteral("Calling %1: Error evaluating JavaScript: %3").arg(display, detail));
 }
 
