@@ -15,7 +15,7 @@ bool measureLookups(const SessionOptions& options, Report& report);
 /// What naming, searching and listing cost in the page itself.
 bool measureInPage(const SessionOptions& options, Report& report);
 
-/// How fast the endpoint takes what one page sends, each message behind the reply to the one before; none may be lost.
+/// How fast the endpoint takes what one page sends, each message after the reply to the one before; none may be lost.
 bool measureMessages(const SessionOptions& options, Report& report);
 
 /// What the start of the program costs beside the browser's own.

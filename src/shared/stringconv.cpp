@@ -45,7 +45,7 @@ bool warnNotDelimited(const QString& text) {
   return false;
 }
 
-/// Reads one string whose opening quote stands before `position`, and leaves `position` behind its closing quote.
+/// Reads one string whose opening quote stands before `position`, and leaves `position` after its closing quote.
 bool readQuoted(const QString& text, int& position, QString& result) {
   while (position < text.size()) {
     const QChar character = text.at(position++);

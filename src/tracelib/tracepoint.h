@@ -46,7 +46,7 @@ inline bool advanceVisit(TracePoint& point) {
   return true;
 }
 
-/// Writes the text, and behind it the variables if there are any, to the point's channel.
+/// Writes the text, and after it the variables if there are any, to the point's channel.
 TRACELIB_EXPORT void visitTracePoint(const TracePoint& point, const QString& text,
                                      const VariableSnapshot& variables = VariableSnapshot());
 

@@ -244,7 +244,7 @@ TEST_P(OnScreen, TheColourIsWhereTheElementIsSaidToBe) {
     }
     return covers(said, found);
   };
-  // Once more behind further frames: the first look may have met the page on its way.
+  // Once more after further frames: the first look may have met the page on its way.
   EXPECT_TRUE(m_browser->waitForPainted(look) && m_browser->waitForPainted(look)) << described(said, found);
 }
 

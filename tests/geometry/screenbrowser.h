@@ -33,7 +33,7 @@ public:
   QJsonValue evaluate(const QString& expression);
   /// Zooms the page as a user does, and waits until it is zoomed: some steps up, or back to where it was by 0.
   QString zoomPage(int steps);
-  /// Asks until the condition holds, each time behind frames that the page has painted. False when it never did.
+  /// Asks until the condition holds, each time after frames that the page has painted. False when it never did.
   bool waitForPainted(const std::function<bool()>& condition);
 
   const VirtualScreen& screen() const { return m_screen; }

@@ -17,7 +17,7 @@ using TestSupport::ProgramResult;
 using TestSupport::ProgramRun;
 using TestSupport::TestServer;
 
-// Each node as [name among its siblings, its children]: elements, and behind them the shadow root.
+// Each node as [name among its siblings, its children]: elements, and after them the shadow root.
 const char* const walkingScript = R"JS(<script>
 function walk(node) {
   var counts = {};

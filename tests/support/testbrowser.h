@@ -7,7 +7,7 @@
 namespace TestSupport {
 
 /// The browser that this run of a test program is about, as CORVEX_TEST_BROWSER says: "chromium", "firefox", or
-/// "remote" for a Chromium behind a WebDriver server, which is started on the first call. Chromium if it says nothing.
+/// "remote" for a Chromium after a WebDriver server, which is started on the first call. Chromium if it says nothing.
 Corvex::Webhook::SessionOptions testBrowser();
 
 bool isFirefox();

@@ -21,7 +21,7 @@ public:
   /// Runs a script in a scope of its own. No failure of the script is one of
   /// the engine: all of them stand in the result.
   ScriptResult runFile(const QString& path);
-  /// Runs the scripts one behind the other, each whatever came of those before;
+  /// Runs the scripts one after the other, each whatever came of those before;
   /// after `interrupt` none any more.
   RunSummary run(const QStringList& paths);
 

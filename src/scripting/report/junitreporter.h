@@ -10,7 +10,7 @@ class QXmlStreamWriter;
 namespace Corvex::Scripting {
 
 /// Writes the results as a JUnit XML file, in which each script is a test case.
-/// The file is complete behind every script, so that it also tells of a run
+/// The file is complete after every script, so that it also tells of a run
 /// that was cut off.
 class CORVEXSCRIPTING_EXPORT JUnitReporter : public ScriptListener {
 public:

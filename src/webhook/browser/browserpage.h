@@ -34,7 +34,7 @@ public:
   virtual QString navigate(const QString& url, int timeoutMs = 0) = 0;
 
   /// Has `text` run at document start of every top document from the next one on, before the page's own scripts and
-  /// behind those that were added before. It runs in the global scope, and in no frame.
+  /// after those that were added before. It runs in the global scope, and in no frame.
   virtual QString addStartScript(const QString& text) = 0;
 
   /// The page as it is in view, or its whole length.

@@ -34,7 +34,7 @@ public:
   /// Ends the waits that are open with an empty reply, and listens no more. Takes half a second at most.
   void stop();
 
-  /// What stands behind "http://127.0.0.1:" in the address of a message, before "/?": a port, and a secret that only
+  /// What stands after "http://127.0.0.1:" in the address of a message, before "/?": a port, and a secret that only
   /// the pages of this run are told. "" as long as it was not started.
   QString place() const;
 
@@ -46,7 +46,7 @@ public:
   bool answerWait(quint64 waitId, const QString& reply);
 
   /// Delivers at once what has arrived, in the order in which the pages wrote it. Inside the delivery of a message (a
-  /// receiver may wait for a later one) it goes on with the ones behind that.
+  /// receiver may wait for a later one) it goes on with the ones after that.
   void deliver();
 
   /// The messages taken, and the requests refused by kind: "host", "origin", "method", "path", "size", "busy",
@@ -59,7 +59,7 @@ Q_SIGNALS:
   void messageReceived(const Corvex::Webhook::PageMessage& message);
 
   /// A wait ended without an answer, as its time was over, its page went away, or the endpoint was stopped. Comes
-  /// behind the message that began the wait.
+  /// after the message that began the wait.
   void waitUnanswered(quint64 waitId);
 
 private:

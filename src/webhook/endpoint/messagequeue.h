@@ -31,7 +31,7 @@ private:
 };
 
 /// Brings messages into the order in which their pages wrote them. Equal stamps stay in the order given; a message
-/// without a stamp stays behind all that stand before it.
+/// without a stamp stays after all that stand before it.
 void sortByStamp(std::deque<PageMessage>& messages);
 
 }  // namespace Corvex::Webhook

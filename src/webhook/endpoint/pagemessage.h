@@ -30,7 +30,7 @@ class PageMessage {
 public:
   PageMessage() = default;
 
-  /// From a request: `query` is what stood behind "/?", untouched, and `body` the rest of the text in UTF-8.
+  /// From a request: `query` is what stood after "/?", untouched, and `body` the rest of the text in UTF-8.
   static PageMessage fromRequest(const QByteArray& query, const QByteArray& body = {});
 
   /// From a channel that carries texts as they are.

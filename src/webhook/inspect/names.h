@@ -32,7 +32,7 @@ struct NamedElement {
   QString other;  ///< The opening tag of what was found in its place; empty where nothing was.
 };
 
-/// All elements of all documents of a page that can be reached, those of shadow trees included, each behind its host.
+/// All elements of all documents of a page that can be reached, those of shadow trees included, each after its host.
 struct NamesCheck {
   QVector<NamedElement> elements;
   qint64 namingMs = 0;

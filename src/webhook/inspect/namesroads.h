@@ -7,7 +7,7 @@
 
 namespace Corvex::Webhook {
 
-/// How a look-up asks the page for a name. It takes one road behind the other until one finds something. A road has a
+/// How a look-up asks the page for a name. It takes one road after the other until one finds something. A road has a
 /// `name`, and either names to be found `below` it one inside the other, or the `path` through the object tree.
 struct NameRoads {
   QJsonArray roads;

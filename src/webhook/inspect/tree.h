@@ -20,7 +20,7 @@ struct TreeNode {
 
 /// The objects of all documents that can be reached: each document followed by what is below it. Windows come in the
 /// order of their opening, each followed by its frames in the order of the page, outer ones first. The children of an
-/// element are its elements and, behind them, its shadow root; a frame's document is no child of the frame's element.
+/// element are its elements and, after them, its shadow root; a frame's document is no child of the frame's element.
 struct PageTree {
   QVector<TreeNode> nodes;
   QString error;  ///< Why the tree is incomplete, as a sentence; empty when it is complete.

@@ -12,7 +12,7 @@ namespace {
 
 QString onOneLine(const QString& text) { return visibleText(text, LineBreaks::Shown); }
 
-/// Makes the nodes from `*place` on that are at this depth, each with what is below it, and moves `*place` behind them.
+/// Makes the nodes from `*place` on that are at this depth, each with what is below it, and moves `*place` after them.
 QJsonArray siblings(const QVector<TreeNode>& nodes, int depth, std::optional<int> maxDepth, int* place) {
   QJsonArray array;
   while (*place < nodes.size() && nodes.at(*place).depth == depth) {

@@ -17,8 +17,8 @@ struct Context {
   QString localName;
 };
 
-/// All contexts of all pages: each window's document, and behind it its frames. Where two pages have the same name, the
-/// second and later ones have "<2>" and so on behind the page's part of the name. Of a page that does not answer, as
+/// All contexts of all pages: each window's document, and after it its frames. Where two pages have the same name, the
+/// second and later ones have "<2>" and so on after the page's part of the name. Of a page that does not answer, as
 /// one that shows a dialog, only the window is known.
 QVector<Context> allContexts(const BrowserWindows& windows);
 

@@ -34,7 +34,7 @@ private:
   Dialogs& m_dialogs;
   QTimer m_drainTimer;
   bool m_draining = false;
-  // Those of documents that went away too: their last messages come behind the news of the next document.
+  // Those of documents that went away too: their last messages come after the news of the next document.
   QStringList m_origins;
 };
 

@@ -32,7 +32,7 @@ public:
   WebModel(const WebModel&) = delete;
   WebModel& operator=(const WebModel&) = delete;
 
-  /// From now on lookups look into this page too, behind the others. The connection stays its owner's.
+  /// From now on lookups look into this page too, after the others. The connection stays its owner's.
   void addConnection(Connection* connection);
   /// Every object of the page is dead from now on.
   void removeConnection(Connection* connection);

@@ -88,7 +88,7 @@ void PipeTransport::writePending() {
       return m_writable->setEnabled(true);
     }
     if (written < 0) {
-      // The reading side reports the end, behind the messages that came before it.
+      // The reading side reports the end, after the messages that came before it.
       m_outgoingStart = m_outgoing.size();
       break;
     }

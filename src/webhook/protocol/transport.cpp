@@ -18,7 +18,7 @@ void Transport::deliver() {
   while (self && !m_inbox.empty()) {
     const QByteArray message = std::move(m_inbox.front());
     m_inbox.pop_front();
-    // The receiver may wait for one of the messages that stand behind this one.
+    // The receiver may wait for one of the messages that stand after this one.
     if (!m_inbox.empty() || m_closeNoted) {
       QMetaObject::invokeMethod(this, &Transport::deliver, Qt::QueuedConnection);
     }

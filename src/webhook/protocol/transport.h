@@ -27,14 +27,14 @@ public:
 Q_SIGNALS:
   void messageReceived(const QByteArray& message);
 
-  /// The other side is gone. Comes once, behind the last message, and never after close().
+  /// The other side is gone. Comes once, after the last message, and never after close().
   void closed(const QString& reason);
 
 protected:
-  /// Puts a message behind those that are not delivered yet.
+  /// Puts a message after those that are not delivered yet.
   void enqueue(const QByteArray& message) { m_inbox.push_back(message); }
 
-  /// Notes the end of the connection; deliver() tells it behind the last message.
+  /// Notes the end of the connection; deliver() tells it after the last message.
   void noteClosed(const QString& reason);
 
   /// Delivers what is queued. This object may be gone on return.

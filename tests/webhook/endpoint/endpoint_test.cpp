@@ -57,7 +57,7 @@ protected:
 
   QByteArray ownHost() const { return "127.0.0.1:" + QByteArray::number(port()); }
 
-  /// The path and the "?" that every message stands behind.
+  /// The path and the "?" that every message stands after.
   QByteArray path() const { return '/' + endpoint->place().section(u'/', 1).toLatin1() + "/?"; }
 
   QByteArray head(const QByteArray& line, const QByteArray& more = "Origin: " + page + "\r\n") const {
@@ -106,7 +106,7 @@ TEST_F(Endpoint, TakesMessagesAsTheyStandInTheRequest) {
   EXPECT_EQ(reply.header("Vary"), QByteArray("Origin"));
   EXPECT_EQ(reply.header("Cache-Control"), QByteArray("no-store"));
 
-  // On the same connection, in pieces: a body in UTF-8 behind its head.
+  // On the same connection, in pieces: a body in UTF-8 after its head.
   client.send(postHead("logevent2&", 10) + "event=");
   EXPECT_EQ(client.exchange("%\xE2\x82\xAC").status, 200);
   EXPECT_EQ(client.exchange(get("debuglog=a?b")).status, 200);

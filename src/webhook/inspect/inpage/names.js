@@ -2,7 +2,7 @@
 // Needs: the hook script.
 
 window.__corvex.namesCheck = (function () {
-  // A call ends behind the element that it is at when so many milliseconds are over.
+  // A call ends after the element that it is at when so many milliseconds are over.
   var SLICE = 1000;
   var elements = [];
   var hierarchy = [];

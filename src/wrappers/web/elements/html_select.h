@@ -12,7 +12,7 @@
 namespace Corvex::WebWrapper {
 
 /// A list of options of which one, or with `multiple` several, can be selected. Selecting happens in the page a moment
-/// behind the call.
+/// after the call.
 class HTML_Select : public HTML_FormElement {
 public:
   static constexpr const char* ScriptName = "HTML_Select";

@@ -217,7 +217,7 @@ function __corvex__logPickEvent(e, o, url) {
     nodeType = node && __corvex__nodeReader.nodeType(node);
   }
   var text = url + "pickedObject&object=" + __corvex__nameOf(node) + __corvex__tabIdLogEventParameter();
-  // So late that the click behind a press is swallowed, too.
+  // So late that the click after a press is swallowed, too.
   __corvex__later(function () {
     window.__corvex__pickObject = false;
   }, 50);

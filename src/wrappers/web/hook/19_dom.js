@@ -16,7 +16,7 @@ var __corvexDOMAPI = (function () {
     }
   }
 
-  // The node that the first property names and, with the filter on, behind it the first element along the second.
+  // The node that the first property names and, with the filter on, after it the first element along the second.
   function traversal(property, direction) {
     return function (e) {
       if (!filterNonElementNodes()) {

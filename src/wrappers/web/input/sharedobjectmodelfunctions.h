@@ -7,7 +7,7 @@ namespace Corvex::WebWrapper {
 
 class HTML_Object;
 
-/// Adds the functions below to the script's global scope. To be called once, behind `createWebObjectClasses`.
+/// Adds the functions below to the script's global scope. To be called once, after `createWebObjectClasses`.
 CORVEX_WEBWRAPPER_EXPORT void setupSharedObjectModelFunctions();
 
 /// Each of these gives a void value, or reports to the script and gives a null pointer.

@@ -33,7 +33,7 @@ public:
   int wrapperType() const override;
 
   /// To be called when the pages of a connection go away: its objects are dead from then on. Of objects that were made
-  /// one behind the other, one call does not reach all.
+  /// one after the other, one call does not reach all.
   virtual void clearAllJSReferences(HTMLComponent* component) const;
   /// The same for all objects of all connections.
   virtual void invalidateAllReferencedObjects() const;

@@ -54,7 +54,7 @@ public:
   virtual FunctionCallResult<HTML_Object*> parentElement();
   /// `modifierState` is a sum of 1 (Alt), 2 (Control), 4 (Shift) and 16 (the right button, whatever `button` says). The
   /// position is in pixels from the object's corner. `button` is 1 (left), 2 (right) or 4 (middle). Returns 200 ms
-  /// behind the start; the click happens meanwhile.
+  /// after the start; the click happens meanwhile.
   virtual QString click(int modifierState, int x, int y, int button);
   virtual QString doubleClick(int modifierState, int x, int y);
   /// The name inside the parent. Asked once, then kept.
@@ -146,7 +146,7 @@ public:
   const QString& knownName() const { return m_name; }
 
 protected:
-  /// How long a page gets for what happens a moment behind a click.
+  /// How long a page gets for what happens a moment after a click.
   static constexpr int settleTimeMs = 200;
 
   FunctionCallResult<QString> textProperty(PropertyId id) const;

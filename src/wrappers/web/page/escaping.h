@@ -22,7 +22,7 @@ QString escapeQuotes(const QString& text);
 /// The texts as elements of a JavaScript array, each between double quotes, joined by ",".
 QString quotedArrayElements(const QStringList& texts);
 
-/// Undoes JavaScript's `escape`, and then turns every "&" into "&amp;". A "%" without digits behind it stays as it is.
+/// Undoes JavaScript's `escape`, and then turns every "&" into "&amp;". A "%" without digits after it stays as it is.
 CORVEX_WEBWRAPPER_EXPORT QString unescape(const QString& text);
 
 /// Line breaks of two characters become single line feeds.

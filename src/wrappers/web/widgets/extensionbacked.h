@@ -33,7 +33,7 @@ protected:
 /// `unconvertible` for an answer that is no number.
 FunctionCallResult<int> numberOf(const JavaScriptAnswer& answer, const char* failure, const char* unconvertible);
 
-/// The same result; an error, if there is one, stands behind the text.
+/// The same result; an error, if there is one, stands after the text.
 template <typename T>
 FunctionCallResult<T> withPrefix(const QString& text, const FunctionCallResult<T>& result) {
   return result.failed() ? FunctionCallResult<T>::failure(text + result.error) : result;

@@ -26,7 +26,7 @@ protected:
     return references;
   }
   QStringList parse(const QString& text) { return texts(parseItemViewBasedChildInfo(&page, page.expanded(text))); }
-  /// The children of an object, and behind them, what was printed.
+  /// The children of an object, and after them, what was printed.
   template <typename T>
   QStringList children() {
     testing::internal::CaptureStderr();

@@ -17,7 +17,7 @@ function __corvex__clean(s) {
     .replace(/ $/, "");
 }
 
-// For string-like objects without split. A last word with no space behind it is not collected.
+// For string-like objects without split. A last word with no space after it is not collected.
 function __corvex__collectWords(s) {
   var words = [];
   try {

@@ -147,7 +147,7 @@ function __corvex__getLogEventUrl(data) {
   return "logevent" + __corvex__natives.milliseconds() + "&" + (data || "");
 }
 
-// ev: not used. data: the text behind the head.
+// ev: not used. data: the text after the head.
 function __corvex__sendLogEventData(ev, data, async) {
   if (data.length > 120) {
     return __corvex__sendXMLHttpPost(document, __corvex__getLogEventUrl(), data, async);

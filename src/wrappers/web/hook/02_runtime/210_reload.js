@@ -28,7 +28,7 @@ function __corvex__callSavedHandlers(w, name, e) {
   __corvex__callSavedHandler(w, name, w, e);
 }
 
-// The clear text has no source element, so logging it fails, and what stands behind does not run: the first load chains
+// The clear text has no source element, so logging it fails, and what stands after does not run: the first load chains
 // the page's handlers, and from then on the lock lets only the mailbox be filled. The sweep finds the new documents.
 function __corvex__rehookFrames__load(e) {
   try {

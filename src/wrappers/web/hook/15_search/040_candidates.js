@@ -68,7 +68,7 @@ function __corvex__candidates(container, map) {
   return controls.length ? controls : __corvex__elementsByTag(container, tagName);
 }
 
-// The candidates with those of the container's own shadow root behind them, where the object model shows it too.
+// The candidates with those of the container's own shadow root after them, where the object model shows it too.
 function __corvex__withShadowCandidates(candidates, container, tagName) {
   var shadowRoot = __corvex__nodeReader.shadowRoot(container);
   if (!shadowRoot) {

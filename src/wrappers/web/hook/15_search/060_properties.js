@@ -89,7 +89,7 @@ function __corvex__findObjectByProps(container, nm, vain) {
   }, vain);
 }
 
-// place: the 1-based place of element among the hits of nm in one document, if it is from or behind it, else 0. count:
+// place: the 1-based place of element among the hits of nm in one document, if it is from or after it, else 0. count:
 // the number of hits there. Both are 0 if nm counts itself, or if the search fails there.
 function __corvex__hitsInDocument(doc, nm, element, from) {
   try {

@@ -26,7 +26,7 @@ function __corvex__sendClick(o, ctrl, shift, alt, x, y, button) {
   }
 }
 
-// "mouseup" comes behind "click", unlike with a physical mouse: pages and the recorder see no other order.
+// "mouseup" comes after "click", unlike with a physical mouse: pages and the recorder see no other order.
 function __corvex__clickViaDOM2Events(o, ctrl, shift, alt, x, y, button) {
   __corvex__hookupViewOf(o);
   if (__corvex__runClickHooks([o, ctrl, shift, alt, x, y, button])) {
@@ -92,7 +92,7 @@ function __corvex__clickLinkViaDOM2Events(l) {
   }
 }
 
-// Always the left button, and no focus. The second "mouseup" stands behind "dblclick".
+// Always the left button, and no focus. The second "mouseup" stands after "dblclick".
 function __corvex__dblclick(o, ctrl, shift, alt, x, y) {
   __corvex__hookupViewOf(o);
   if (__corvex__runClickHooks([o])) {
