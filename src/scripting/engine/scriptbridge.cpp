@@ -6,6 +6,7 @@
 #include <QJSEngine>
 #include <QQmlEngine>
 
+#include "corvexhook/inspector.h"
 #include "scripting/engine/evaluation.h"
 #include "scripting/objects/valuetext.h"
 
@@ -22,6 +23,18 @@ QJSValueList entriesOf(const QJSValue& array) {
     entries << array.property(i);
   }
   return entries;
+}
+
+QStringList staticMethodsOf(const Class* cls) {
+  QStringList names;
+  for (int id = cls->superClassOffset(Class::MethodOffset); id < cls->numMethods(); ++id) {
+    const Method* const method = cls->method(id);
+    if (method && method->isStatic()) {
+      names << method->name();
+    }
+  }
+  names.removeDuplicates();
+  return names;
 }
 
 }  // namespace
@@ -114,6 +127,36 @@ bool ScriptBridge::isCalled(const QString& name, const QString& stack) const {
 QString ScriptBridge::textOf(const QJSValue& handle) const {
   const SharedPtr<Object> object = Values::objectOfHandle(handle);
   return object ? Values::textOf(object) : QString();
+}
+
+QJSValue ScriptBridge::classNames() const {
+  QStringList names;
+  for (const Class* cls : Inspector::self()->globalNamespace()->classes()) {
+    if (cls->isPublic() && (cls->createEnum(0) || !staticMethodsOf(cls).isEmpty())) {
+      names << cls->name();
+    }
+  }
+  return scriptArray(names);
+}
+
+QJSValue ScriptBridge::staticMethods(const QString& className) const {
+  return scriptArray(staticMethodsOf(Inspector::self()->classByName(className)));
+}
+
+QJSValue ScriptBridge::enumItems(const QString& className) const {
+  QJSValue items = m_engine->newObject();
+  if (const Enum* const values = Inspector::self()->classByName(className)->createEnum(0)) {
+    for (const Enum::Item& item : values->items()) {
+      items.setProperty(QString::fromLatin1(item.name), item.value);
+    }
+  }
+  return items;
+}
+
+QJSValue ScriptBridge::callStatic(const QString& className, const QString& name, const QJSValue& arguments) {
+  const FunctionCallResult<ObjectList> list = m_values.listFromScript(arguments);
+  return finished(list.failed() ? ObjectResult::failure(name + QLatin1String(": ") + list.error)
+                                : m_calls->callStatic(Inspector::self()->classByName(className), name, list.value));
 }
 
 QJSValue ScriptBridge::functionNames() const { return scriptArray(m_functions.names()); }

@@ -41,6 +41,13 @@ public:
   Q_INVOKABLE bool isCalled(const QString& name, const QString& stack) const;
   Q_INVOKABLE QString textOf(const QJSValue& handle) const;
 
+  /// The classes that are used without an object, too: for static methods, or the items of an enumeration.
+  Q_INVOKABLE QJSValue classNames() const;
+  Q_INVOKABLE QJSValue staticMethods(const QString& className) const;
+  /// An object: the value of each item by its name.
+  Q_INVOKABLE QJSValue enumItems(const QString& className) const;
+  Q_INVOKABLE QJSValue callStatic(const QString& className, const QString& name, const QJSValue& arguments);
+
   Q_INVOKABLE QJSValue functionNames() const;
   Q_INVOKABLE QJSValue callFunction(const QString& name, const QJSValue& arguments);
   Q_INVOKABLE QJSValue checkNames() const;

@@ -74,13 +74,13 @@ ObjectResult nullObjectError(const QString& name) {
 
 /// Why these arguments cannot be given. An object that is gone takes none at all, and a class may have a sentence of
 /// its own, which the forms that it takes follow.
-QString whyNotCall(const SharedPtr<Object>& object, const QString& name, const ObjectList& arguments,
+QString whyNotCall(const Class* cls, const SharedPtr<Object>& object, const QString& name, const ObjectList& arguments,
                    const QString& formsError) {
-  const QString gone = Inspector::self()->hostServices().whyNotUse(object);
+  const QString gone = object ? Inspector::self()->hostServices().whyNotUse(object) : QString();
   if (!gone.isEmpty()) {
     return gone;
   }
-  const QString own = object->objectClass()->whyNotCall(name, arguments);
+  const QString own = cls->whyNotCall(name, arguments);
   return own.isEmpty() ? formsError : own;
 }
 
@@ -96,21 +96,29 @@ QString readOnlyError(const SharedPtr<Object>& object, const Property* property,
 
 ObjectResult MemberCalls::callMethod(const SharedPtr<Object>& object, const QString& name,
                                      const ObjectList& arguments) {
-  if (!object) {
-    return nullObjectError(name);
+  return object ? call(object->objectClass(), object, name, arguments) : nullObjectError(name);
+}
+
+ObjectResult MemberCalls::callStatic(const Class* cls, const QString& name, const ObjectList& arguments) {
+  return call(cls, nullptr, name, arguments);
+}
+
+ObjectResult MemberCalls::call(const Class* cls, const SharedPtr<Object>& object, const QString& name,
+                               const ObjectList& arguments) {
+  std::vector<NumberedMethod> numbered;
+  std::vector<const Method*> methods;
+  for (const NumberedMethod& entry : methodsNamed(cls, name)) {
+    if (object || entry.method->isStatic()) {
+      numbered.push_back(entry);
+      methods.push_back(entry.method);
+    }
   }
-  const Class* cls = object->objectClass();
-  const std::vector<NumberedMethod> numbered = methodsNamed(cls, name);
   if (numbered.empty()) {
     return ObjectResult::failure(unknownMemberError(cls, name));
   }
-  std::vector<const Method*> methods;
-  for (const NumberedMethod& entry : numbered) {
-    methods.push_back(entry.method);
-  }
   const OverloadChoice choice = chooseOverload(memberText(cls, name), methods, arguments);
   if (choice.index < 0) {
-    return ObjectResult::failure(whyNotCall(object, name, arguments, choice.error));
+    return ObjectResult::failure(whyNotCall(cls, object, name, arguments, choice.error));
   }
   const NumberedMethod chosen = numbered[static_cast<std::size_t>(choice.index)];
   warnIfDeprecated(chosen.method);

@@ -18,6 +18,8 @@ public:
   explicit MemberCalls(ScriptListener* listener) : m_listener(listener) {}
 
   ObjectResult callMethod(const SharedPtr<Object>& object, const QString& name, const ObjectList& arguments);
+  /// A method that needs no object.
+  ObjectResult callStatic(const Class* cls, const QString& name, const ObjectList& arguments);
   ObjectResult callGlobalMethod(const QString& name, const ObjectList& arguments);
   ObjectResult readProperty(const SharedPtr<Object>& object, const QString& name);
   /// Answers an error, or an empty text.
@@ -30,6 +32,8 @@ public:
   static QString unknownMemberError(const Class* cls, const QString& name);
 
 private:
+  ObjectResult call(const Class* cls, const SharedPtr<Object>& object, const QString& name,
+                    const ObjectList& arguments);
   void warnIfDeprecated(const Method* method);
   ObjectResult observed(const QString& text, const std::function<SharedPtr<Object>()>& call);
 
