@@ -246,7 +246,7 @@ static SharedPtr<Object> descend(const SharedPtr<Object>& root, const QString& n
 SharedPtr<Object> Inspector::lookupInRoots(const std::vector<SharedPtr<Object>>& roots, const QString& realName) const {
   const ObjectName name(realName);
   // A copy: a lookup waits, and windows may come and go meanwhile.
-  const std::vector<SharedPtr<Object>> asked = roots;
+  const std::vector<SharedPtr<Object>> asked = roots;  // NOLINT(performance-unnecessary-copy-initialization)
   for (const SharedPtr<Object>& root : asked) {
     const ObjectHierarchyDelegate* delegate = hierarchyDelegate(root);
     SharedPtr<Object> found = delegate ? delegate->objectByQualifiedName(root, name) : SharedPtr<Object>();

@@ -34,8 +34,8 @@ private:
 /// the operators "=" exact, "?=" wildcard, "~=" regular expression; inside quotes a backslash escapes a quote or a
 /// backslash. The other end of this text is the page's parser of such names. Any other text is a plain name.
 ///
-/// Names come from pages and scripts, so their length, the depth of their containers and the number of their properties are
-/// limited.
+/// Names come from pages and scripts, so their length, the depth of their containers and the number of their properties
+/// are limited.
 class CORVEXHOOK_EXPORT ObjectName {
 public:
   static constexpr int MostCharacters = 1000000;

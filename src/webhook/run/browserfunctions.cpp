@@ -5,6 +5,7 @@
 #include "shared/wait.h"
 #include "webhook/pages/contexts.h"
 #include "webhook/run/browsercontrol.h"
+#include "wrappers/web/values/jsobject.h"
 
 namespace Corvex::Webhook {
 
@@ -53,6 +54,11 @@ ScriptValue lastText(BrowserControl& control, const char* kind) {
   return text(control.dialogs()->lastText(QString::fromLatin1(kind)));
 }
 
+ScriptValue valueOfPage(BrowserControl& control, const QString& code) {
+  const QString why = control.whyNotAskPage();
+  return why.isEmpty() ? WebWrapper::retrieveJSObject(control.windows()->current(), code) : nothing(why);
+}
+
 struct Row {
   const char* name;
   const char* usage;
@@ -82,6 +88,8 @@ const Row rows[] = {
      [](BrowserControl& c, const ObjectList& a) { return waitForContext(c, a[0]->toString(), timeoutOf(a, 1)); }},
     {"setFrameContext", "setFrameContext(path)", 1, 1, true,
      [](BrowserControl& c, const ObjectList& a) { return nothing(selectFrame(*c.windows(), a[0]->toString())); }},
+    {"retrieveJSObject", "retrieveJSObject(code)", 1, 1, true,
+     [](BrowserControl& c, const ObjectList& a) { return valueOfPage(c, a[0]->toString()); }},
     {"closeAlert", "closeAlert([ms])", 0, 1, true,
      [](BrowserControl& c, const ObjectList& a) { return nothing(c.dialogs()->closeAlert(timeoutOf(a, 0))); }},
     {"closeConfirm", "closeConfirm(accept[, ms])", 1, 2, true,
