@@ -6,6 +6,7 @@
 #include <QJSEngine>
 #include <QQmlEngine>
 
+#include "corvexhook/hostservices.h"
 #include "corvexhook/inspector.h"
 #include "scripting/engine/evaluation.h"
 #include "scripting/objects/valuetext.h"
@@ -35,6 +36,12 @@ QStringList staticMethodsOf(const Class* cls) {
   }
   names.removeDuplicates();
   return names;
+}
+
+/// Of an object that is gone nothing can be asked, whatever the arguments.
+ObjectResult unusableArguments(const QString& name, const SharedPtr<Object>& object, const QString& error) {
+  const QString gone = object ? Inspector::self()->hostServices().whyNotUse(object) : QString();
+  return ObjectResult::failure(gone.isEmpty() ? name + QLatin1String(": ") + error : gone);
 }
 
 }  // namespace
@@ -88,11 +95,10 @@ QJSValue ScriptBridge::describeClass(int classNumber) {
 }
 
 QJSValue ScriptBridge::callMethod(const QJSValue& handle, const QString& name, const QJSValue& arguments) {
+  const SharedPtr<Object> object = Values::objectOfHandle(handle);
   const FunctionCallResult<ObjectList> list = m_values.listFromScript(arguments);
-  if (list.failed()) {
-    return finished(ObjectResult::failure(name + QLatin1String(": ") + list.error));
-  }
-  return finished(m_calls->callMethod(Values::objectOfHandle(handle), name, list.value));
+  return finished(list.failed() ? unusableArguments(name, object, list.error)
+                                : m_calls->callMethod(object, name, list.value));
 }
 
 QJSValue ScriptBridge::readProperty(const QJSValue& handle, const QString& name) {
@@ -165,8 +171,9 @@ QJSValue ScriptBridge::callFunction(const QString& name, const QJSValue& argumen
   QElapsedTimer timer;
   timer.start();
   const FunctionCallResult<ObjectList> list = m_values.listFromScript(arguments);
-  const ObjectResult result = list.failed() ? ObjectResult::failure(name + QLatin1String(": ") + list.error)
-                                            : m_functions.call(name, list.value);
+  const ObjectResult first = list.failed() ? m_values.fromScript(arguments.property(0)) : ObjectResult();
+  const ObjectResult result =
+      list.failed() ? unusableArguments(name, first.value, list.error) : m_functions.call(name, list.value);
   m_listener->step(stepText(name, arguments), timer.elapsed());
   return finished(result);
 }

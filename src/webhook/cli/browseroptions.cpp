@@ -24,15 +24,16 @@ const QCommandLineOption timeoutOption(
     QStringLiteral("How long a page may take to load or answer, and waitForObject waits: 20 at first."),
     QStringLiteral("seconds"), QStringLiteral("20"));
 
-struct OptionWithAddress {
+struct OptionWithText {
   const QCommandLineOption* option;
   const char* meaning;
   const char* example;
 };
 
-const OptionWithAddress optionsWithAddress[] = {
-    {&remoteOption, "a WebDriver server", "http://127.0.0.1:4444"},
-    {&attachOption, "a running browser's debugging socket", "ws://127.0.0.1:9222/devtools/browser/1234"},
+const OptionWithText optionsWithText[] = {
+    {&browserOption, "the name or the program of a browser", "firefox"},
+    {&remoteOption, "the address of a WebDriver server", "http://127.0.0.1:4444"},
+    {&attachOption, "the address of a running browser's debugging socket", "ws://127.0.0.1:9222/devtools/browser/1234"},
 };
 
 }  // namespace
@@ -46,9 +47,9 @@ QString readBrowserOptions(const QCommandLineParser& parser, SessionOptions* opt
   if (!error.isEmpty()) {
     return error;
   }
-  for (const OptionWithAddress& row : optionsWithAddress) {
+  for (const OptionWithText& row : optionsWithText) {
     if (parser.isSet(*row.option) && parser.value(*row.option).isEmpty()) {
-      return QStringLiteral("--%1 needs the address of %2, such as %3.")
+      return QStringLiteral("--%1 needs %2, such as %3.")
           .arg(row.option->names().constLast(), QLatin1String(row.meaning), QLatin1String(row.example));
     }
   }

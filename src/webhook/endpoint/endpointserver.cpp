@@ -23,6 +23,7 @@ namespace Corvex::Webhook {
 namespace {
 
 constexpr int loggedTargetLength = 100;
+constexpr int mostRefusalsTold = 20;
 
 constexpr int flushTime = 500;
 constexpr std::size_t connectionMemory = 128 * 1024;
@@ -327,10 +328,16 @@ QString EndpointServer::noteRefusal(const Verdict& verdict, const QByteArray& ta
   const RefusalRow& row = rowOf(verdict.refusal);
   const QString sentence = QString::fromLatin1(row.sentence).arg(verdict.detail);
   m_refused.count(verdict.refusal);
-  QByteArray shownTarget = target;
-  shownTarget.replace(m_own.path, "/...secret.../");
-  qCWarning(webhookLog, "The endpoint refused '%s': %s", shownTarget.left(loggedTargetLength).constData(),
-            qUtf8Printable(sentence));
+  // A page that is refused without end must not fill the output of the run.
+  const int told = m_refusalsTold++;
+  if (told < mostRefusalsTold) {
+    QByteArray shownTarget = target;
+    shownTarget.replace(m_own.path.mid(1, m_own.path.size() - 2), "...secret...");
+    qCWarning(webhookLog, "The endpoint refused '%s': %s", shownTarget.left(loggedTargetLength).constData(),
+              qUtf8Printable(sentence));
+  } else if (told == mostRefusalsTold) {
+    qCWarning(webhookLog, "The endpoint refused more requests; they are not told one by one.");
+  }
   return sentence;
 }
 

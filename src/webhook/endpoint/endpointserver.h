@@ -87,6 +87,7 @@ private:
   MessageQueue m_messages;
   WaitTable m_waits;
   RefusalFigures m_refused;
+  std::atomic<int> m_refusalsTold{0};
   std::atomic<quint64> m_accepted{0};
   std::atomic<bool> m_stopping{false};
 

@@ -32,10 +32,14 @@ private:
   void takeToken() {
     const QChar c = at(m_pos);
     if (is("//")) {
-      skipTo(QLatin1String("\n"));
+      const int end = m_script.indexOf(QLatin1Char('\n'), m_pos);
+      m_pos = end < 0 ? m_script.size() : end;
     } else if (is("/*")) {
+      skipComment();
+    } else if (is("++") || is("--")) {
+      // What it follows or precedes decides what a slash means after it.
       m_pos += 2;
-      skipTo(QLatin1String("*/"));
+      m_isStatementStart = false;
     } else if (c == QLatin1Char('"') || c == QLatin1Char('\'') || c == QLatin1Char('`')) {
       skipQuoted(c);
     } else if (c == QLatin1Char('/') && m_mayBeginExpression) {
@@ -47,10 +51,17 @@ private:
     }
   }
 
-  void skipTo(QLatin1String end) {
-    const int found = m_script.indexOf(end, m_pos);
-    m_pos = found < 0 ? m_script.size() : found + end.size();
+  void skipComment() {
+    const int start = m_pos;
+    const int end = m_script.indexOf(QLatin1String("*/"), m_pos + 2);
+    m_pos = end < 0 ? m_script.size() : end + 2;
+    if (m_script.midRef(start, m_pos - start).contains(QLatin1Char('\n'))) {
+      beginLine();
+    }
   }
+
+  /// A statement may begin on a line, unless the one before asks for more.
+  void beginLine() { m_isStatementStart = m_isStatementStart || (m_depth == 0 && !m_mayBeginExpression); }
 
   void skipQuoted(QChar quote) {
     for (++m_pos; m_pos < m_script.size() && at(m_pos) != quote; ++m_pos) {
@@ -94,9 +105,8 @@ private:
       if (word == QLatin1String("const") || word == QLatin1String("let")) {
         replace(start, QStringLiteral("var"));
       } else if (word == QLatin1String("class")) {
-        const QString name = nextWord();
-        replace(start, QStringLiteral("var %1 = class").arg(name));
-        m_isClassOpen = !name.isEmpty();
+        replace(start, QStringLiteral("var %1 = class").arg(nextWord()));
+        m_isClassOpen = true;
       }
     }
     // What follows these is an expression; what follows other words is not, so that a slash divides.
@@ -123,8 +133,7 @@ private:
   void takeSign(QChar c) {
     ++m_pos;
     if (c == QLatin1Char('\n')) {
-      // A statement may begin on any line; the few expressions that go on with one of the three words are no scripts.
-      m_isStatementStart = m_isStatementStart || m_depth == 0;
+      beginLine();
       return;
     }
     if (c.isSpace()) {

@@ -47,9 +47,6 @@ const ConfigVariable namespaceMembers[] = {
     {"window.__corvex.useSessionStorageForEvents", &WrapperConfig::useSessionStorageForEvents},
 };
 
-// Left to itself, the script knows of few browsers only that their dialogs can be answered.
-const char* const nativeDialogs = "\n__corvex__opensNativeDialogs = function () { return true; };\n";
-
 QString assignment(const char* variable, const QString& value) {
   return QStringLiteral("%1 = %2;\n").arg(QLatin1String(variable), value);
 }
@@ -106,7 +103,7 @@ QString hookScript(const WrapperConfig& config) {
 }  // namespace
 
 QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
-  const QString dialogs = browser.opensNativeDialogs ? QLatin1String(nativeDialogs) : inPageText("dialogtexts.js");
+  const QString dialogs = inPageText(browser.opensNativeDialogs ? "nativedialogs.js" : "dialogtexts.js");
   return QStringLiteral(
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +

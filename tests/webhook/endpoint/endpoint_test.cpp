@@ -384,14 +384,20 @@ TEST_F(Endpoint, TellsNobodyItsSecret) {
   told = &lines;
   const auto previous =
       qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& line) { told->append(line); });
-  EXPECT_EQ(ask(head("PUT " + path() + "a") + "\r\n").status, 403);
+  const QByteArray secretPath = path().left(path().lastIndexOf('/'));
+  for (const QByteArray& target : {path() + "a", secretPath + "?a", secretPath.mid(1) + "a"}) {
+    EXPECT_EQ(ask(head("PUT " + target) + "\r\n").status / 100, 4) << target.toStdString();
+  }
   const RawReply reply = ask(head("GET /?a") + "\r\n");
+  for (int i = 0; i < 50; ++i) {
+    ask(head("GET /?a") + "\r\n");
+  }
   endpoint->stop();
   qInstallMessageHandler(previous);
   const QString secret = endpoint->place().section(u'/', 1);
   EXPECT_EQ(secret.size(), 32);
   EXPECT_FALSE(reply.body.contains(secret.toLatin1()));
-  EXPECT_EQ(lines.size(), 2);
+  EXPECT_LT(lines.size(), 30);
   EXPECT_TRUE(lines.filter(secret).isEmpty()) << lines.join(u'\n').toStdString();
   MessageEndpoint other;
   QString error;

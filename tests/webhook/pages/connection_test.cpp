@@ -94,6 +94,8 @@ TEST(GlobalDeclarations, AreFoundAtTheTopLevelOnly) {
       {"// let a\n/* const b */ 'class c'; var d = /[/{]let/; const e = d / 2 / 1",
        "// let a\n/* const b */ 'class c'; var d = /[/{]let/; var e = d / 2 / 1"},
       {"x.class = 1; y = class Z {}; letter = constant", "x.class = 1; y = class Z {}; letter = constant"},
+      {"var a = 1 // b\nconst c = n++ / 2;\nlet d = --n / 3 // {\nconst e =\nclass extends F {};\nlet g /*\n*/ let h",
+       "var a = 1 // b\nvar c = n++ / 2;\nvar d = --n / 3 // {\nvar e =\nclass extends F {};\nvar g /*\n*/ var h"},
       {"let a = '", "var a = '"},
       {"}}} let", "}}} let"},
       {"`${", "`${"},
