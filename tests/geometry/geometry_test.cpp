@@ -248,6 +248,52 @@ TEST_P(OnScreen, TheColourIsWhereTheElementIsSaidToBe) {
   EXPECT_TRUE(m_browser->waitForPainted(look) && m_browser->waitForPainted(look)) << described(said, found);
 }
 
+class Pictures : public testing::TestWithParam<double> {};
+
+TEST_P(Pictures, ShowTheElementAndNothingElse) {
+  const struct {
+    const char* element;
+    QSize size;
+    QRgb colour;
+  } elements[] = {
+      {"document.getElementById('plain')", {40, 24}, qRgb(200, 0, 0)},
+      {"document.getElementById('below')", {80, 44}, qRgb(0, 200, 0)},
+      {"document.getElementById('boxed')", {60, 20}, qRgb(0, 0, 200)},
+      {"(" IN_FRAME ").getElementById('f').contentDocument.getElementById('e')", {72, 32}, qRgb(200, 0, 200)},
+      {"document.getElementById('plain')", {40, 24}, qRgb(200, 0, 0)},
+  };
+  const QString page =
+      QStringLiteral(
+          "<!DOCTYPE html><style>body{margin:0;background:white}div{position:absolute}</style>"
+          "<div id=plain style='left:8px;top:4px;width:40px;height:24px;background:rgb(200,0,0)'></div>"
+          "<div id=below style='left:1600px;top:3000px;width:80px;height:44px;background:rgb(0,200,0)'></div>"
+          "<div style='left:60px;top:60px;width:200px;height:100px;overflow:scroll'>"
+          "<div style='width:900px;height:900px'></div>"
+          "<div id=boxed style='left:400px;top:400px;width:60px;height:20px;background:rgb(0,0,200)'></div>"
+          "</div>") +
+      QString::fromUtf8(nestedFrames)
+          .replace(QLatin1String("left:320px;top:230px;width:70px;height:33px"),
+                   QLatin1String("left:320px;top:232px;width:72px;height:32px"))
+          .replace(QLatin1String("left:32px;top:16px"), QLatin1String("left:400px;top:400px"))
+          .replace(QLatin1String("background:E"), QLatin1String("background:rgb(200,0,200)"));
+  ScreenBrowser& browser = ScreenBrowser::withScale(GetParam());
+  ASSERT_EQ(browser.error(), QString());
+  ASSERT_EQ(browser.load(page), QString());
+  for (const auto& element : elements) {
+    QString error;
+    const QImage picture =
+        browser.pictureOf(QLatin1String(element.element), &error).convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(error, QString()) << element.element;
+    EXPECT_EQ(picture.size(), element.size * GetParam()) << element.element;
+    const PaintedArea area = paintedArea(picture, element.colour);
+    EXPECT_EQ(area.pixels, picture.width() * picture.height()) << element.element;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Geometry, Pictures, testing::Values(1.0, 2.0, 1.5), [](const auto& instance) {
+  return "At" + std::to_string(static_cast<int>(instance.param * 100));
+});
+
 INSTANTIATE_TEST_SUITE_P(Geometry, OnScreen, testing::Combine(testing::Values(1.0, 2.0, 1.5), testing::ValuesIn(cases)),
                          [](const auto& instance) {
                            const int percent = static_cast<int>(std::get<0>(instance.param) * 100);

@@ -6,10 +6,13 @@
 #include <QEventLoop>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include "support/environment.h"
 #include "support/testbrowser.h"
+#include "webhook/run/pictures.h"
+#include "wrappers/web/object/retrievehtmlobject.h"
 
 namespace TestSupport {
 
@@ -56,6 +59,16 @@ Corvex::Webhook::BrowserIdentity identityOf(const Corvex::Webhook::BrowserSessio
 }
 
 }  // namespace
+
+QImage ScreenBrowser::pictureOf(const QString& expression, QString* error) {
+  const auto found =
+      Corvex::WebWrapper::htmlObjectFromJavaScriptResult(m_connection.get(), expression, QStringLiteral("{}"), 0);
+  const std::unique_ptr<Corvex::WebWrapper::HTML_Object> object(found.value);
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("picture.png"));
+  *error = found.failed() ? found.error : Corvex::Webhook::takeScreenshot(*m_connection, object.get(), file);
+  return QImage(file);
+}
 
 ScreenBrowser& ScreenBrowser::withScale(double scale) {
   static const testing::Environment* const ending = testing::AddGlobalTestEnvironment(new BrowserEnd);

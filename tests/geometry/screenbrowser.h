@@ -31,6 +31,8 @@ public:
   QString load(const QString& html);
   /// The value of a JavaScript expression; a failure comes back as a text that begins with "failed: ".
   QJsonValue evaluate(const QString& expression);
+  /// A picture of an element, as scripts take it. Null with an error.
+  QImage pictureOf(const QString& expression, QString* error);
   /// Zooms the page as a user does, and waits until it is zoomed: some steps up, or back to where it was by 0.
   QString zoomPage(int steps);
   /// Asks until the condition holds, each time after frames that the page has painted. False when it never did.

@@ -45,7 +45,7 @@ std::vector<pid_t> processesWithMark(const std::string& mark) {
   return found;
 }
 
-// The waits of this file serve no events: they run where a program ends, with no event loop left or before one is there.
+// The waits of this file serve no events: they also run where a program ends, with no event loop left.
 Clock::time_point patience() { return Clock::now() + std::chrono::seconds(3); }
 
 void waitUntilGone(pid_t process, Clock::time_point end) {

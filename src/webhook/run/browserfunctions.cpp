@@ -1,10 +1,14 @@
 #include "webhook/run/browserfunctions.h"
 
 #include "corvexhook/arrayclass.h"
+#include "corvexhook/hostservices.h"
 #include "corvexhook/inspector.h"
+#include "corvexhook/primitives.h"
 #include "shared/wait.h"
 #include "webhook/pages/contexts.h"
 #include "webhook/run/browsercontrol.h"
+#include "webhook/run/pictures.h"
+#include "wrappers/web/object/wraphtmlobject.h"
 #include "wrappers/web/values/jsobject.h"
 
 namespace Corvex::Webhook {
@@ -59,6 +63,28 @@ ScriptValue valueOfPage(BrowserControl& control, const QString& code) {
   return why.isEmpty() ? WebWrapper::retrieveJSObject(control.windows()->current(), code) : nothing(why);
 }
 
+ScriptValue screenshot(BrowserControl& control, const ObjectList& arguments) {
+  const QString why = control.whyNotAskPage();
+  if (!why.isEmpty()) {
+    return nothing(why);
+  }
+  SharedPtr<Object> object;
+  const WebWrapper::HTML_Object* native = nullptr;
+  if (arguments.size() == 2) {
+    const bool isNamed = arguments[0]->objectClass() == Inspector::self()->primitiveType(PrimitiveType::String);
+    object = isNamed ? Inspector::self()->waitForObject(arguments[0]->toString()) : arguments[0];
+    const QString error =
+        object ? Inspector::self()->hostServices().whyNotUse(object) : Inspector::self()->takeScriptError();
+    native = WebWrapper::retrieveObject(object);
+    if (!error.isEmpty() || !native) {
+      return nothing(error.isEmpty() ? QStringLiteral("takeScreenshot takes an object of a page, or its name.")
+                                     : error);
+    }
+  }
+  const QString file = control.resolvePath(arguments[arguments.size() - 1]->toString());
+  return nothing(takeScreenshot(*control.windows()->current(), native, file));
+}
+
 struct Row {
   const char* name;
   const char* usage;
@@ -90,6 +116,7 @@ const Row rows[] = {
      [](BrowserControl& c, const ObjectList& a) { return nothing(selectFrame(*c.windows(), a[0]->toString())); }},
     {"retrieveJSObject", "retrieveJSObject(code)", 1, 1, true,
      [](BrowserControl& c, const ObjectList& a) { return valueOfPage(c, a[0]->toString()); }},
+    {"takeScreenshot", "takeScreenshot([object, ]file)", 1, 2, true, screenshot},
     {"closeAlert", "closeAlert([ms])", 0, 1, true,
      [](BrowserControl& c, const ObjectList& a) { return nothing(c.dialogs()->closeAlert(timeoutOf(a, 0))); }},
     {"closeConfirm", "closeConfirm(accept[, ms])", 1, 2, true,

@@ -36,6 +36,11 @@ verifyFails(function () { retrieveJSObject("not code"); }, "Failed to retrieve J
 test.compare(retrieveJSObject("var n = 20; n + 1"), 21);
 test.compare(retrieveJSObject("0 / 0") + "", "NaN");
 
+takeScreenshot(red, "red.png");
+takeScreenshot("red.jpg");
+verifyFails(function () { takeScreenshot(red, "red"); }, "The name of a picture ends in .png, .jpg or .bmp, unlike");
+verifyFails(function () { takeScreenshot(shop, "shop.png"); }, "takeScreenshot takes an object of a page, or its name.");
+
 startBrowser(SITE + "/next.html");
 verifyFails(function () { shop.property("name"); }, "The value belongs to a page that is gone.");
 verifyFails(function () { red.innerText; }, "Object reference deleted in browser already");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shared/functioncallresult.h"
+#include "wrappers/web/export.h"
 #include "wrappers/web/object/webobject.h"
 
 #include <QString>
@@ -10,8 +11,10 @@ namespace Corvex::WebWrapper {
 /// Evaluates an expression in the page and makes the object for what it gives, with `name` as its known name. A falsy
 /// value in the page is a null object without an error. The expression may end in a semicolon. `timeoutMs` 0 stands for
 /// the connection's default. The caller owns the object.
-FunctionCallResult<HTML_Object*> htmlObjectFromJavaScriptResult(HTMLComponent* component, const QString& expression,
-                                                                const QString& name, unsigned int timeoutMs);
+CORVEX_WEBWRAPPER_EXPORT FunctionCallResult<HTML_Object*> htmlObjectFromJavaScriptResult(HTMLComponent* component,
+                                                                                         const QString& expression,
+                                                                                         const QString& name,
+                                                                                         unsigned int timeoutMs);
 
 /// The same for an expression without a reference; see `HTMLComponent::evaluateInAnyDocument`.
 FunctionCallResult<HTML_Object*> htmlObjectFromAnyDocument(HTMLComponent* component, const QString& expression,

@@ -19,6 +19,7 @@ JavaScriptAnswer isVisible(const HTML_Object* object);
 CORVEX_WEBWRAPPER_EXPORT FunctionCallResult<bool> isObjectReady(HTML_Object* object);
 
 /// The part of the page's image at the rectangle. Where that is outside of the page the content is arbitrary.
-FunctionCallResult<QImage> grabObjectScreenshotInPage(HTMLComponent* component, const ScreenRectangle& rect);
+CORVEX_WEBWRAPPER_EXPORT FunctionCallResult<QImage> grabObjectScreenshotInPage(HTMLComponent* component,
+                                                                               const ScreenRectangle& rect);
 
 }  // namespace Corvex::WebWrapper

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace Corvex::WebWrapper {
+class HTML_Object;
+}
+
+namespace Corvex::Webhook {
+
+class Connection;
+
+/// Writes a picture of an object, or of the whole page of `current` where the object is null, to a file whose ending
+/// tells the format. An object that boxes or frames around it hide is scrolled into view first. Answers why not, or an
+/// empty text.
+QString takeScreenshot(Connection& current, const WebWrapper::HTML_Object* object, const QString& file);
+
+}  // namespace Corvex::Webhook
