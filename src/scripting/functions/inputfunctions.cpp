@@ -93,9 +93,11 @@ ObjectResult selectOption(const FunctionCall& call) {
   if (MemberCalls::globalMethodsNamed(name).empty()) {
     return callOnFirst(call, "setSelectedOption");
   }
-  const Target target = awaitedTarget(call, call.arguments[0]);
+  const SharedPtr<Object>& given = call.arguments[0];
+  const Target target = given ? awaitedTarget(call, given) : Target();
   if (!target.error.isEmpty()) {
-    return ObjectResult::failure(target.error);
+    const QString wrongName = QStringLiteral("Invalid object name '%1'. ").arg(target.name);
+    return ObjectResult::failure((isText(given) ? wrongName : QString()) + target.error);
   }
   return call.context.calls->callGlobalMethod(name, {target.object, call.arguments[1]});
 }
