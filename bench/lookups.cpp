@@ -5,7 +5,10 @@
 #include "wrappers/web/object/webobject.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 #include "wrappers/web/page/calljavascriptfunction.h"
+#include "wrappers/web/readiness/readiness.h"
 #include "wrappers/web/setup/getjscode.h"
+#include "wrappers/web/style/cssproperties.h"
+#include "wrappers/web/values/jsobject.h"
 
 namespace CorvexBench {
 
@@ -41,11 +44,21 @@ bool measurePage(Webhook::Connection& connection, const QStringList& tags, Repor
   const WebWrapper::HTML_Object* input = WebWrapper::retrieveObject(object);
   const QString children =
       QStringLiteral("window.top.__corvex.childObjectAndInfo( %1 )").arg(WebWrapper::retrieveObject(body)->reference);
+  const SharedPtr<Object> handle = WebWrapper::retrieveJSObject(&connection, QStringLiteral("document")).value;
+  WebWrapper::JsObject* page = nullptr;
+  if (!handle || !handle->get(reinterpret_cast<void**>(&page))) {
+    return fail(QStringLiteral("there is no value of the page."));
+  }
   takeTurns({{QStringLiteral("bare round trip (evaluate 1)"), [&] { connection.evaluateJS(QStringLiteral("1"), 0); }},
              {QStringLiteral("findObject, three properties"), [&] { inspector->lookup(name); }},
              {QStringLiteral("property read (tagName)"), [&] { input->tagName(); }},
              {QStringLiteral("child list of the body"),
-              [&] { WebWrapper::callJavaScriptFunction(&connection, children, 0); }}},
+              [&] { WebWrapper::callJavaScriptFunction(&connection, children, 0); }},
+             {QStringLiteral("waitForObject, ready: found, and asked whether it is"),
+              [&] { WebWrapper::isObjectReady(WebWrapper::retrieveObject(inspector->lookup(name))); }},
+             {QStringLiteral("all computed style properties of an element"),
+              [&] { std::unique_ptr<WebWrapper::CSSProperties>(input->cssProperties().value); }},
+             {QStringLiteral("property of a value of the page"), [&] { page->property(QStringLiteral("title")); }}},
             rounds, report);
   const QString scriptError = inspector->takeScriptError();
   return scriptError.isEmpty() || fail(scriptError);

@@ -4,6 +4,9 @@
 #include "wrappers/web/page/htmlcomponent.h"
 
 #include <QPainter>
+#include <QStringList>
+
+#include <optional>
 
 namespace Corvex::WebWrapper {
 
@@ -12,17 +15,47 @@ JavaScriptAnswer isVisible(const HTML_Object* object) {
       QStringLiteral(" try { __corvex__isVisible(%1); } catch( e ) { false;e.message; }").arg(object->reference));
 }
 
+namespace {
+
+const char* const allAtOnce =
+    "(function() { try { return 'ready ' + window.top.__corvex.getPropertyValue( %1, 'tagName' ).replace(/\\s*$/, '') "
+    "+ "
+    "' ' + __corvex__isVisible( %1 ) + ' ' + window.top.__corvex.getPropertyValue( %1, 'disabled' ); } "
+    "catch( e ) { return ''; } }());";
+
+/// Asks the page once for all that decides. Nothing for answers that need a sentence of their own.
+std::optional<bool> readyAtOnce(const HTML_Object& object) {
+  const JavaScriptAnswer answer = object.evaluateJS(QString::fromLatin1(allAtOnce).arg(object.reference));
+  const QStringList words = answer.text.split(QLatin1Char(' '));
+  if (!answer.succeeded() || words.size() != 4 || words[0] != QLatin1String("ready") || words[1].isEmpty()) {
+    return std::nullopt;
+  }
+  const bool isVisible = words[2] == QLatin1String("true");
+  if (!isVisible && words[2] != QLatin1String("false")) {
+    return std::nullopt;
+  }
+  const bool isDisabled = dynamic_cast<const HTML_FormElement*>(&object) && words[3] == QLatin1String("true");
+  return words[1] == QLatin1String("HTML") || (isVisible && !isDisabled);
+}
+
+}  // namespace
+
 FunctionCallResult<bool> isObjectReady(HTML_Object* object) {
   using Result = FunctionCallResult<bool>;
   if (!object) {
     return Result::success(true);
+  }
+  const bool isDocument = qstrcmp(object->className(), "HTML_Document") == 0;
+  const std::optional<bool> ready = isDocument ? std::nullopt : readyAtOnce(*object);
+  if (ready) {
+    return Result::success(*ready);
   }
   const FunctionCallResult<QString> tagName = object->tagName();
   if (tagName.failed()) {
     return Result::failure(
         QStringLiteral("Cannot determine readyness, failed to obtain tagname: %1").arg(tagName.error));
   }
-  if (qstrcmp(object->className(), "HTML_Document") == 0 || tagName.value == QLatin1String("HTML")) {
+  if (isDocument || tagName.value == QLatin1String("HTML")) {
     return Result::success(true);
   }
   const JavaScriptAnswer visible = isVisible(object);

@@ -48,6 +48,26 @@ TEST_F(Readiness, AnElementMustBeVisible) {
   EXPECT_TRUE(isReady(&object));
 }
 
+TEST_F(Readiness, IsUsuallyAskedForAtOnce) {
+  const struct {
+    const char* answer;
+    bool isReady;
+    bool isFieldReady;
+  } cases[] = {
+      {"ready INPUT true false", true, true},
+      {"ready INPUT true true", true, false},
+      {"ready INPUT false false", false, false},
+      {"ready HTML false undefined", true, true},
+  };
+  for (const auto& row : cases) {
+    page.calls.clear();
+    page.answer("return 'ready '", row.answer);
+    EXPECT_EQ(isReady(&object), row.isReady) << row.answer;
+    EXPECT_EQ(isReady(&field), row.isFieldReady) << row.answer;
+    EXPECT_EQ(page.calls.size(), 2U);
+  }
+}
+
 TEST_F(Readiness, AFormElementMustBeEnabledToo) {
   page.answer("__corvex__isVisible", "true");
   page.answer("'disabled');", "false");
