@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <iterator>
 
@@ -161,5 +163,14 @@ TEST(Architecture, EverySourceIsBuilt) {
                    .contains(QRegularExpression(QStringLiteral("(^|[\\s/\"])%1($|[\\s\")])").arg(name)));
     }
     EXPECT_TRUE(listed) << source.toStdString() << " stands in no CMakeLists.txt";
+  }
+}
+
+TEST(Architecture, TheDocumentNamesPathsThatExist) {
+  // In backticks, with a slash, and of nothing but what paths are made of.
+  const QStringList paths = allMatches(textOf(QStringLiteral("ARCHITECTURE.md")), "`([\\w.-]+/[\\w./-]*)`");
+  EXPECT_FALSE(paths.isEmpty());
+  for (const QString& path : paths) {
+    EXPECT_TRUE(QFileInfo::exists(root() + path)) << path.toStdString();
   }
 }

@@ -58,8 +58,8 @@ WebWrapper::JavaScriptAnswer askPage(WebWrapper::HTMLComponent& page, const char
   return page.evaluateJS(code, explanationTimeoutMs);
 }
 
-/// What is known of the elements of the tag; `where` tells where they were looked for.
-QString explainElements(const QJsonObject& why, const ObjectName& name, const QString& where) {
+/// What is known of the elements of the tag that were seen; `where` tells where they were looked for.
+QString explainSeenElements(const QJsonObject& why, const ObjectName& name, const QString& where) {
   const int count = why.value(QLatin1String("count")).toInt();
   const QString found = elements(why.value(QLatin1String("tag")).toString(), count, where);
   const QString missing = missingProperties(why.value(QLatin1String("missing")).toArray());
@@ -78,6 +78,21 @@ QString explainElements(const QJsonObject& why, const ObjectName& name, const QS
   }
   return found + QStringLiteral(", but none has this %1%2.")
                      .arg(missing, error.isEmpty() ? QString() : QLatin1String(": ") + error);
+}
+
+/// Where a function of the page's own failed, there may be elements that nobody has seen.
+QString explainElements(const QJsonObject& why, const ObjectName& name, const QString& where) {
+  const QString replaced = why.value(QLatin1String("replaced")).toString();
+  if (replaced.isEmpty()) {
+    return explainSeenElements(why, name, where);
+  }
+  if (why.value(QLatin1String("count")).toInt() == 0) {
+    return QStringLiteral(
+               "No element%1 with the tag %2 can be found: the page has replaced %3 by a function that fails.")
+        .arg(where, why.value(QLatin1String("tag")).toString(), replaced);
+  }
+  return explainSeenElements(why, name, where) +
+         QStringLiteral(" The page has replaced %1 by a function that fails.").arg(replaced);
 }
 
 /// `localName` is what the page knows `name` by.

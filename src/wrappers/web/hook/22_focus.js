@@ -14,13 +14,13 @@ window.top.__corvex.hasFocus = (function () {
   return function (element) {
     var doc = __corvex__nodeReader.ownerDocument(element);
     if (typeof ShadowRoot !== "undefined") {
-      doc = element.getRootNode();
+      doc = __corvex__askNode.Node.getRootNode(element);
       while (__corvex__isShadowRoot(doc)) {
         if (doc.activeElement !== element) {
           return false;
         }
         element = doc.host;
-        doc = element.getRootNode();
+        doc = __corvex__askNode.Node.getRootNode(element);
       }
     }
     if (doc.activeElement !== element) {

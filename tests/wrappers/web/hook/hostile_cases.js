@@ -145,6 +145,69 @@ test("a page that breaks the language's own functions is searched, named, read, 
 }, ["p", true, "NAME", "DOCUMENT.HTML1.BODY1.P1", "Ptrue", "A bsome textsome", true, "B1", 1, true, false, "title", "click ",
   "click key key ", 2, true, "m"]);
 
+// The answers of the actions while the functions of nodes throw in these windows.
+function withoutNodeFunctions(windows, actions) {
+  const slots = windows.flatMap((w) => ["Node", "Element", "HTMLElement", "Document", "DocumentFragment"].flatMap(
+    (type) => Object.entries(Object.getOwnPropertyDescriptors(w[type].prototype)).filter(
+      ([name, { value }]) => typeof value === "function" && name !== "constructor").map(
+      ([name, property]) => ({ owner: w[type].prototype, name, property }))));
+  slots.forEach(({ owner, name }) => {
+    owner[name] = () => { throw new Error("of the page"); };
+  });
+  try {
+    return actions.map((action) => {
+      try {
+        return action();
+      } catch (e) {
+        return "error " + e.message;
+      }
+    });
+  } finally {
+    slots.forEach(({ owner, name, property }) => Object.defineProperty(owner, name, property));
+  }
+}
+
+test("a page that breaks the functions of its nodes is searched, named and measured", {
+  page: '<p id="p" title="t" data-x="y">some <b>text</b></p><form name="one"><input name="user"></form>' +
+    '<a id="a" href="#"><img alt="in"></a><div id="h"></div><iframe id="f"></iframe><label for="q">Query</label>' +
+    '<input id="q" name="query">'
+}, ({ el, frame, flags }) => {
+  const inFrame = frame("f", '<i id="in"></i>');
+  const [p, link, root] = [el("p"), el("a"), el("h").attachShadow({ mode: "open" })];
+  root.innerHTML = '<u id="u"></u>';
+  const inShadow = root.firstChild;
+  flags({ namegen__scheme: "p", namegen__singleprop: "s" });
+  const record = (name) => __corvex.explainFailedSearch(name);
+  const idOfRecord = (name) => __corvex__findObject(name).id;
+  return withoutNodeFunctions([window, inFrame], [
+    () => idOfRecord("{tagName='P' title='t' data-x='y'}"),
+    () => idOfRecord("{tagName='I'}"),
+    () => idOfRecord("{tagName='A' img_alt='in'}"),
+    () => __corvex__findObject("{tagName='INPUT' form='one'}").name,
+    () => idOfRecord("q") + idOfRecord("query") + idOfRecord("Query"),
+    () => __corvex__findObjectByProps(root, "{tagName='U'}") === inShadow,
+    () => __corvex.findAllObjects("{tagName='P'}").length,
+    () => [record("{tagName='EM'}"), record("{tagName='P' title='no'}")].map(({ count, replaced }) => [count, replaced]),
+    () => unescape(__corvex__propertyNameOf(link)),
+    () => unescape(__corvex__propertyNameOf(inShadow, false, true)).indexOf("container={"),
+    () => __corvex__nativeClientRect(p).width > 0,
+    () => __corvex__getElementByClassName(document, "none", "P") === undefined
+  ]);
+}, ["p", "in", "a", "user", "qqq", true, 1, [[0, null], [1, null]], "{visible='true' tagName='A' img_alt='in'}",
+  1, true, true]);
+
+test("a document with a function of its own for its elements is searched all the same", { page: '<p id="p"></p>' },
+  ({ set }) => {
+    set(document, "getElementsByTagName", () => { throw new Error("of the page"); });
+    return [idOf("{tagName='P'}"), __corvex.findAllObjects("{tagName='P'}").length];
+  }, ["p", 1]);
+
+test("a function of the page's own that fails where the browser's cannot be asked is told", { page: "<p></p>" }, () => {
+  const fails = () => { throw new Error("of the page"); };
+  const told = (container) => __corvex.explainFailedSearch("{tagName='P' id='x'}", container);
+  return [told({ getElementsByTagName: fails }), told(document.body)];
+}, [{ tag: "P", count: 0, missing: ["id"], replaced: "getElementsByTagName" }, { tag: "P", count: 1, missing: ["id"] }]);
+
 // The last one, since nothing puts this page right again.
 test("a page that broke a function of the language for good is told so", { page: '<p title="t"></p>' }, () => {
   const value = () => { throw new Error("of the page"); };

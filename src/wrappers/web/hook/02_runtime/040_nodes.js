@@ -1,4 +1,4 @@
-// Gives: __corvex__nodeReader and more to read of nodes what the fields of a form or names in a document hide.
+// Gives: __corvex__nodeReader, __corvex__askNode and more: what fields, names and pages hide of nodes, or replace.
 // Needs: runtime/natives.
 
 var __corvex__nodeReader = (function () {
@@ -39,17 +39,68 @@ var __corvex__nodeReader = (function () {
   return readers;
 })();
 
-// As doc[method](argument), also where an element of that name hides the document's own function.
+// The name of a function of the page's own, in place of the browser's, that failed when it was asked last.
+var __corvex__failedReplacement = { name: "" };
+
+// By interface and method, a function for node[method](argument). It is the browser's, whatever hides or replaces that in
+// the page, unless there was none left to keep, or the node is a record that an extension passes off as one.
+var __corvex__askNode = (function () {
+  function askOwn(interfaceName, method, node, argument) {
+    var ask = typeof node[method] === "function" ? node[method] : window[interfaceName].prototype[method];
+    try {
+      return __corvex__natives.apply(ask, node, [argument]);
+    } catch (e) {
+      if (typeof ask === "function" && !__corvex__nativeFunction(ask)) {
+        __corvex__failedReplacement.name = method;
+      }
+      throw e;
+    }
+  }
+
+  function asker(interfaceName, method) {
+    var kept = __corvex__nativeFunction(window[interfaceName] && window[interfaceName].prototype[method]);
+    var ask = kept && __corvex__natives.unbound(kept);
+    return function (node, argument) {
+      if (ask) {
+        try {
+          return ask(node, argument);
+        } catch (e) {
+          // No node of this kind, or an argument that its own function refuses, too.
+        }
+      }
+      return askOwn(interfaceName, method, node, argument);
+    };
+  }
+
+  var rows = {
+    Document: ["getElementById", "getElementsByName", "getElementsByTagName", "querySelectorAll"],
+    DocumentFragment: ["querySelectorAll"],
+    Element: ["getAttribute", "getBoundingClientRect", "getClientRects", "getElementsByTagName"],
+    Node: ["getRootNode"]
+  };
+  var askers = {};
+  for (var interfaceName in rows) {
+    if (__corvex__natives.has(rows, interfaceName)) {
+      askers[interfaceName] = {};
+      for (var i = 0; i < rows[interfaceName].length; ++i) {
+        askers[interfaceName][rows[interfaceName][i]] = asker(interfaceName, rows[interfaceName][i]);
+      }
+    }
+  }
+  return askers;
+})();
+
 function __corvex__askDocument(doc, method, argument) {
-  return typeof doc[method] === "function" ? doc[method](argument) :
-    __corvex__natives.apply(Document.prototype[method], doc, [argument]);
+  return __corvex__askNode.Document[method](doc, argument);
 }
 
-// A form may hide the function behind a field; what is no element has none.
-function __corvex__attributeOf(o, name) {
-  return typeof o.getAttribute === "function" ? o.getAttribute(name) :
-    __corvex__natives.apply(Element.prototype.getAttribute, o, [name]);
-}
+// What is no element has none. Searches ask this of every candidate, and engines are quickest with the plain call.
+var __corvex__attributeOf = (function () {
+  var kept = __corvex__nativeFunction(window.Element && Element.prototype.getAttribute);
+  return function (o, name) {
+    return kept && o.getAttribute === kept ? o.getAttribute(name) : __corvex__askNode.Element.getAttribute(o, name);
+  };
+})();
 
 // By its shape: instanceof fails for a shadow root of another frame.
 function __corvex__isShadowRoot(node) {
@@ -60,6 +111,15 @@ function __corvex__isDocumentNode(elem) {
   // Old Internet Explorer has no such constant.
   var nodeType = __corvex__nodeReader.nodeType(elem);
   return nodeType === elem.DOCUMENT_NODE || nodeType === 9;
+}
+
+// A shadow root has only the selection by selectors.
+function __corvex__elementsByTag(container, tagName) {
+  if (__corvex__isShadowRoot(container)) {
+    return __corvex__askNode.DocumentFragment.querySelectorAll(container, tagName);
+  }
+  var ask = __corvex__isDocumentNode(container) ? __corvex__askNode.Document : __corvex__askNode.Element;
+  return ask.getElementsByTagName(container, tagName);
 }
 
 function __corvex__getDocumentForNode(node) {

@@ -60,7 +60,7 @@ function __corvex__hasClass(elem, className) {
 }
 
 function __corvex__getElementByClassName(context, className, tagName) {
-  var elements = context.getElementsByTagName(tagName);
+  var elements = __corvex__elementsByTag(context, tagName);
   for (var i = 0; i < elements.length; ++i) {
     if (__corvex__hasClass(elements[i], className)) {
       return elements[i];
@@ -70,7 +70,7 @@ function __corvex__getElementByClassName(context, className, tagName) {
 }
 
 function __corvex__getElementsByClassName(context, className, tagName) {
-  var elements = context.getElementsByTagName(tagName);
+  var elements = __corvex__elementsByTag(context, tagName);
   var matches = [];
   for (var i = 0; i < elements.length; ++i) {
     if (__corvex__hasClass(elements[i], className)) {

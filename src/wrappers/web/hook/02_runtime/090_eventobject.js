@@ -140,7 +140,7 @@ function __corvex__eventObject(o) {
   if (!o) {
     return o;
   }
-  if (__corvex__nodeReader.tagName(o) === "TD" && o.getAttribute("class") === "cMenuTD") {
+  if (__corvex__nodeReader.tagName(o) === "TD" && __corvex__attributeOf(o, "class") === "cMenuTD") {
     return o;
   }
   var hooks = window.__corvex__eventObject__hooks;

@@ -23,7 +23,7 @@ function __corvex__boxWithoutOffsets(elem) {
   if (!elem || elem.offsetLeft !== undefined || !elem.getBoundingClientRect) {
     return undefined;
   }
-  var bounds = elem.getBoundingClientRect();
+  var bounds = __corvex__askNode.Element.getBoundingClientRect(elem);
   var view = __corvex__nodeReader.ownerDocument(elem).defaultView;
   return {
     x: bounds.left + view.pageXOffset,

@@ -94,7 +94,7 @@ function __corvex__nameOfLink(o) {
   var name = "{tagName='A' " +
     __corvex__propsToNameStr(o, __corvex__optionallyIncludeIdPropertyInList(["name", "simplifiedInnerText"]));
   if (!o.name && !(__corvex__idsAreNamed() && o.id) && !__corvex__hasText(o)) {
-    var img = o.getElementsByTagName("IMG")[0];
+    var img = __corvex__elementsByTag(o, "IMG")[0];
     var imageText = img && __corvex__imageOfLink(img);
     if (!imageText) {
       return __corvex__qualifiedName(o);

@@ -12,7 +12,7 @@ function __corvex__nameAddContainerToName(name, o) {
   if (typeof ShadowRoot === "undefined" || name.charAt(0) !== "{" || !o.getRootNode) {
     return name;
   }
-  var root = o.getRootNode();
+  var root = __corvex__askNode.Node.getRootNode(o);
   if (!__corvex__isShadowRoot(root)) {
     return name;
   }

@@ -29,7 +29,7 @@ function __corvex__propertyNameOf(o, noUnify, forceMultiProp) {
   var name, link;
   if (__corvex__controlElements[tagName] === 1) {
     name = __corvex__nameOfInput(o);
-  } else if (tagName === "TD" && o.getAttribute("class") === "cMenuTD") {
+  } else if (tagName === "TD" && __corvex__attributeOf(o, "class") === "cMenuTD") {
     name = __corvex__nameOfCMenu(o);
   } else if (tagName === "IMG") {
     name = __corvex__nameOfImage(o);

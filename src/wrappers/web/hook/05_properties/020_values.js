@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.getPropertyValue and reservedJsKeywords: property values as the driver reads them.
-// Needs: browsers, input/objects.
+// Needs: runtime/nodes, browsers, input/objects.
 
 window.top.__corvex.reservedJsKeywords = [
   "break", "case", "catch", "continue", "debugger", "default", "delete", "do", "else", "finally", "for", "function",
@@ -60,7 +60,7 @@ function __corvex__propertyValue(obj, propName) {
   var value;
   try {
     if (__corvex__isReservedJsKeyword(propName)) {
-      value = obj.getAttribute(propName);
+      value = __corvex__attributeOf(obj, propName);
     } else {
       value = __corvex__readProperty(obj, propName);
     }

@@ -4,7 +4,7 @@
 function __corvex__nativeClientRect(elem) {
   if (__corvex__nodeReader.nodeType(elem) === 1 && __corvex__nodeReader.tagName(elem) === "A") {
     try {
-      var rects = elem.getClientRects();
+      var rects = __corvex__askNode.Element.getClientRects(elem);
       // The bounding rectangle of a wrapped link would be too large.
       if (rects.length > 1) {
         return rects[0];
@@ -14,7 +14,7 @@ function __corvex__nativeClientRect(elem) {
     }
   }
   try {
-    return elem.getBoundingClientRect();
+    return __corvex__askNode.Element.getBoundingClientRect(elem);
   } catch (e) {
     // A document has none.
     return null;

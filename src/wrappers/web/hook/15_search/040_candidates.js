@@ -10,18 +10,6 @@ function __corvex__formControls(form) {
   return __corvex__natives.apply(Object.getOwnPropertyDescriptor(HTMLFormElement.prototype, "elements").get, form, []);
 }
 
-// A shadow root has only the selection by selectors. A document or a form may hide the function behind an element.
-function __corvex__elementsByTag(container, tagName) {
-  if (typeof container.getElementsByTagName === "function") {
-    return container.getElementsByTagName(tagName);
-  }
-  if (__corvex__isShadowRoot(container)) {
-    return container.querySelectorAll(tagName);
-  }
-  var type = __corvex__isDocumentNode(container) ? Document : Element;
-  return __corvex__natives.apply(type.prototype.getElementsByTagName, container, [tagName]);
-}
-
 function __corvex__findFormInContainer(container, formName) {
   var forms = __corvex__elementsByTag(container, "FORM");
   for (var i = 0; i < forms.length; ++i) {
@@ -75,7 +63,7 @@ function __corvex__withShadowCandidates(candidates, container, tagName) {
     return candidates;
   }
   var all = [];
-  var inShadow = shadowRoot.querySelectorAll(tagName);
+  var inShadow = __corvex__elementsByTag(shadowRoot, tagName);
   for (var i = 0; i < candidates.length; ++i) {
     all.push(candidates[i]);
   }

@@ -1,5 +1,6 @@
 // Gives: __corvex__findObjectByProps, the search below one document or element, and how the hits count.
-// Needs: names/entry, matching, search/name, search/elementtest, search/candidates, search/hits, search/hittest.
+// Needs: runtime/nodes, names/entry, matching, search/name, search/elementtest, search/candidates, search/hits,
+//   search/hittest.
 
 function __corvex__isImageLink(map) {
   return __corvex__propMatches(map.tagName, "A") &&
@@ -20,7 +21,7 @@ function __corvex__imageMatches(img, map) {
 
 function __corvex__searchImageLinks(links, map, accept) {
   for (var i = 0; i < links.length; ++i) {
-    var img = links[i].getElementsByTagName("IMG")[0];
+    var img = __corvex__elementsByTag(links[i], "IMG")[0];
     if (img && __corvex__imageMatches(img, map) && accept(links[i])) {
       return links[i];
     }

@@ -1,5 +1,6 @@
 // Gives: why a name finds nothing: how many elements have its tag, and which of its properties none of them has.
-// Needs: runtime/framewalk, runtime/contexts, matching, search/name, search/candidates, search/properties.
+// Needs: runtime/nodes, runtime/framewalk, runtime/contexts, matching, search/name, search/candidates,
+//   search/properties.
 
 // What is wrong with a name, whatever there is in the page, as the fault of a record; undefined where nothing is.
 window.top.__corvex.faultOfName = function (nm) {
@@ -54,6 +55,17 @@ function __corvex__surveyContainer(container, nm, tagName, survey) {
   survey.most = Math.max(survey.most, __corvex__countHits(container, nm));
 }
 
+// What fails for another reason leaves nothing to tell of the container.
+function __corvex__surveyOne(container, nm, tagName, survey) {
+  try {
+    __corvex__surveyContainer(container, nm, tagName, survey);
+  } catch (e) {
+    if (!__corvex__failedReplacement.name) {
+      throw e;
+    }
+  }
+}
+
 function __corvex__surveyAsRecord(survey, map) {
   var record = { tag: String(map.tagName.value), count: survey.count, missing: [] };
   for (var k = 0; k < survey.matchers.length; ++k) {
@@ -61,6 +73,9 @@ function __corvex__surveyAsRecord(survey, map) {
       record.missing.push(survey.matchers[k].propName);
       record.error = record.error || survey.errors[k];
     }
+  }
+  if (__corvex__failedReplacement.name) {
+    record.replaced = __corvex__failedReplacement.name;
   }
   if (survey.most && __corvex__matchesToSkip(map) > 0) {
     record.most = survey.most;
@@ -70,8 +85,8 @@ function __corvex__surveyAsRecord(survey, map) {
 
 // A record of: context, the name of one that does not exist; or tag, count (elements of that tag below container, in the
 // context or in all documents), missing (the properties that none of these has), error (why one of these could not be
-// compared) and, if an occurrence asks for more, most (the hits there are to count). undefined for a name that has no
-// list of properties, or a fault.
+// compared), replaced (a function that the page put in place of the browser's, where it failed) and, if an occurrence asks
+// for more, most (the hits there are to count). undefined for a name that has no list of properties, or a fault.
 window.top.__corvex.explainFailedSearch = function (nm, container) {
   var map;
   try {
@@ -87,9 +102,10 @@ window.top.__corvex.explainFailedSearch = function (nm, container) {
     return { context: context };
   }
   var survey = __corvex__newSurvey(map, nm);
+  __corvex__failedReplacement.name = "";
   var only = container || (context && __corvex__findContext2(context).document);
   if (only) {
-    __corvex__surveyContainer(only, nm, map.tagName.value, survey);
+    __corvex__surveyOne(only, nm, map.tagName.value, survey);
   } else {
     __corvex__eachDocument(function (doc) {
       __corvex__surveyContainer(doc, nm, map.tagName.value, survey);

@@ -1,5 +1,5 @@
 // Gives: scrolling to an element, attributes, and the texts of the last dialogs.
-// Needs: runtime/state.
+// Needs: runtime/state, runtime/nodes.
 
 function __corvex__scrollTakesOptions() {
   var version = window.top.__corvex.browsermajorversion;
@@ -25,7 +25,7 @@ function __corvex__scrollToElement(e, top) {
 function __corvex__getObjectAttribute(obj, attrName) {
   try {
     if (obj && obj.getAttribute !== undefined) {
-      return obj.getAttribute(attrName);
+      return __corvex__attributeOf(obj, attrName);
     }
   } catch (e) {
     // No such attribute, then.
