@@ -10,6 +10,8 @@ QString HostServices::whyNotGoOn() const { return QString(); }
 
 QString HostServices::whyNotLookUp() const { return QString(); }
 
+QString HostServices::whyNotAsk(const SharedPtr<Object>&) const { return QString(); }
+
 QString HostServices::whyNotUse(const SharedPtr<Object>&) const { return QString(); }
 
 QString HostServices::whyNeverFound(const QString&) const { return QString(); }

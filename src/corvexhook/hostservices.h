@@ -24,6 +24,8 @@ public:
   virtual QString whyNotLookUp() const;
   /// Why an object can no longer be used.
   virtual QString whyNotUse(const SharedPtr<Object>& object) const;
+  /// Why the page of an object cannot be asked now.
+  virtual QString whyNotAsk(const SharedPtr<Object>& object) const;
   /// What is wrong with a real name that was not found, if it can never be found whatever there is.
   virtual QString whyNeverFound(const QString& name) const;
   /// Why a real name was not found.

@@ -9,9 +9,18 @@ namespace Corvex::Scripting {
 
 namespace {
 
+/// The present target, whose page can be asked.
+Target answeringTarget(const FunctionCall& call, const SharedPtr<Object>& argument) {
+  Target target = presentTarget(call, argument);
+  if (target.error.isEmpty()) {
+    target.error = Inspector::self()->hostServices().whyNotAsk(target.object);
+  }
+  return target;
+}
+
 /// The first argument, as an object that has a place in the tree.
 Target treeTarget(const FunctionCall& call) {
-  Target target = presentTarget(call, call.arguments[0]);
+  Target target = answeringTarget(call, call.arguments[0]);
   if (target.error.isEmpty()) {
     target.error = Inspector::self()->hostServices().whyNotUse(target.object);
   }
@@ -58,8 +67,8 @@ ObjectResult sameObject(const FunctionCall& call) {
   if (isNull(call.arguments[0]) || isNull(call.arguments[1])) {
     return outcome(inspector->wrapBool(isNull(call.arguments[0]) && isNull(call.arguments[1])));
   }
-  const Target first = presentTarget(call, call.arguments[0]);
-  const Target second = first.error.isEmpty() ? presentTarget(call, call.arguments[1]) : first;
+  const Target first = answeringTarget(call, call.arguments[0]);
+  const Target second = first.error.isEmpty() ? answeringTarget(call, call.arguments[1]) : first;
   return second.error.isEmpty()
              ? outcome(inspector->wrapBool(first.object->objectClass()->sameObjects(first.object, second.object)))
              : ObjectResult::failure(second.error);

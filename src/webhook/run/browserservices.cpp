@@ -20,6 +20,13 @@ QString BrowserServices::whyNotUse(const SharedPtr<Object>& object) const {
   return native && !native->hasValidReference() ? WebWrapper::deadObjectReferenceError() : QString();
 }
 
+QString BrowserServices::whyNotAsk(const SharedPtr<Object>& object) const {
+  const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(object);
+  // The window of a dead object may be gone, too.
+  return native && native->hasValidReference() ? m_control.whyNotAskPage(static_cast<Connection*>(native->component))
+                                               : QString();
+}
+
 QString BrowserServices::whyNeverFound(const QString& name) const {
   return whyNotLookUp().isEmpty() ? faultOfName(*m_control.windows()->current(), name) : QString();
 }

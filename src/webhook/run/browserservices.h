@@ -16,6 +16,7 @@ public:
   QString whyNotGoOn() const override;
   QString whyNotLookUp() const override;
   QString whyNotUse(const SharedPtr<Object>& object) const override;
+  QString whyNotAsk(const SharedPtr<Object>& object) const override;
   QString whyNeverFound(const QString& name) const override;
   QString whyNotFound(const QString& name) const override;
   FunctionCallResult<bool> isReady(const SharedPtr<Object>& object) const override;
