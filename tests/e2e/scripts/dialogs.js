@@ -12,6 +12,7 @@ var button = findObject(element("BUTTON", "alert"));
 var body = findObject("DOCUMENT.HTML1.BODY1");
 ask("alert");
 var SHOWN = "The page shows a dialog (alert: 'It's a \"text\" & more'). Answer it with closeAlert.";
+waitUntil(function () { return failureOf(function () { exists("{tagName='P'}"); }) === "Error: " + SHOWN; }, "it is open");
 verifyFails(function () { children(body); }, SHOWN);
 verifyFails(function () { parent(button); }, SHOWN);
 verifyFails(function () { objectName(button); }, SHOWN);
