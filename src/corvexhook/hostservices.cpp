@@ -8,7 +8,9 @@ HostServices::~HostServices() = default;
 
 QString HostServices::whyNotGoOn() const { return QString(); }
 
-QString HostServices::whyNotLookUp() const { return QString(); }
+QString HostServices::whyNotLookUp(const QString&) const { return QString(); }
+
+QString HostServices::whyNotAsk(const SharedPtr<Object>&) const { return QString(); }
 
 QString HostServices::whyNotUse(const SharedPtr<Object>&) const { return QString(); }
 

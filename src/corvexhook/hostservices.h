@@ -20,10 +20,12 @@ public:
 
   /// Why nothing can go on any more, whatever is waited for.
   virtual QString whyNotGoOn() const;
-  /// Why nothing can be looked up now.
-  virtual QString whyNotLookUp() const;
+  /// Why a real name cannot be looked up now.
+  virtual QString whyNotLookUp(const QString& name) const;
   /// Why an object can no longer be used.
   virtual QString whyNotUse(const SharedPtr<Object>& object) const;
+  /// Why the page of an object cannot be asked now.
+  virtual QString whyNotAsk(const SharedPtr<Object>& object) const;
   /// What is wrong with a real name that was not found, if it can never be found whatever there is.
   virtual QString whyNeverFound(const QString& name) const;
   /// Why a real name was not found.

@@ -135,9 +135,10 @@ QString Inspector::whyNotGoOn() const {
   return m_interruption && *m_interruption ? QStringLiteral("interrupted") : m_services->whyNotGoOn();
 }
 
-bool Inspector::reportWhyNotLookUp() {
+bool Inspector::reportWhyNotLookUp(const QString& name) {
   const QString end = whyNotGoOn();
-  const QString why = end.isEmpty() ? m_services->whyNotLookUp() : end;
+  const QString mapped = ObjectMap::self()->realName(name);
+  const QString why = end.isEmpty() ? m_services->whyNotLookUp(mapped.isEmpty() ? name : mapped) : end;
   if (!why.isEmpty()) {
     reportScriptError(why);
   }
@@ -171,7 +172,7 @@ bool Inspector::reportWhyNeverFound(const QString& realName) {
 }
 
 SharedPtr<Object> Inspector::lookup(const QString& name) {
-  const QString realName = reportWhyNotLookUp() ? QString() : usableName(name);
+  const QString realName = reportWhyNotLookUp(name) ? QString() : usableName(name);
   if (realName.isEmpty()) {
     return nullptr;
   }
@@ -196,7 +197,7 @@ SharedPtr<Object> Inspector::lookupOnce(const QString& realName) const {
 }
 
 ObjectList Inspector::lookupAll(const QString& name) {
-  const QString realName = reportWhyNotLookUp() ? QString() : usableName(name);
+  const QString realName = reportWhyNotLookUp(name) ? QString() : usableName(name);
   if (realName.isEmpty()) {
     return {};
   }
@@ -275,7 +276,7 @@ SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) 
   SharedPtr<Object> found;
   QString failure;
   const auto attempt = [&] {
-    found = reportWhyNotLookUp() ? SharedPtr<Object>() : lookupOnce(realName);
+    found = reportWhyNotLookUp(name) ? SharedPtr<Object>() : lookupOnce(realName);
     const QString lastFailure = std::exchange(failure, takeScriptError());
     isUsable = found && failure.isEmpty() && isReady(found);
     // A page that is being replaced fails once. What fails twice in a row is going to stay.

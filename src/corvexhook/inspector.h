@@ -92,7 +92,7 @@ protected:
 private:
   friend class HostServices;
 
-  bool reportWhyNotLookUp();
+  bool reportWhyNotLookUp(const QString& name);
   /// The real name; an empty text after a reported error.
   QString usableName(const QString& name);
   bool reportWhyNeverFound(const QString& realName);

@@ -9,9 +9,18 @@ namespace Corvex::Scripting {
 
 namespace {
 
+/// The present target, whose page can be asked.
+Target answeringTarget(const FunctionCall& call, const SharedPtr<Object>& argument) {
+  Target target = presentTarget(call, argument);
+  if (target.error.isEmpty()) {
+    target.error = Inspector::self()->hostServices().whyNotAsk(target.object);
+  }
+  return target;
+}
+
 /// The first argument, as an object that has a place in the tree.
 Target treeTarget(const FunctionCall& call) {
-  Target target = presentTarget(call, call.arguments[0]);
+  Target target = answeringTarget(call, call.arguments[0]);
   if (target.error.isEmpty()) {
     target.error = Inspector::self()->hostServices().whyNotUse(target.object);
   }
@@ -22,13 +31,19 @@ Target treeTarget(const FunctionCall& call) {
   return target;
 }
 
+/// What was asked of the page of that object. A dialog that opened meanwhile may have cut the answer short.
+ObjectResult answered(const SharedPtr<Object>& asked, const ObjectResult& result) {
+  const QString why = Inspector::self()->hostServices().whyNotAsk(asked);
+  return why.isEmpty() ? result : ObjectResult::failure(why);
+}
+
 ObjectResult children(const FunctionCall& call) {
   const Target target = treeTarget(call);
   if (!target.error.isEmpty()) {
     return ObjectResult::failure(target.error);
   }
   const ObjectList found = hierarchyDelegate(target.object)->children(target.object);
-  return outcome(ArrayClass::wrapObject({found.begin(), found.end()}));
+  return answered(target.object, outcome(ArrayClass::wrapObject({found.begin(), found.end()})));
 }
 
 ObjectResult parent(const FunctionCall& call) {
@@ -37,7 +52,7 @@ ObjectResult parent(const FunctionCall& call) {
     return ObjectResult::failure(target.error);
   }
   const SharedPtr<Object> found = hierarchyDelegate(target.object)->parent(target.object);
-  return outcome(found ? found : Inspector::self()->nullObject(target.object->objectClass()));
+  return answered(target.object, outcome(found ? found : Inspector::self()->nullObject(target.object->objectClass())));
 }
 
 ObjectResult objectName(const FunctionCall& call) {
@@ -46,9 +61,10 @@ ObjectResult objectName(const FunctionCall& call) {
     return ObjectResult::failure(target.error);
   }
   const QString name = hierarchyDelegate(target.object)->qualifiedName(target.object);
-  return name.isEmpty() ? ObjectResult::failure(QStringLiteral("objectName: the page gave no name for %1.")
-                                                    .arg(withArticle(target.object->objectClass()->name())))
-                        : outcome(Inspector::self()->wrapString(name));
+  const QString nameless = QStringLiteral("objectName: the page gave no name for %1.")
+                               .arg(withArticle(target.object->objectClass()->name()));
+  return answered(target.object,
+                  name.isEmpty() ? ObjectResult::failure(nameless) : outcome(Inspector::self()->wrapString(name)));
 }
 
 bool isNull(const SharedPtr<Object>& value) { return !value || value->isNull(); }
@@ -58,11 +74,13 @@ ObjectResult sameObject(const FunctionCall& call) {
   if (isNull(call.arguments[0]) || isNull(call.arguments[1])) {
     return outcome(inspector->wrapBool(isNull(call.arguments[0]) && isNull(call.arguments[1])));
   }
-  const Target first = presentTarget(call, call.arguments[0]);
-  const Target second = first.error.isEmpty() ? presentTarget(call, call.arguments[1]) : first;
-  return second.error.isEmpty()
-             ? outcome(inspector->wrapBool(first.object->objectClass()->sameObjects(first.object, second.object)))
-             : ObjectResult::failure(second.error);
+  const Target first = answeringTarget(call, call.arguments[0]);
+  const Target second = first.error.isEmpty() ? answeringTarget(call, call.arguments[1]) : first;
+  if (!second.error.isEmpty()) {
+    return ObjectResult::failure(second.error);
+  }
+  const bool isSame = first.object->objectClass()->sameObjects(first.object, second.object);
+  return answered(first.object, outcome(inspector->wrapBool(isSame)));
 }
 
 }  // namespace

@@ -57,6 +57,7 @@ void BrowserWindows::addPage(BrowserPage* page) {
   connect(page, &BrowserPage::navigated, this, &BrowserWindows::documentExpected);
   connect(page, &BrowserPage::closed, connection, [this, connection] { noteClosed(connection); });
   connection->setObstacle([this, connection] { return whyNotAsk(connection); });
+  connection->setDoubt([this, connection] { return mayBeHeld(connection); });
   connect(page, &BrowserPage::dialogOpened, this, [this, connection] {
     if (const std::optional<Dialog> dialog = connection->openDialog()) {
       Q_EMIT dialogOpened(*dialog);
@@ -117,6 +118,11 @@ QString BrowserWindows::dialogOfAnother(const Connection* connection) const {
 QString BrowserWindows::whatIsShown() const {
   const QString own = dialogOf(current(), QStringLiteral("page"));
   return own.isEmpty() ? dialogOfAnother(current()) : own;
+}
+
+bool BrowserWindows::mayBeHeld(const Connection* connection) const {
+  const bool holdsOthers = m_identity.family != BrowserIdentity::Firefox;
+  return connection->openDialog() || (holdsOthers && !dialogOfAnother(connection).isEmpty());
 }
 
 QString BrowserWindows::whyNotAsk(Connection* connection) const {

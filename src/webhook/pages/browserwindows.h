@@ -53,6 +53,7 @@ private:
   void noteClosed(Connection* connection);
   QString nameByAddress(const Connection* connection) const;
   QString dialogOf(Connection* connection, const QString& who) const;
+  bool mayBeHeld(const Connection* connection) const;
   QString dialogOfAnother(const Connection* connection) const;
 
   BrowserSession& m_session;

@@ -83,7 +83,7 @@ QString Connection::greetDocument() {
   // The document that answered may have been replaced while its answer was waited for.
   m_greeted = m_greeted && there;
   if (m_greeted && !m_contextName.isEmpty()) {
-    setContext(m_contextName);
+    applyContext();
   }
   return there ? QString() : answer.text;
 }
@@ -113,13 +113,18 @@ QString Connection::navigate(const QString& url, int timeoutMs) {
 
 bool Connection::setContext(const QString& name) {
   m_contextName = name;
-  const QString code = QStringLiteral("__corvex__setContext('%1')").arg(WebWrapper::escapeQuoteWithBackslash(name));
-  if (!openDialog() && evaluateJS(code, 0).text == QLatin1String("true")) {
+  if (!mayBeHeld() && applyContext()) {
     return true;
   }
-  const bool isHeld = openDialog().has_value();
-  m_greeted = m_greeted && !isHeld;
-  return isHeld;
+  const bool isLeftForLater = mayBeHeld();
+  m_greeted = m_greeted && !isLeftForLater;
+  return isLeftForLater;
+}
+
+bool Connection::applyContext() {
+  const QString code =
+      QStringLiteral("__corvex__setContext('%1')").arg(WebWrapper::escapeQuoteWithBackslash(m_contextName));
+  return evaluateJS(code, 0).text == QLatin1String("true");
 }
 
 QString Connection::close() { return m_page ? m_page->close() : QString(); }

@@ -35,13 +35,16 @@ public:
   QString address() const { return m_page ? m_page->url() : QString(); }
 
   /// Selects a context of this page, by its name inside the page; after a reload it is selected again. False where
-  /// there is none of that name: a window that gets the name later is then selected. A page that shows a dialog is told
-  /// when the dialog is answered.
+  /// there is none of that name: a window that gets the name later is then selected. A page that a dialog may hold is
+  /// told when it is asked next.
   bool setContext(const QString& name);
 
   /// `whyNotAsk` is asked before each question to the page and after one that got no answer. What it says, if anything,
   /// is the answer.
   void setObstacle(const std::function<QString()>& whyNotAsk) { m_whyNotAsk = whyNotAsk; }
+  /// `mayBeHeld` says, without asking the page, whether a dialog that is shown may keep it from answering.
+  void setDoubt(const std::function<bool()>& mayBeHeld) { m_mayBeHeld = mayBeHeld; }
+  bool mayBeHeld() const { return m_mayBeHeld(); }
 
   /// Whether a question to the page is under way.
   bool isBusy() const { return m_questions > 0; }
@@ -73,6 +76,7 @@ private:
   JavaScriptAnswer ask(const QString& code, unsigned int timeoutMs);
   /// Makes a document that was not asked anything yet ready for questions. Answers why it is not, or an empty text.
   QString greetDocument();
+  bool applyContext();
   /// Waits until the page's scripts stand still no more.
   void awaitScripts();
   QString upload(const QString& reference, const QString& path);
@@ -83,6 +87,7 @@ private:
   QString m_tabId;
   int m_documentsGone = 0;
   QString m_contextName;
+  std::function<bool()> m_mayBeHeld = [this] { return openDialog().has_value(); };
   std::function<QString()> m_whyNotAsk = [] { return QString(); };
   bool m_greeted = false;
   int m_document = 0;  ///< Counts the documents that were greeted; each knows its number.

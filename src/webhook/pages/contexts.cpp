@@ -5,6 +5,8 @@
 #include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/page/escaping.h"
 
+#include <algorithm>
+
 namespace Corvex::Webhook {
 
 namespace {
@@ -25,13 +27,17 @@ QString join(const QStringList& names) {
 
 }  // namespace
 
-QVector<Context> allContexts(const BrowserWindows& windows) {
+QVector<Context> allContexts(const BrowserWindows& windows, const QString& wanted) {
   QVector<Context> contexts;
   NameCount count;
   for (Connection* connection : windows.connections()) {
-    const QStringList names = namesOf(connection);
+    const bool isInDoubt = connection->mayBeHeld();
+    QStringList names = isInDoubt ? QStringList(pageOfAddress(connection->address())) : namesOf(connection);
     // It may have closed instead of answering.
     const QString suffix = connection->isOpen() ? count.nextSuffix(names.first()) : QString();
+    if (isInDoubt && wanted != names.first() + suffix && wanted == names.first() + suffix + framesOf(wanted)) {
+      names = namesOf(connection);
+    }
     for (const QString& name : connection->isOpen() ? names : QStringList()) {
       const QString frames = framesOf(name);
       contexts.append({name.left(name.size() - frames.size()) + suffix + frames, connection, name});
@@ -40,10 +46,14 @@ QVector<Context> allContexts(const BrowserWindows& windows) {
   return contexts;
 }
 
-bool hasContext(const BrowserWindows& windows, const QString& name) { return contextNames(windows).contains(name); }
+bool hasContext(const BrowserWindows& windows, const QString& name) {
+  const QVector<Context> contexts = allContexts(windows, name);
+  return std::any_of(contexts.begin(), contexts.end(),
+                     [&name](const Context& context) { return context.name == name; });
+}
 
 QString selectContext(BrowserWindows& windows, const QString& name) {
-  for (const Context& context : allContexts(windows)) {
+  for (const Context& context : allContexts(windows, name)) {
     // A window may have closed while later ones were asked.
     if (context.name != name || !context.connection->isOpen()) {
       continue;

@@ -18,9 +18,10 @@ struct Context {
 };
 
 /// All contexts of all pages: each window's document, and after it its frames. Where two pages have the same name, the
-/// second and later ones have "<2>" and so on after the page's part of the name. Of a page that does not answer, as
-/// one that shows a dialog, only the window is known.
-QVector<Context> allContexts(const BrowserWindows& windows);
+/// second and later ones have "<2>" and so on after the page's part of the name. Of a page that shows a dialog,
+/// or may be held by that of another window, only the window is known; but one that may be held is asked for its frames
+/// where `wanted` is the name of one.
+QVector<Context> allContexts(const BrowserWindows& windows, const QString& wanted = {});
 
 /// Whether there is a context of that name now.
 bool hasContext(const BrowserWindows& windows, const QString& name);

@@ -121,9 +121,8 @@ Connection* Dialogs::showing(const QString& kind) const {
 
 QString Dialogs::lastPromptDefault() const { return lastText(QLatin1String(promptDefault)); }
 
-QString Dialogs::whyNotAskPage() const {
-  Connection* const current = m_windows.current();
-  const QString why = current ? m_windows.whyNotAsk(current) : QString();
+QString Dialogs::whyNotAskPage(Connection& window) const {
+  const QString why = m_windows.whyNotAsk(&window);
   return why.isEmpty() ? whatIsWaitedFor() : why;
 }
 

@@ -40,8 +40,8 @@ public:
   /// What the field of the last prompt held at first.
   QString lastPromptDefault() const;
 
-  /// The sentence for calls that an open dialog blocks; empty when the current window can be asked.
-  QString whyNotAskPage() const;
+  /// The sentence for calls that an open dialog blocks; empty when the window can be asked.
+  QString whyNotAskPage(Connection& window) const;
 
 private:
   /// A page that stands still until the driver answers.

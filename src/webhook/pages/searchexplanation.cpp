@@ -142,6 +142,12 @@ SharedPtr<Object> lookUpContainer(const ObjectName& name) {
   return found;
 }
 
+QString contextOfPath(const QString& path) {
+  const QString first = path.section(QLatin1Char('.'), 0, 0);
+  QString context = first.section(QLatin1Char('['), 1).section(QLatin1Char(']'), 0, 0);
+  return context.replace(QLatin1Char('|'), QLatin1Char('.'));
+}
+
 /// For a name that is a place in the tree: the first step that leads nowhere.
 QString explainPath(const QString& name) {
   const QStringList steps = name.split(QLatin1Char('.'));
@@ -150,8 +156,8 @@ QString explainPath(const QString& name) {
   }
   QString path = steps.first();
   if (!lookUp(path)) {
-    const QString context = path.section(QLatin1Char('['), 1).section(QLatin1Char(']'), 0, 0);
-    return context.isEmpty() ? QString() : missingContext(QString(context).replace(QLatin1Char('|'), QLatin1Char('.')));
+    const QString context = contextOfPath(path);
+    return context.isEmpty() ? QString() : missingContext(context);
   }
   for (const QString& step : steps.mid(1)) {
     const QString parent = std::exchange(path, path + QLatin1Char('.') + step);
@@ -246,6 +252,17 @@ QString explainFailedSearch(BrowserWindows& windows, const QString& name) {
   }
   const PlacedName placed = placeName(windows, searched, last);
   return explainFailedStep(*placed.page, last, placed.name, reference);
+}
+
+Connection* windowMeant(const BrowserWindows& windows, const QString& name) {
+  if (windows.whatIsShown().isEmpty()) {
+    return nullptr;
+  }
+  const QString context =
+      name.startsWith(treeRoot)
+          ? contextOfPath(name)
+          : WebWrapper::splitByContainer(ObjectName(name)).front().property(contextProperty).value();
+  return context.isEmpty() ? nullptr : WindowNames(windows.connections()).windowOf(context);
 }
 
 QString faultOfName(WebWrapper::HTMLComponent& page, const QString& name) {

@@ -11,6 +11,9 @@ namespace Corvex::Webhook {
 namespace {
 
 QString pageOf(Connection& window) {
+  if (window.mayBeHeld()) {
+    return pageOfAddress(window.address());
+  }
   const WebWrapper::JavaScriptAnswer answer = window.evaluateJS(QStringLiteral("__corvex__contextOf(window, true)"), 0);
   return answer.succeeded() ? answer.text : pageOfAddress(window.address());
 }

@@ -30,7 +30,7 @@ private:
 /// window has no other names than its page gives, for itself and for windows that it carries.
 class WindowNames {
 public:
-  /// Oldest first. Asks each page; one that does not answer is known by its address.
+  /// Oldest first. Asks each page; one that a dialog may hold is known by its address.
   explicit WindowNames(const QVector<Connection*>& windows);
 
   /// The window of a context; null for a name that none has.

@@ -105,13 +105,14 @@ QString BrowserControl::whyNoWindow() const {
                               : QStringLiteral("The browser window is closed. Call startBrowser(url) to open another.");
 }
 
-QString BrowserControl::whyNotAskPage() const {
+QString BrowserControl::whyNotAskPage(Connection* window) const {
   const QString noWindow = whyNoWindow();
   if (!noWindow.isEmpty()) {
     return noWindow;
   }
-  const QString dialog = m_dialogs->whyNotAskPage();
-  const BrowserPage* const page = m_windows->current()->page();
+  Connection* const asked = window ? window : m_windows->current();
+  const QString dialog = m_dialogs->whyNotAskPage(*asked);
+  const BrowserPage* const page = asked->page();
   return dialog.isEmpty() && page ? page->whyUnavailable() : dialog;
 }
 

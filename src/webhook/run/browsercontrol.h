@@ -38,7 +38,8 @@ public:
   // Sentences that are empty when all is well.
   QString whyLost() const;
   QString whyNoWindow() const;
-  QString whyNotAskPage() const;
+  /// Of the current window, or of another one.
+  QString whyNotAskPage(Connection* window = nullptr) const;
   /// Whether, at any time, a browser could not be started or was lost.
   bool hadBrowserFailure() const { return m_browserFailure; }
 

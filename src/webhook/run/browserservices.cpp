@@ -10,9 +10,10 @@ namespace Corvex::Webhook {
 
 QString BrowserServices::whyNotGoOn() const { return m_control.whyLost(); }
 
-QString BrowserServices::whyNotLookUp() const {
+QString BrowserServices::whyNotLookUp(const QString& name) const {
   m_control.finishLoad();
-  return m_control.whyNotAskPage();
+  const BrowserWindows* const windows = m_control.windows();
+  return m_control.whyNotAskPage(windows ? windowMeant(*windows, name) : nullptr);
 }
 
 QString BrowserServices::whyNotUse(const SharedPtr<Object>& object) const {
@@ -20,12 +21,19 @@ QString BrowserServices::whyNotUse(const SharedPtr<Object>& object) const {
   return native && !native->hasValidReference() ? WebWrapper::deadObjectReferenceError() : QString();
 }
 
+QString BrowserServices::whyNotAsk(const SharedPtr<Object>& object) const {
+  const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(object);
+  // The window of a dead object may be gone, too.
+  return native && native->hasValidReference() ? m_control.whyNotAskPage(static_cast<Connection*>(native->component))
+                                               : QString();
+}
+
 QString BrowserServices::whyNeverFound(const QString& name) const {
-  return whyNotLookUp().isEmpty() ? faultOfName(*m_control.windows()->current(), name) : QString();
+  return whyNotLookUp(name).isEmpty() ? faultOfName(*m_control.windows()->current(), name) : QString();
 }
 
 QString BrowserServices::whyNotFound(const QString& name) const {
-  return whyNotLookUp().isEmpty() ? explainFailedSearch(*m_control.windows(), name) : QString();
+  return whyNotLookUp(name).isEmpty() ? explainFailedSearch(*m_control.windows(), name) : QString();
 }
 
 FunctionCallResult<bool> BrowserServices::isReady(const SharedPtr<Object>& object) const {

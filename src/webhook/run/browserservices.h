@@ -14,8 +14,9 @@ public:
   BrowserServices(BrowserControl& control, WebModel& model) : m_control(control), m_model(model) {}
 
   QString whyNotGoOn() const override;
-  QString whyNotLookUp() const override;
+  QString whyNotLookUp(const QString& name) const override;
   QString whyNotUse(const SharedPtr<Object>& object) const override;
+  QString whyNotAsk(const SharedPtr<Object>& object) const override;
   QString whyNeverFound(const QString& name) const override;
   QString whyNotFound(const QString& name) const override;
   FunctionCallResult<bool> isReady(const SharedPtr<Object>& object) const override;

@@ -23,7 +23,23 @@ setContext("popup.html");
 clickButton(element("BUTTON", "alert"));
 pause(0.5);
 // Pages that opened one another share a process. Chromium holds it as a whole.
-var sentence = failureOf(function () { setContext("windows.html"); where(); });
+var start = Date.now();
+setContext("windows.html");
+test.compare(windows().join(" "), "windows.html popup.html");
+test.verify(Date.now() - start < 1500, "what needs no page does not wait for one");
+var sentence = failureOf(where);
+test.compare(sentence, BROWSER === "firefox" ? "" : "Error: " + ALERT);
+// A name with a context depends on the window of that context only, whichever is the current one.
+var OWN = ALERT.replace("window 'popup.html'", "page");
+var inPopup = "{tagName='P' id='where' context='popup.html'}";
+[exists, findAllObjects, findObject, waitForObject].forEach(function (call) {
+  verifyFails(function () { call(inPopup); }, OWN);
+});
+verifyFails(function () { findObject("{tagName='P' container={tagName='BODY' context='popup.html.FRAME1'}}"); }, OWN);
+verifyFails(function () { findObject("DOCUMENT[popup|html].HTML1"); }, OWN);
+setContext("popup.html");
+verifyFails(where, "The page shows a dialog");
+sentence = failureOf(function () { findObject("{tagName='P' id='where' context='windows.html'}"); });
 test.compare(sentence, BROWSER === "firefox" ? "" : "Error: " + ALERT);
 test.compare(windows().join(" "), "windows.html popup.html");
 closeAlert();

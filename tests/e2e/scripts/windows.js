@@ -11,6 +11,8 @@ typeText("{tagName='INPUT' name='field'}", "typed");
 test.compare(findObject("{tagName='INPUT' name='field'}").value, "typed");
 
 setContext("windows.html");
+mouseClick(element("BUTTON", "mark"));
+test.compare(where(), "marked", "a click in the background has its effect when it returns");
 clickButton(element("BUTTON", "open"));
 waitForContextExists("popup.html<2>");
 test.compare(windows().join(" "), "windows.html popup.html popup.html<2>", "oldest first");
@@ -24,6 +26,6 @@ setContext("popup.html");
 test.compare(where(), "open", "the second one got the name of the first");
 closeWindow();
 test.compare(windows().join(" "), "windows.html");
-test.compare(where(), "opener", "the context is the window that is left");
+test.compare(where(), "marked", "the context is the window that is left");
 closeWindow();
 verifyFails(function () { windows(); }, "The browser window is closed.");
