@@ -46,7 +46,7 @@ public:
   Services() { Inspector::self()->setHostServices(this); }
   ~Services() override { Inspector::self()->setHostServices(nullptr); }
 
-  QString whyNotLookUp() const override { return noLookup; }
+  QString whyNotLookUp(const QString&) const override { return noLookup; }
   QString whyNeverFound(const QString& name) const override {
     ++timesAsked;
     return name.contains(text("bad")) ? text("it is bad") : QString();

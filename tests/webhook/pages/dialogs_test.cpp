@@ -45,7 +45,7 @@ TEST_F(DialogsInPages, APageThatWaitsIsToldTheAnswer) {
   EXPECT_EQ(dialogs.closeAlert(1000),
             QString("No alert opened within 1000 ms. The page shows a dialog (confirm: 'Sure?'). Answer it with "
                     "closeConfirm."));
-  EXPECT_EQ(dialogs.whyNotAskPage(),
+  EXPECT_EQ(dialogs.whyNotAskPage(browser.connection()),
             QString("The page shows a dialog (confirm: 'Sure?'). Answer it with closeConfirm."));
   EXPECT_EQ(dialogs.closeConfirm(true, 5000), QString());
   EXPECT_EQ(answer("true"), QString("true"));
@@ -56,7 +56,7 @@ TEST_F(DialogsInPages, APageThatWaitsIsToldTheAnswer) {
   run("prompt('Name?')");
   EXPECT_EQ(dialogs.closePrompt(QString(), 5000), QString());
   EXPECT_EQ(answer("null"), QString("null"));
-  EXPECT_EQ(dialogs.whyNotAskPage(), QString());
+  EXPECT_EQ(dialogs.whyNotAskPage(browser.connection()), QString());
 }
 
 TEST_F(DialogsInPages, ASwallowedAlertIsGoneWithItsPage) {
