@@ -3,7 +3,7 @@
 #include "corvexhook/inspector.h"
 #include "corvexhook/objectmap.h"
 #include "corvexhook/objectname.h"
-#include "scripting/scriptfile.h"
+#include "scripting/engine/scriptfiles.h"
 #include "shared/settings.h"
 #include "support/fakecomponent.h"
 #include "webhook/backends/bidi/webdriver.h"
