@@ -133,7 +133,8 @@ void readRequest(const QByteArray& input) {
   const auto list = [&lines](int from) { return lines.mid(from, 2); };
   Webhook::EndpointPolicy policy;
   policy.setAllowedOrigins({QStringLiteral("http://localhost:8080")});
-  policy.judge({lines.value(0), lines.value(1), list(2), list(3), list(4), list(5), list(6)}, "127.0.0.1:1", 1000);
+  policy.judge({lines.value(0), lines.value(1), list(2), list(3), list(4), list(5), list(6)},
+               {"127.0.0.1:1", "/secret/"}, 1000);
 }
 
 template <typename Read>
@@ -183,7 +184,8 @@ void readScript(const QByteArray& input) {
   Scripting::ScriptFiles files(path);
   const FunctionCallResult<QString> script = files.read(path);
   require(script.failed() || !script.value.contains(QChar(0)), "a script has no NUL");
-  files.locationOf(text(input));
+  files.traceOf(text(input));
+  files.callsMember(text(input), QStringLiteral("click"));
   const QString global = Webhook::withGlobalDeclarations(text(input));
   require(global.count(QLatin1Char('\n')) == text(input).count(QLatin1Char('\n')), "lines keep their numbers");
 }
