@@ -17,7 +17,7 @@ verifyFails(function () { items.snapshotItem(3); }, "No XPath result item at ind
 test.compare(red.evaluateXPath("count(//LI)").numberValue, 3);
 test.compare(red.evaluateXPath("string(//LI[2])").stringValue, "two");
 test.compare(red.evaluateXPath("boolean(//EM)").booleanValue, false);
-verifyFails(function () { red.evaluateXPath("//LI["); }, "XPath");
+verifyFails(function () { red.evaluateXPath("//LI["); }, "Error evaluating xpath '//LI[': Error: The XPath expression");
 
 var shop = retrieveJSObject("shop");
 test.compare(shop.property("name"), 'the "shop"');
