@@ -13,7 +13,10 @@ namespace {
 
 using ObjectResult = FunctionCallResult<HTML_Object*>;
 
-const ExceptionForm retrievalForm = {" at ", ":", ". ", "Stacktrace: "};
+// Throws for a list or an object.
+QString text(const Json::Value& value) { return QString::fromStdString(value.asString()); }
+
+const ExceptionForm retrievalForm = {text, " at ", ":", ". ", "Stacktrace: "};
 
 const char* const retrieveTemplate =
     "(function() {\n"
@@ -27,8 +30,6 @@ const char* const retrieveTemplate =
     "%2"
     "  }\n"
     "})();";
-
-QString text(const Json::Value& value) { return QString::fromStdString(value.asString()); }
 
 /// The conversions of values throw where the page sends something of another kind.
 ObjectResult objectFromAnswer(HTMLComponent* component, const Json::Value& root, const QString& raw,

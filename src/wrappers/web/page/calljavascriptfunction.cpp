@@ -10,7 +10,7 @@ namespace {
 
 using JsonResult = FunctionCallResult<Json::Value>;
 
-const ExceptionForm callForm = {" at ", ": ", ".", " Stacktrace: "};
+const ExceptionForm callForm = {jsonText, " at ", ": ", ".", " Stacktrace: "};
 
 QString displayForm(const QString& expression) {
   return expression.size() < 100 ? expression : expression.left(50) + QLatin1String("...") + expression.right(50);

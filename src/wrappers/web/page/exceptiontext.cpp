@@ -1,7 +1,5 @@
 #include "wrappers/web/page/exceptiontext.h"
 
-#include "wrappers/web/page/jsonanswer.h"
-
 namespace Corvex::WebWrapper {
 
 const char* const catchAsError =
@@ -10,8 +8,8 @@ const char* const catchAsError =
     "'line': e['lineNumber'], 'stack': e['stack']}});";
 
 QString exceptionText(const Json::Value& e, const ExceptionForm& form) {
-  const auto part = [&e](const char* before, const char* member) {
-    return QLatin1String(before) + jsonText(e.get(member, Json::Value()));
+  const auto part = [&](const char* before, const char* member) {
+    return QLatin1String(before) + form.textOf(e.get(member, Json::Value()));
   };
   QString text = part("", "name") + part(": ", "message");
   if (e.isMember("file")) {

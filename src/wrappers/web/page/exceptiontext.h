@@ -10,8 +10,9 @@ namespace Corvex::WebWrapper {
 /// exceptionText() reads it.
 extern const char* const catchAsError;
 
-/// What stands between the parts of an exception's text.
+/// What stands between the parts of an exception's text, and how a part becomes text.
 struct ExceptionForm {
+  QString (*textOf)(const Json::Value& part);
   const char* beforeFile;
   const char* beforeLine;
   const char* afterPlace;

@@ -84,6 +84,11 @@ TEST_F(References, AnExpressionGivesAnObject) {
 
 TEST_F(References, RetrievalFailuresSayWhatHappened) {
   EXPECT_EQ(retrievalError(R"({"refName":null,"type":"[unknown]"})"), QString());
+  for (const char* inconvertible : {R"({"error":{"name":[1],"message":"m"}})", R"({"error":"m"})"}) {
+    EXPECT_TRUE(retrievalError(inconvertible)
+                    .startsWith(QStringLiteral("Failed to parse JSON return value '%1': ").arg(inconvertible)))
+        << inconvertible;
+  }
   EXPECT_EQ(retrievalError("[1]"),
             QString("Failed to parse JSON return value '[1]': expected an object, got 6 instead."));
   EXPECT_TRUE(retrievalError("<").startsWith("Failed to parse JSON return value '<':* Line 1"));
