@@ -3,7 +3,7 @@
 // all of the element. Needs: the hook script.
 (function () {
   function boxOf(e) {
-    var box = window.Element.prototype.getBoundingClientRect.call(e);
+    var box = __corvex__askNode.Element.getBoundingClientRect(e);
     return { left: box.left, top: box.top, right: box.right, bottom: box.bottom };
   }
 
