@@ -22,6 +22,8 @@ struct ScriptFunction {
   /// arrives. A result of null is undefined in the script.
   std::function<FunctionCallResult<SharedPtr<Object>>(const ObjectList&)> call;
   bool takesNull = false;
+  /// Whether the standard function of this name is to run in its place for these arguments; never without it.
+  std::function<bool(const ObjectList&)> yields = {};
 };
 
 /// What the process that embeds the engine offers to scripts.

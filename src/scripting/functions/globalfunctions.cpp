@@ -53,7 +53,16 @@ void GlobalFunctions::add(const ScriptFunction& function) {
   if (!m_names.contains(function.name)) {
     m_names << function.name;
   }
+  const auto standing = m_functions.constFind(function.name);
+  if (standing != m_functions.constEnd()) {
+    m_replaced.insert(function.name, *standing);
+  }
   m_functions.insert(function.name, function);
+}
+
+const ScriptFunction& GlobalFunctions::functionFor(const ScriptFunction& function, const ObjectList& arguments) const {
+  const auto replaced = m_replaced.constFind(function.name);
+  return function.yields && replaced != m_replaced.constEnd() && function.yields(arguments) ? *replaced : function;
 }
 
 ObjectResult GlobalFunctions::call(const QString& name, const ObjectList& arguments) const {
@@ -66,7 +75,7 @@ ObjectResult GlobalFunctions::call(const QString& name, const ObjectList& argume
   if (!error.isEmpty()) {
     return ObjectResult::failure(error);
   }
-  const ObjectResult result = found->call(arguments);
+  const ObjectResult result = functionFor(*found, arguments).call(arguments);
   const QString reported = Inspector::self()->takeScriptError();
   return result.failed() || reported.isEmpty() ? result : ObjectResult::failure(reported);
 }

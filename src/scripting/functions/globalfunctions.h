@@ -27,10 +27,12 @@ public:
 
 private:
   void add(const ScriptFunction& function);
+  const ScriptFunction& functionFor(const ScriptFunction& function, const ObjectList& arguments) const;
 
   FunctionContext m_context;
   QStringList m_names;
   QHash<QString, ScriptFunction> m_functions;
+  QHash<QString, ScriptFunction> m_replaced;
 };
 
 }  // namespace Corvex::Scripting

@@ -3,6 +3,7 @@
 #include "shared/functioncallresult.h"
 #include "shared/javascriptanswer.h"
 #include "webhook/protocol/dialog.h"
+#include "webhook/protocol/inputstep.h"
 
 #include <QImage>
 #include <QObject>
@@ -45,6 +46,10 @@ public:
 
   /// Puts files into the file input that `referenceExpression` names; the page gets the events of a user's choice.
   virtual QString setFiles(const QString& referenceExpression, const QStringList& paths) = 0;
+
+  /// Gives the browser input as a person at the machine would, in the order of the steps, and waits until the page has
+  /// taken it. What the input leads to is no error: a dialog, another document, the page's end.
+  virtual QString perform(const InputSteps& steps) = 0;
 
   virtual std::optional<Dialog> openDialog() const = 0;
 

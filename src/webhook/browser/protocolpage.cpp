@@ -78,6 +78,19 @@ QString ProtocolPage::setFiles(const QString& referenceExpression, const QString
   return putFiles(call, referenceExpression, fullPaths);
 }
 
+QString ProtocolPage::perform(const InputSteps& steps) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return obstacle;
+  }
+  PageCall call = makeCall(0);
+  const QPointer<ProtocolPage> self(this);
+  const QString error = giveInput(call, steps);
+  const bool isOutcome = error == PageErrors::pageReplaced() || error == PageErrors::pageClosed() ||
+                         (self && (m_dialog || (!m_whyClosed.isEmpty() && error == m_whyClosed)));
+  return isOutcome ? QString() : error;
+}
+
 QString ProtocolPage::answerDialog(bool accept, const QString& text) {
   if (!m_whyClosed.isEmpty()) {
     return m_whyClosed;

@@ -21,6 +21,7 @@ public:
 
   QString navigate(const QString& url, int timeoutMs) override;
   QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
+  QString perform(const InputSteps& steps) override;
   std::optional<Dialog> openDialog() const override { return m_dialog; }
   QString answerDialog(bool accept, const QString& text) override;
   QString close() override;
@@ -44,6 +45,7 @@ protected:
   /// Otherwise the paths are those of the browser's machine, and only the browser can look at them.
   virtual bool takesFilesOfThisMachine() const { return true; }
   virtual QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) = 0;
+  virtual QString giveInput(PageCall& call, const InputSteps& steps) = 0;
   virtual Command dialogAnswer(bool accept, const QString& text) const = 0;
   virtual Command closing() const = 0;
   virtual void prepareClosing(PageCall&) {}

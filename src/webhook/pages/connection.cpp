@@ -127,6 +127,17 @@ bool Connection::applyContext() {
   return evaluateJS(code, 0).text == QLatin1String("true");
 }
 
+QString Connection::perform(const InputSteps& steps) {
+  const QString obstacle = m_whyNotAsk();
+  if (!m_page || !obstacle.isEmpty()) {
+    return m_page ? obstacle : closedPage();
+  }
+  ++m_questions;
+  const QString error = m_page->perform(steps);
+  --m_questions;
+  return error;
+}
+
 QString Connection::close() { return m_page ? m_page->close() : QString(); }
 
 bool Connection::isOpen() const { return m_page && m_page->isOpen(); }

@@ -30,6 +30,8 @@ public:
   /// Closes the page.
   QString close();
   bool isOpen() const;
+  /// See `BrowserPage::perform`.
+  QString perform(const InputSteps& steps);
   BrowserPage* page() const { return m_page; }
   /// Of the document that the page shows, also while the page cannot be asked.
   QString address() const { return m_page ? m_page->url() : QString(); }

@@ -175,6 +175,8 @@ Command listPages() { return command("browsingContext.getTree"); }
 
 Command createPage() { return command("browsingContext.create", {{QStringLiteral("type"), QStringLiteral("tab")}}); }
 
+Command activatePage(const QString& page) { return ofPage("browsingContext.activate", page); }
+
 Command closePage(const QString& page) { return ofPage("browsingContext.close", page); }
 
 BrowserInfo readBrowser(const QJsonObject& capabilities) {

@@ -23,6 +23,8 @@ Command watchPages();
 Command listPages();
 Command createPage();
 Command closePage(const QString& page);
+/// Gives the page the focus that the window in front has.
+Command activatePage(const QString& page);
 
 struct BrowserInfo {
   QString name;

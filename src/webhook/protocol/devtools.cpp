@@ -118,7 +118,10 @@ Target readTarget(const QJsonObject& attached) {
 
 QVector<Command> watchPage() {
   return {command("Page.enable"), command("Page.setLifecycleEventsEnabled", {{QStringLiteral("enabled"), true}}),
-          command("Inspector.enable"), startScript(StartScript::frameGuard())};
+          command("Inspector.enable"),
+          // A page that nobody looks at takes input as the one that is in front.
+          command("Emulation.setFocusEmulationEnabled", {{QStringLiteral("enabled"), true}}),
+          startScript(StartScript::frameGuard())};
 }
 
 Command resumePage() { return command("Runtime.runIfWaitingForDebugger"); }

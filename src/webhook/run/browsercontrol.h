@@ -43,6 +43,13 @@ public:
   /// Whether, at any time, a browser could not be started or was lost.
   bool hadBrowserFailure() const { return m_browserFailure; }
 
+  /// Whether clicks and texts are made in the page, and not by the browser.
+  bool wantsPageInput() const { return m_wantsPageInput; }
+  void setPageInput(bool isWanted) { m_wantsPageInput = isWanted; }
+  /// Whether a name that fits several objects is none to act on.
+  bool wantsStrictNames() const { return m_wantsStrictNames; }
+  void setStrictNames(bool isWanted) { m_wantsStrictNames = isWanted; }
+
   /// A path as the running script means it: relative to its own folder.
   QString resolvePath(const QString& path) const;
 
@@ -66,6 +73,8 @@ private:
   QString m_lossReason;
   bool m_browserFailure = false;
   bool m_loadIsHeld = false;
+  bool m_wantsPageInput = false;
+  bool m_wantsStrictNames = false;
 };
 
 }  // namespace Corvex::Webhook

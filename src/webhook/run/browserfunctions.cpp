@@ -7,6 +7,7 @@
 #include "shared/wait.h"
 #include "webhook/pages/contexts.h"
 #include "webhook/run/browsercontrol.h"
+#include "webhook/run/inputfunctions.h"
 #include "webhook/run/pictures.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 #include "wrappers/web/values/jsobject.h"
@@ -159,6 +160,9 @@ Scripting::ScriptHost browserFunctions(BrowserControl& control) {
     host.functions.push_back(
         {QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments, row.maxArguments,
          [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }, row.takesNull});
+  }
+  for (const Scripting::ScriptFunction& function : inputFunctions(control)) {
+    host.functions.push_back(function);
   }
   return host;
 }

@@ -1,6 +1,10 @@
 #include "webhook/backends/bidi/bidievaluation.h"
 
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/inpagetext.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
 
 namespace Corvex::Webhook {
 
@@ -105,6 +109,13 @@ JavaScriptAnswer evaluateInPage(PageCall& call, const PlaceNow& placeNow, const 
   }
   const Bidi::Outcome text = Bidi::readOutcome(textReply.result);
   return {text.text, text.thrown, false};
+}
+
+QString insertText(PageCall& call, const PlaceNow& placeNow, const QString& text) {
+  const QJsonDocument texts(QJsonArray{text});
+  const QString code = inPageText("inserttext.js").arg(QString::fromUtf8(texts.toJson(QJsonDocument::Compact)));
+  const JavaScriptAnswer answer = evaluateInPage(call, placeNow, code);
+  return answer.succeeded() ? QString() : answer.text;
 }
 
 QString putFilesInto(PageCall& call, const QString& page, const PlaceNow& placeNow, const QString& referenceExpression,

@@ -16,6 +16,9 @@ using PlaceNow = std::function<FunctionCallResult<Bidi::Place>(PageCall& call)>;
 /// object. Where the document went before the code came to it, the next one gets the code.
 JavaScriptAnswer evaluateInPage(PageCall& call, const PlaceNow& placeNow, const QString& code);
 
+/// Puts a text at the caret, in place of what is selected. Returns the error, or "".
+QString insertText(PageCall& call, const PlaceNow& placeNow, const QString& text);
+
 /// Puts files into the file input of the page, or of one of its frames, that the expression gives. Returns the error,
 /// or "".
 QString putFilesInto(PageCall& call, const QString& page, const PlaceNow& placeNow, const QString& referenceExpression,

@@ -3,6 +3,7 @@
 #include "webhook/backends/bidi/bidievaluation.h"
 #include "webhook/backends/bidi/bidisession.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/bidiinput.h"
 #include "webhook/protocol/devtools.h"
 #include "webhook/protocol/startscript.h"
 
@@ -150,6 +151,31 @@ bool BidiPage::takesFilesOfThisMachine() const { return m_bidiSession.browserPro
 
 QString BidiPage::putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) {
   return putFilesInto(call, m_context, placeNow(), referenceExpression, paths);
+}
+
+QString BidiPage::giveInput(PageCall& call, const InputSteps& steps) {
+  const QPointer<BidiPage> self(this);
+  const QString context = m_context;
+  m_bidiSession.bringToFront(context);
+  InputSteps actions;
+  QString error;
+  const auto giveActions = [&] {
+    if (error.isEmpty() && !actions.isEmpty()) {
+      error = call.errorOf(call.ask(Bidi::performActions(context, std::exchange(actions, {}))));
+    }
+  };
+  for (const InputStep& step : steps) {
+    if (step.kind != InputStep::Insert) {
+      actions.append(step);
+      continue;
+    }
+    giveActions();
+    if (error.isEmpty()) {
+      error = self ? insertText(call, placeNow(), step.text) : PageErrors::pageClosed();
+    }
+  }
+  giveActions();
+  return error;
 }
 
 Command BidiPage::dialogAnswer(bool accept, const QString& text) const {

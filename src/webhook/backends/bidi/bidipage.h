@@ -40,6 +40,7 @@ private:
   PlaceNow placeNow();
   Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
   void stopLoading() override;
+  QString giveInput(PageCall& call, const InputSteps& steps) override;
   Command dialogAnswer(bool accept, const QString& text) const override;
   bool takesFilesOfThisMachine() const override;
   QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) override;

@@ -132,6 +132,13 @@ void BidiSession::keepBrowserOpenWithout(const BidiPage& page, PageCall& call) {
   call.askBrowser(Bidi::createPage());
 }
 
+void BidiSession::bringToFront(const QString& context) {
+  if (context != m_contextInFront) {
+    m_contextInFront = context;
+    channel().start({}, Bidi::activatePage(context));
+  }
+}
+
 void BidiSession::takeEvent(const QString& method, const QJsonObject& parameters) {
   if (method == QLatin1String("browsingContext.contextCreated")) {
     onContextCreated(Bidi::readContext(parameters));
@@ -184,6 +191,7 @@ void BidiSession::takePage(const Bidi::Context& context) {
     --m_hiddenPagesToCome;
     return;
   }
+  bringToFront(context.id);
   auto page = std::make_unique<BidiPage>(channel(), *this, context);
   m_pageOfContext[context.id] = page.get();
   addPage(std::move(page));

@@ -26,6 +26,9 @@ public:
   /// Opens a page that nobody sees here if `page` is the last one: browsers end with their last page, or keep it.
   void keepBrowserOpenWithout(const BidiPage& page, PageCall& call);
 
+  /// Has the browser give a page the focus, unless it has it.
+  void bringToFront(const QString& context);
+
 private:
   BidiSession(std::unique_ptr<OwnedBrowser> browser, std::unique_ptr<Transport> transport);
 
@@ -46,6 +49,7 @@ private:
 
   QHash<QString, BidiPage*> m_pageOfContext;
   QHash<QString, QString> m_pageOfFrame;
+  QString m_contextInFront;
   int m_hiddenPagesToCome = 0;
   bool m_framesGuarded = false;
 };

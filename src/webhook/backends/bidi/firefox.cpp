@@ -142,7 +142,8 @@ QStringList arguments(const QString& directory, const SessionOptions& options) {
   if (!options.headed) {
     list.append(QStringLiteral("--headless"));
   }
-  return list + options.extraArguments + QStringList{QStringLiteral("about:blank")};
+  // The focus of a window that opens with about:blank is in its address field for good, and no page of it has it.
+  return list + options.extraArguments + QStringList{QStringLiteral("data:text/html,")};
 }
 
 Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline) {

@@ -97,6 +97,21 @@ QString DevToolsPage::putFiles(PageCall& call, const QString& referenceExpressio
   return setFilesOfInput(call, referenceExpression, paths);
 }
 
+QString DevToolsPage::giveInput(PageCall& call, const InputSteps& steps) {
+  // All at once: the browser keeps their order, and a move that nothing follows waits for the next frame.
+  std::vector<std::shared_ptr<Request>> requests;
+  for (const Command& command : m_input.write(steps)) {
+    requests.push_back(start(command));
+  }
+  for (const auto& request : requests) {
+    waitFor(*request, call.deadline());
+    if (!request->reply.isAnswered()) {
+      return call.errorOf(request->isComplete() ? request->reply : Reply{Reply::TimeOver, {}, {}});
+    }
+  }
+  return {};
+}
+
 void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameters) {
   using Handler = void (DevToolsPage::*)(const QJsonObject&);
   static const QHash<QString, Handler> handlers{

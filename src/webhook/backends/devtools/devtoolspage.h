@@ -2,6 +2,7 @@
 
 #include "webhook/browser/protocolpage.h"
 #include "webhook/protocol/devtools.h"
+#include "webhook/protocol/devtoolsinput.h"
 
 namespace Corvex::Webhook {
 
@@ -27,6 +28,7 @@ private:
   void stopLoading() override { start(DevTools::stopLoading()); }
   Command dialogAnswer(bool accept, const QString& text) const override { return DevTools::answerDialog(accept, text); }
   QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) override;
+  QString giveInput(PageCall& call, const InputSteps& steps) override;
   Command closing() const override { return DevTools::closePage(m_target); }
 
   void takeEvent(const QString& method, const QJsonObject& parameters);
@@ -39,6 +41,7 @@ private:
 
   const QString m_sessionId;
   const QString m_target;
+  DevTools::InputWriter m_input;
   std::shared_ptr<Request> m_watched;  ///< Complete when events come and start scripts take effect.
 };
 

@@ -14,7 +14,7 @@ CORVEX_WEBWRAPPER_EXPORT QString escapeObjectNameForUseAsStringLiteral(const QSt
 CORVEX_WEBWRAPPER_EXPORT QString escapeQuoteWithBackslash(const QString& text);
 
 /// For text that is typed into a field, between single quotes. Line feeds are escaped, carriage returns are dropped.
-QString escapeForUseAsStringLiteral(const QString& text);
+CORVEX_WEBWRAPPER_EXPORT QString escapeForUseAsStringLiteral(const QString& text);
 
 /// For an expression between double quotes: backslash and double quote are escaped.
 QString escapeQuotes(const QString& text);

@@ -19,6 +19,7 @@
   guard(window, "__corvex__getScreenRectAsObject __corvex__getScreenRect __corvex__getRectAsString " +
     "__corvex__convertJSDateToDateTimeString __corvex__hookFramesOfAllWindows __corvex__addObjectToEventStorage " +
     "__corvex__getSessionStorageEvents __corvex__queueText");
+  guard(window, "__corvex__actionPoint __corvex__pressPoint __corvex__coverName");
   guard(window.top.__corvex, "getAllFrames childObjectAndInfo objectTreeInformation readPropertiesFromObjects " +
     "getPropertyValue simplifyText getSimplifiedInnerText getTextContent getSelectedText getDocumentSize " +
     "getElementRectangleInDocument parseMultiPropertyName faultOfName explainFailedSearch findAllObjects");

@@ -1,0 +1,163 @@
+// Gives: __corvex__actionPoint, where a person would click an element, and __corvex__coverName, what is in the way there.
+// Needs: runtime/natives, runtime/nodes, names/entry, visibility, input/hittarget.
+
+var __corvex__lastCover = null;
+
+var __corvex__actionPoint = (function () {
+  var scrollIntoView = __corvex__nativeFunction(window.Element && Element.prototype.scrollIntoView);
+  var animationsOf = __corvex__nativeFunction(window.Document && Document.prototype.getAnimations);
+  var frameMs = 17;
+  // Centre first; then what a cover that is smaller than the element may leave.
+  var places = [[0.5, 0.5], [0.25, 0.5], [0.75, 0.5], [0.5, 0.25], [0.5, 0.75], [0.1, 0.1], [0.9, 0.1], [0.1, 0.9],
+    [0.9, 0.9]];
+  // Pages keep headers at the top and bars at the bottom, so what is covered in one place may be free in another.
+  var alignments = ["center", "end", "start"];
+  var looked = { object: null, rect: "", since: 0 };
+
+  function viewOf(o) {
+    return __corvex__nodeReader.ownerDocument(o).defaultView;
+  }
+
+  // The first that has a size: the bounding rectangle of a wrapped link has no link in its middle.
+  function rectOf(o) {
+    var rects = __corvex__askNode.Element.getClientRects(o);
+    for (var i = 0; i < rects.length; ++i) {
+      if (rects[i].width >= 1 && rects[i].height >= 1) {
+        return rects[i];
+      }
+    }
+    return null;
+  }
+
+  // Where the view of a frame begins in the view around it.
+  function frameOrigin(frame) {
+    var box = __corvex__askNode.Element.getBoundingClientRect(frame);
+    var style = viewOf(frame).getComputedStyle(frame);
+    return { x: box.left + frame.clientLeft + parseFloat(style.paddingLeft),
+      y: box.top + frame.clientTop + parseFloat(style.paddingTop) };
+  }
+
+  // As a place in the top view, or null where something else, which becomes the cover, or nothing is met on the way.
+  function reach(o, x, y) {
+    var hit = __corvex__hitTarget.at(__corvex__nodeReader.ownerDocument(o), x, y);
+    if (!__corvex__hitTarget.isOwn(hit, o)) {
+      __corvex__lastCover = __corvex__lastCover || hit;
+      return null;
+    }
+    for (var w = viewOf(o); w !== window.top; w = w.parent) {
+      var origin = frameOrigin(w.frameElement);
+      x += origin.x;
+      y += origin.y;
+      hit = __corvex__hitTarget.at(w.parent.document, x, y);
+      if (hit !== w.frameElement) {
+        __corvex__lastCover = __corvex__lastCover || hit;
+        return null;
+      }
+    }
+    return { x: x, y: y };
+  }
+
+  function reachAny(o, x, y, many) {
+    __corvex__lastCover = null;
+    if (x !== null) {
+      var box = __corvex__askNode.Element.getBoundingClientRect(o);
+      return reach(o, box.left + x, box.top + y);
+    }
+    var rect = rectOf(o);
+    for (var i = 0; rect && i < (many ? places.length : 1); ++i) {
+      var point = reach(o, rect.left + rect.width * places[i][0], rect.top + rect.height * places[i][1]);
+      if (point) {
+        return point;
+      }
+    }
+    return null;
+  }
+
+  function bringIntoView(o, attempt) {
+    var options = { block: alignments[attempt % alignments.length], inline: "nearest", behavior: "instant" };
+    for (var e = o; e; e = viewOf(e) === window.top ? null : viewOf(e).frameElement) {
+      if (scrollIntoView) {
+        scrollIntoView.call(e, options);
+      } else {
+        e.scrollIntoView(false);
+      }
+    }
+  }
+
+  // What moves by itself does it by an animation of the browser, or by styles that the page writes.
+  function mayMove(o) {
+    var doc = __corvex__nodeReader.ownerDocument(o);
+    var animations = animationsOf ? animationsOf.call(doc) : [];
+    for (var i = 0; i < animations.length; ++i) {
+      var effect = animations[i].effect;
+      if (animations[i].playState === "running" && effect && effect.target &&
+          __corvex__hitTarget.isWithin(o, effect.target)) {
+        return true;
+      }
+    }
+    for (var e = o; e && e.nodeType !== 9; e = __corvex__hitTarget.parentOf(e)) {
+      var style = e.style;
+      if (style && (style.transform || style.left || style.top || style.right || style.bottom || style.height ||
+                    style.margin || style.marginLeft || style.marginTop)) {
+        return true;
+      }
+    }
+    return false;
+  }
+
+  // It stands still when a look at least a frame ago saw it in the same place.
+  function isMoving(o) {
+    var box = __corvex__askNode.Element.getBoundingClientRect(o);
+    var rect = [box.left, box.top, box.width, box.height].join(" ");
+    var now = __corvex__natives.milliseconds();
+    if (looked.object !== o || looked.rect !== rect) {
+      looked = { object: o, rect: rect, since: now };
+      return mayMove(o);
+    }
+    return now - looked.since < frameMs && mayMove(o);
+  }
+
+  function isDisabled(o) {
+    try {
+      return o.matches(":disabled");
+    } catch (e) {
+      return false;
+    }
+  }
+
+  // "at X Y" in the top window's view, or why not: "gone", "hidden", "disabled", "moving", "covered", "outside"; and "page"
+  // for what the browser shows in a way of its own. x and y are from the element's corner, or null for a point of its own
+  // choice. attempt counts from 0.
+  return function (o, x, y, attempt) {
+    if (!o || __corvex__nodeReader.nodeType(o) !== 1) {
+      return "page";
+    }
+    var tagName = __corvex__nodeReader.tagName(o);
+    if (tagName === "OPTION" || tagName === "OPTGROUP" || tagName === "AREA") {
+      return "page";
+    }
+    if (!o.isConnected || !viewOf(o)) {
+      return "gone";
+    }
+    if (!rectOf(o) || !__corvex__isVisibleByStyle(o)) {
+      return "hidden";
+    }
+    if (isDisabled(o)) {
+      return "disabled";
+    }
+    if (isMoving(o)) {
+      return "moving";
+    }
+    var point = reachAny(o, x, y, false);
+    if (!point) {
+      bringIntoView(o, attempt);
+      point = reachAny(o, x, y, true);
+      looked.object = null;
+    }
+    return point ? "at " + point.x + " " + point.y : __corvex__lastCover ? "covered" : "outside";
+  };
+})();
+
+function __corvex__coverName() {
+  return __corvex__lastCover ? unescape(__corvex__nameOf(__corvex__lastCover)) : "";
+}
