@@ -68,7 +68,7 @@ bool ApplicationEventDelegate::sendEvent(const Event* event, SharedPtr<Object> o
     return false;
   }
   const HTML_Object* const native = retrieveObject(object);
-  const QString name = event->name();
+  const QString& name = event->name();
   const auto* const kind = std::find_if(std::begin(kinds), std::end(kinds),
                                         [&name](const EventKind& each) { return name == QLatin1String(each.name); });
   if (kind == std::end(kinds)) {
