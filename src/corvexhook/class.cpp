@@ -251,4 +251,13 @@ SharedPtr<Object> GlobalMethod::call(const ObjectList& arguments) const {
 
 GlobalClass::GlobalClass(Namespace* ns) : Class("Global", ns, true) {}
 
+void GlobalClass::addEvent(const Event* event) {
+  m_events.push_back(event);
+  setMemberCounts(0, 0, static_cast<int>(m_events.size()));
+}
+
+const Event* GlobalClass::createEvent(int id) const {
+  return id < 0 || id >= static_cast<int>(m_events.size()) ? nullptr : m_events[static_cast<std::size_t>(id)];
+}
+
 }  // namespace Corvex

@@ -100,6 +100,7 @@ public:
   const Property* property(int id) const;
   /// Null when no property of the chain has the name.
   const Property* property(const QString& name) const;
+  /// Null when no event of the chain has the name; the first one of those that share it.
   const Event* event(const QString& name) const;
 
   /// Stands for a super class that isn't resolved yet.
@@ -156,7 +157,9 @@ class CORVEXHOOK_EXPORT GlobalClass : public Class {
 public:
   explicit GlobalClass(Namespace* ns);
   void addMethod(const GlobalMethod* method) { m_methods.push_back(method); }
-  void addEvent(const Event* event) { m_events.push_back(event); }
+  /// An event's id is the number of events before it.
+  void addEvent(const Event* event);
+  const Event* createEvent(int id) const override;
   const std::vector<const GlobalMethod*>& methods() const { return m_methods; }
   const std::vector<const Event*>& events() const { return m_events; }
 

@@ -58,6 +58,8 @@ CastDelegate::~CastDelegate() = default;
 
 ComparisonDelegate::~ComparisonDelegate() = default;
 
+SendEventDelegate::~SendEventDelegate() = default;
+
 QString castToString(const SharedPtr<Object>& object) {
   const Class* text = Inspector::self()->primitiveType(PrimitiveType::String);
   const Class* cls = object ? object->objectClass() : nullptr;

@@ -14,6 +14,7 @@ class CORVEXHOOK_EXPORT Delegate {
 public:
   enum Type {
     ObjectHierarchyDelegateType = 0,
+    SendEventDelegateType = 4,
     CastDelegateType = 5,
     ComparisonDelegateType = 6,
     DumpObjectTreeDelegateType = 9,
@@ -88,6 +89,17 @@ public:
   /// True when the two are equal.
   virtual bool compare(SharedPtr<Object> a, SharedPtr<Object> b) const = 0;
   virtual bool sameObjects(SharedPtr<Object> a, SharedPtr<Object> b) const = 0;
+};
+
+/// Lets events happen at objects.
+class CORVEXHOOK_EXPORT SendEventDelegate : public Delegate {
+public:
+  explicit SendEventDelegate(const QString& className) : Delegate(className, SendEventDelegateType) {}
+  ~SendEventDelegate() override;
+
+  /// False when the event was not sent; why not is reported to the script, unless the object is none of this
+  /// delegate's.
+  virtual bool sendEvent(const Event* event, SharedPtr<Object> object, const ObjectList& arguments) const = 0;
 };
 
 /// The text of an object through the cast delegate of its class; empty without one.

@@ -153,17 +153,24 @@ private:
 /// A named event type that can be sent to objects of a class.
 class CORVEXHOOK_EXPORT Event {
 public:
-  Event(const Class* owner, const QString& name, const Signature& signature)
-      : m_owner(owner), m_name(name), m_signature(signature) {}
+  enum Flag : unsigned int { BuiltIn = 1 };
+
+  /// `id` is the event's number among those of its owner.
+  Event(const Class* owner, const QString& name, const Signature& signature, int id, unsigned int flags)
+      : m_owner(owner), m_name(name), m_signature(signature), m_id(id), m_flags(flags) {}
 
   const Class* owner() const { return m_owner; }
   const QString& name() const { return m_name; }
   const Signature& signature() const { return m_signature; }
+  int id() const { return m_id; }
+  bool isBuiltIn() const { return (m_flags & BuiltIn) != 0; }
 
 private:
   const Class* m_owner;
   QString m_name;
   Signature m_signature;
+  int m_id;
+  unsigned int m_flags;
 };
 
 /// One event that happened: its type, the name of the object and the arguments.

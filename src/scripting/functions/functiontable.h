@@ -41,6 +41,8 @@ FunctionTable lookupFunctions();
 FunctionTable treeFunctions();
 /// Mouse, keyboard and choices.
 FunctionTable inputFunctions();
+/// Events by their names.
+FunctionTable eventFunctions();
 /// Letting time pass.
 FunctionTable waitingFunctions();
 

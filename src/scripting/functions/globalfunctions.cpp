@@ -30,7 +30,8 @@ QString nullError(const ScriptFunction& function, const ObjectList& arguments) {
 }  // namespace
 
 GlobalFunctions::GlobalFunctions(const ScriptHost& host, const FunctionContext& context) : m_context(context) {
-  for (const FunctionTable& family : {lookupFunctions(), treeFunctions(), inputFunctions(), waitingFunctions()}) {
+  for (const FunctionTable& family :
+       {lookupFunctions(), treeFunctions(), inputFunctions(), eventFunctions(), waitingFunctions()}) {
     for (const FunctionRow& row : family) {
       add({QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments, row.maxArguments,
            [this, row](const ObjectList& arguments) {

@@ -6,6 +6,7 @@
 #include "wrappers/web/catalogue/webobject_init.h"
 #include "wrappers/web/input/sharedobjectmodelfunctions.h"
 #include "wrappers/web/lookup/findallobjects.h"
+#include "wrappers/web/recording/webevents.h"
 
 #include <algorithm>
 
@@ -24,6 +25,7 @@ WebModel::WebModel() {
   m_browserClass = new Class(browserClassName, Inspector::self()->globalNamespace(), true);
   WebWrapper::createWebObjectClasses();
   WebWrapper::setupSharedObjectModelFunctions();
+  initWebEvents();
   m_toplevel = std::make_unique<BrowserToplevelDelegate>(QString::fromLatin1(browserClassName), *this);
   m_hierarchy = std::make_unique<BrowserHierarchyDelegate>(*this);
   m_items = std::make_unique<WebWrapper::CustomViewItemPropertyDelegate>();

@@ -6,6 +6,7 @@
 #include "wrappers/web/catalogue/webobject_init.h"
 #include "wrappers/web/input/sharedobjectmodelfunctions.h"
 #include "wrappers/web/object/wraphtmlobject.h"
+#include "wrappers/web/recording/webevents.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +21,7 @@ protected:
     static const bool registered = [] {
       Corvex::WebWrapper::createWebObjectClasses();
       Corvex::WebWrapper::setupSharedObjectModelFunctions();
+      Corvex::initWebEvents();
       return true;
     }();
     Q_UNUSED(registered)

@@ -24,6 +24,8 @@
 #include "wrappers/web/style/html_style.h"
 #include "wrappers/web/tables/html_table.h"
 #include "wrappers/web/toolkits/toolkitclasses.h"
+#include "wrappers/web/widgets/html_datechooser.h"
+#include "wrappers/web/widgets/html_progressbar.h"
 #include "wrappers/web/widgets/widgetclasses.h"
 #include "wrappers/web/xpath/html_xpathresult.h"
 
@@ -140,7 +142,7 @@ constexpr ClassRow rows[] = {
     row<HTML_CustomRadioButton, HTML_CustomButtonBase>(noMembers, prefix("custom_radiobutton_")),
     row<HTML_CustomSelectList, HTML_FormElement>(noMembers, prefix("custom_selectlist_")),
     row<HTML_CustomText, HTML_FormElement>(noMembers, prefix("custom_text_")),
-    row<HTML_DateChooser, HTML_Object>(noMembers, prefix("datechooser_")),
+    row<HTML_DateChooser, HTML_Object>(HTML_DateChooser_Class, prefix("datechooser_")),
     row<HTML_Document, HTML_Object>(HTML_Document_Class, whole("document")),
     row<HTML_DojoSplitPane, HTML_FormElement>(noMembers, whole("dojo_splitpane")),
     row<HTML_DojoTree, HTML_TreeBase>(noMembers, whole("dojo_tree")),
@@ -169,7 +171,7 @@ constexpr ClassRow rows[] = {
     row<HTML_MenuItem, HTML_Object>(noMembers, prefix("menuitem_")),
     row<HTML_Object, void>(HTML_Object_Class),
     row<HTML_Option, HTML_Object>(HTML_Option_Class, whole("option")),
-    row<HTML_ProgressBar, HTML_Object>(noMembers, prefix("progressbar_")),
+    row<HTML_ProgressBar, HTML_Object>(HTML_ProgressBar_Class, prefix("progressbar_")),
     row<HTML_QxWidget, HTML_Object>(noMembers, whole("qx_widget")),
     row<HTML_QxWidgetElement, HTML_Object>(noMembers, whole("qx_widget_container")),
     row<HTML_RadioButton, HTML_ButtonBase>(HTML_RadioButton_Class, whole("radio")),

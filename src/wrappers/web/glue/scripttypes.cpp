@@ -63,6 +63,12 @@ SharedPtr<Object> ScriptValue<const char*>::wrap(const char* value) {
   return Inspector::self()->wrapString(QString::fromUtf8(value));
 }
 
+const Class* ScriptArgument<DateTime>::type() { return objectModelDateTimeClass(); }
+
+const Class* ScriptValue<DateTime>::type() { return objectModelDateTimeClass(); }
+
+SharedPtr<Object> ScriptValue<DateTime>::wrap(const DateTime& value) { return wrapDateTime(value); }
+
 const Class* ScriptValue<ScreenRectangle>::type() { return objectModelScreenRectangleClass(); }
 
 SharedPtr<Object> ScriptValue<ScreenRectangle>::wrap(const ScreenRectangle& value) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "corvexhook/datetime.h"
 #include "corvexhook/geometry.h"
 #include "corvexhook/object.h"
 #include "shared/functioncallresult.h"
@@ -80,6 +81,13 @@ struct ScriptArgument<const char*> {
   static Text from(const SharedPtr<Object>& value) { return {value->toString().toUtf8()}; }
 };
 
+/// No date stands for the script's null, and for a date object without a date.
+template <>
+struct ScriptArgument<DateTime> {
+  static const Class* type();
+  static DateTime from(const SharedPtr<Object>& value) { return unwrapDateTime(value); }
+};
+
 template <>
 struct ScriptArgument<QStringList> {
   static const Class* type();
@@ -131,6 +139,12 @@ template <>
 struct ScriptValue<const char*> {
   static constexpr ScriptType type = scriptString;
   static SharedPtr<Object> wrap(const char* value);
+};
+
+template <>
+struct ScriptValue<DateTime> {
+  static const Class* type();
+  static SharedPtr<Object> wrap(const DateTime& value);
 };
 
 template <>

@@ -91,18 +91,4 @@ public:
   const char* className() const override { return ScriptName; }
 };
 
-class HTML_ProgressBar : public ExtensionBacked<HTML_Object> {
-public:
-  static constexpr const char* ScriptName = "HTML_ProgressBar";
-  using ExtensionBacked<HTML_Object>::ExtensionBacked;
-  const char* className() const override { return ScriptName; }
-};
-
-class HTML_DateChooser : public ExtensionBacked<HTML_Object> {
-public:
-  static constexpr const char* ScriptName = "HTML_DateChooser";
-  using ExtensionBacked<HTML_Object>::ExtensionBacked;
-  const char* className() const override { return ScriptName; }
-};
-
 }  // namespace Corvex::WebWrapper

@@ -41,7 +41,7 @@ function __corvex__clickViaDOM2Events(o, ctrl, shift, alt, x, y, button) {
   }
   __corvex__sendMouseEvent(o, "mouseover", ctrl, shift, alt, x, y, button);
   __corvex__sendMouseEvent(o, "mousedown", ctrl, shift, alt, x, y, button);
-  if (button === 2) {
+  if (button == 2) { // eslint-disable-line eqeqeq -- extensions may give it as text
     __corvex__openContextMenu(o, ctrl, shift, alt, x, y);
   } else {
     __corvex__sendClick(o, ctrl, shift, alt, x, y, button);
