@@ -4,6 +4,7 @@
 #include "wrappers/web/catalogue/catalogue.h"
 #include "wrappers/web/glue/castdelegate.h"
 #include "wrappers/web/glue/comparisondelegate.h"
+#include "wrappers/web/readiness/webobjectgeometrydelegate.h"
 #include "wrappers/web/style/csscolor.h"
 
 namespace Corvex::WebWrapper {
@@ -15,6 +16,7 @@ void createWebObjectClasses() {
   }
   new HTML_Object_CastToStringDelegate;
   new HTML_Object_ComparisonDelegate;
+  new WebObjectGeometryDelegate;
   createCssColorDelegates();
 }
 

@@ -3,6 +3,7 @@
 #include "wrappers/web/elements/html_document.h"
 #include "wrappers/web/elements/html_text.h"
 #include "wrappers/web/object/queryrectanglewithfunction.h"
+#include "wrappers/web/readiness/webobjectgeometrydelegate.h"
 #include "wrappers/web/webtest.h"
 
 using namespace Corvex;
@@ -117,6 +118,37 @@ TEST_F(Rectangles, ScrollIntoViewFirstIfAsked) {
   EXPECT_EQ(getScreenRect(nullptr, false).error, QString("No valid HTML object provided to getScreenRect function"));
   const HTML_Object homeless("", "ref", nullptr);
   EXPECT_EQ(getScreenRect(&homeless, false).error, QString("HTML object has no component, cannot obtain rectangle"));
+}
+
+TEST_F(Rectangles, AreToldToTheFramework) {
+  const SharedPtr<Object> object = wrapped<HTML_Text>();
+  const auto* geometry = dynamic_cast<const GeometryDelegate*>(
+      DelegateFactory::self()->delegate(object->objectClass(), Delegate::GeometryDelegateType));
+  ASSERT_TRUE(geometry);
+  EXPECT_EQ(geometry->globalBounds(nullptr), (GlobalBounds{0, 0, 0, 0, -1}));
+  const struct {
+    const char* answer;
+    GlobalBounds bounds;
+  } cases[] = {
+      {"5,6,30,40", {5, 6, 30, 40, -1}},
+      {"0,0,0,0", {0, 0, 0, 0, -1}},
+      {"-1,-1,-1,-1", {-1, -1, -1, -1, -1}},
+      {"1,2,3", {0, 0, -1, -1, -1}},
+  };
+  for (const auto& row : cases) {
+    page.answer("__corvex__getScreenRectAsObject", row.answer);
+    EXPECT_EQ(geometry->globalBounds(object), row.bounds) << row.answer;
+  }
+  EXPECT_FALSE(page.takeCodes().join(' ').contains("scroll"));
+
+  page.answer("__corvex__getScreenRectAsObject", "5,6,30,40");
+  EXPECT_EQ(geometry->nativeGlobalBounds(object), (GlobalBounds{5, 6, 30, 40, -1}));
+  const auto relative = geometry->globalToRelative(object, {7, 9});
+  EXPECT_EQ(QPoint(relative.x, relative.y), QPoint(2, 3));
+  const auto global = geometry->relativeToGlobal(object, {2, 3});
+  EXPECT_EQ(QPoint(global.x, global.y), QPoint(7, 9));
+  EXPECT_EQ(geometry->childAt(object, 1, 1), nullptr);
+  EXPECT_EQ(geometry->focusProxy(object), object);
 }
 
 TEST_F(Rectangles, CutFractionsOfJson) {
