@@ -3,6 +3,7 @@
 #include "wrappers/web/elements/html_document.h"
 #include "wrappers/web/elements/html_text.h"
 #include "wrappers/web/object/queryrectanglewithfunction.h"
+#include "wrappers/web/object/retrievehtmlobject.h"
 #include "wrappers/web/readiness/webobjectgeometrydelegate.h"
 #include "wrappers/web/webtest.h"
 
@@ -62,11 +63,32 @@ TEST_F(Readiness, IsUsuallyAskedForAtOnce) {
   };
   for (const auto& row : cases) {
     page.calls.clear();
-    page.answer("return 'ready '", row.answer);
+    page.answer("__corvex__readiness", row.answer);
     EXPECT_EQ(isReady(&object), row.isReady) << row.answer;
     EXPECT_EQ(isReady(&field), row.isFieldReady) << row.answer;
     EXPECT_EQ(page.calls.size(), 2U);
   }
+}
+
+TEST_F(Readiness, IsToldWithAnObjectToThoseWhoAskForBoth) {
+  page.answer("__corvex__findObject", R"({"refName":"@field@","type":"text","ready":"ready INPUT true true"})");
+  const auto find = [this] {
+    return std::unique_ptr<HTML_Object>(
+        htmlObjectFromJavaScriptResult(&page, "__corvex__findObject('f')", "", 0).value);
+  };
+  std::unique_ptr<HTML_Object> found;
+  {
+    const ReadinessToo readinessToo;
+    found = find();
+  }
+  EXPECT_TRUE(page.calls[0].code.contains("'ready': __corvex__readiness( dummy )"));
+  EXPECT_FALSE(isReady(found.get()));
+  EXPECT_EQ(page.calls.size(), 1U);
+  // What was true then is no answer to a second question.
+  page.answer("__corvex__readiness( field )", "ready INPUT true false");
+  EXPECT_TRUE(isReady(found.get()));
+  find();
+  EXPECT_FALSE(page.calls[2].code.contains("ready"));
 }
 
 TEST_F(Readiness, AFormElementMustBeEnabledToo) {
