@@ -51,12 +51,17 @@ public:
     ++timesAsked;
     return name.contains(text("bad")) ? text("it is bad") : QString();
   }
+  SharedPtr<Object> lookUpToUse(const std::function<SharedPtr<Object>()>& lookUp) const override {
+    ++timesLookedUpToUse;
+    return lookUp();
+  }
   FunctionCallResult<bool> isReady(const SharedPtr<Object>&) const override {
     return FunctionCallResult<bool>::success(false);
   }
 
   QString noLookup;
   mutable int timesAsked = 0;
+  mutable int timesLookedUpToUse = 0;
 };
 
 class InspectorTest : public testing::Test {
@@ -124,6 +129,7 @@ TEST_F(InspectorTest, WaitingOutlivesOneFailedLookup) {
   EXPECT_EQ(m_inspector->takeScriptError(),
             text("The object '{a='%2'}' was found, but was not ready within 100 ms: it is hidden or disabled."));
 
+  EXPECT_EQ(services.timesLookedUpToUse, m_names.asked.size());
   m_names.asked.clear();
   m_names.error = text("The page said no.");
   clock.onSleep = nullptr;
