@@ -60,6 +60,28 @@ ComparisonDelegate::~ComparisonDelegate() = default;
 
 SendEventDelegate::~SendEventDelegate() = default;
 
+GeometryDelegate::~GeometryDelegate() = default;
+
+GlobalBounds GeometryDelegate::nativeGlobalBounds(SharedPtr<Object> object) const { return globalBounds(object); }
+
+Point<CoordinateSystem::Local> GeometryDelegate::globalToRelative(SharedPtr<Object> object,
+                                                                  Point<CoordinateSystem::Screen> point) const {
+  const GlobalBounds bounds = globalBounds(object);
+  return {point.x - bounds.x, point.y - bounds.y};
+}
+
+Point<CoordinateSystem::Screen> GeometryDelegate::relativeToGlobal(SharedPtr<Object> object,
+                                                                   Point<CoordinateSystem::Local> point) const {
+  const GlobalBounds bounds = globalBounds(object);
+  return {point.x + bounds.x, point.y + bounds.y};
+}
+
+Point<CoordinateSystem::Screen> GeometryDelegate::relativeToNative(SharedPtr<Object> object,
+                                                                   Point<CoordinateSystem::Local> point) const {
+  const GlobalBounds bounds = nativeGlobalBounds(object);
+  return {point.x + bounds.x, point.y + bounds.y};
+}
+
 QString castToString(const SharedPtr<Object>& object) {
   const Class* text = Inspector::self()->primitiveType(PrimitiveType::String);
   const Class* cls = object ? object->objectClass() : nullptr;

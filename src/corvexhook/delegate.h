@@ -1,6 +1,7 @@
 #pragma once
 
 #include "corvexhook/class.h"
+#include "corvexhook/geometry.h"
 #include "corvexhook/objectname.h"
 
 #include <QString>
@@ -14,6 +15,7 @@ class CORVEXHOOK_EXPORT Delegate {
 public:
   enum Type {
     ObjectHierarchyDelegateType = 0,
+    GeometryDelegateType = 3,
     SendEventDelegateType = 4,
     CastDelegateType = 5,
     ComparisonDelegateType = 6,
@@ -89,6 +91,28 @@ public:
   /// True when the two are equal.
   virtual bool compare(SharedPtr<Object> a, SharedPtr<Object> b) const = 0;
   virtual bool sameObjects(SharedPtr<Object> a, SharedPtr<Object> b) const = 0;
+};
+
+/// Tells where objects are. Native points are those of the system's input, in pixels of the screen.
+class CORVEXHOOK_EXPORT GeometryDelegate : public Delegate {
+public:
+  explicit GeometryDelegate(const QString& className) : Delegate(className, GeometryDelegateType) {}
+  ~GeometryDelegate() override;
+
+  virtual GlobalBounds globalBounds(SharedPtr<Object> object) const = 0;
+  /// As `globalBounds`, where an object's screen has one sort of pixels only.
+  virtual GlobalBounds nativeGlobalBounds(SharedPtr<Object> object) const;
+  /// Relative points are measured from the object's corner.
+  virtual Point<CoordinateSystem::Local> globalToRelative(SharedPtr<Object> object,
+                                                          Point<CoordinateSystem::Screen> point) const;
+  virtual Point<CoordinateSystem::Screen> relativeToGlobal(SharedPtr<Object> object,
+                                                           Point<CoordinateSystem::Local> point) const;
+  virtual Point<CoordinateSystem::Screen> relativeToNative(SharedPtr<Object> object,
+                                                           Point<CoordinateSystem::Local> point) const;
+  /// The innermost child at a relative point; null without one.
+  virtual SharedPtr<Object> childAt(SharedPtr<Object> object, int x, int y) const = 0;
+  /// The object that takes the focus in place of this one.
+  virtual SharedPtr<Object> focusProxy(SharedPtr<Object> object) const = 0;
 };
 
 /// Lets events happen at objects.

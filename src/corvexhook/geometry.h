@@ -36,6 +36,19 @@ inline bool operator==(const ScreenRectangle& a, const ScreenRectangle& b) {
   return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
 }
 
+/// The bounds of an object on the screen, as delegates tell them. `screen` is the number of the screen, -1 if not told.
+struct GlobalBounds {
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  int screen = -1;
+};
+
+inline bool operator==(const GlobalBounds& a, const GlobalBounds& b) {
+  return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height && a.screen == b.screen;
+}
+
 namespace MouseButton {
 /// The default button is the left one.
 enum Value { Default = 0, Left = 1, Right = 2, Middle = 4 };

@@ -18,6 +18,8 @@ QString HostServices::whyNeverFound(const QString&) const { return QString(); }
 
 QString HostServices::whyNotFound(const QString&) const { return QString(); }
 
+SharedPtr<Object> HostServices::lookUpToUse(const std::function<SharedPtr<Object>()>& lookUp) const { return lookUp(); }
+
 FunctionCallResult<bool> HostServices::isReady(const SharedPtr<Object>&) const {
   return FunctionCallResult<bool>::success(true);
 }

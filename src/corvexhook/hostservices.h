@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace Corvex {
@@ -31,6 +32,9 @@ public:
   /// Why a real name was not found.
   virtual QString whyNotFound(const QString& name) const;
 
+  /// Runs a look-up whose object is asked right after whether it is ready, so that a page can be asked for both at
+  /// once.
+  virtual SharedPtr<Object> lookUpToUse(const std::function<SharedPtr<Object>()>& lookUp) const;
   /// Whether an object can take input now.
   virtual FunctionCallResult<bool> isReady(const SharedPtr<Object>& object) const;
   /// All objects that a multi-property name fits, below roots in the order of lookups. Failures are reported to the

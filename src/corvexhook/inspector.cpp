@@ -276,7 +276,8 @@ SharedPtr<Object> Inspector::waitUntilReady(const QString& name, int timeoutMs) 
   SharedPtr<Object> found;
   QString failure;
   const auto attempt = [&] {
-    found = reportWhyNotLookUp(name) ? SharedPtr<Object>() : lookupOnce(realName);
+    found =
+        reportWhyNotLookUp(name) ? SharedPtr<Object>() : m_services->lookUpToUse([&] { return lookupOnce(realName); });
     const QString lastFailure = std::exchange(failure, takeScriptError());
     isUsable = found && failure.isEmpty() && isReady(found);
     // A page that is being replaced fails once. What fails twice in a row is going to stay.

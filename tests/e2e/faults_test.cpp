@@ -51,6 +51,7 @@ const Moment moments[] = {
      "test.log('now');\nbody.invoke('spin');\ntest.log('reached');",
      ""},
     {"Navigation", "startBrowser(SITE + '/never');\ntest.log('reached');", "/never"},
+    {"Pause", "startBrowser(SITE + '/plain.html');\ntest.log('now');\npause(50);\ntest.log('reached');", ""},
     {"WaitForAContext",
      "startBrowser(SITE + '/plain.html');\ntest.log('now');\n"
      "waitForContextExists('nowhere');\ntest.log('reached');",

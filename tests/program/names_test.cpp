@@ -1,4 +1,4 @@
-// corvexweb names: what it lists and sums up, and what it says where there is no page to look at.
+// corvexweb names: what it lists and sums up.
 
 #include <gtest/gtest.h>
 
@@ -79,38 +79,5 @@ TEST(Names, DismissesDialogsOfThePage) {
               {QStringLiteral("--wait"), QStringLiteral("0.3")});
   EXPECT_EQ(result.exitCode, 0) << qPrintable(result.errors);
 }
-
-struct Trouble {
-  const char* name;
-  QStringList arguments;
-  int exitCode;
-  const char* sentence;
-};
-
-void PrintTo(const Trouble& trouble, std::ostream* out) { *out << trouble.name; }
-
-class NamesTrouble : public testing::TestWithParam<Trouble> {};
-
-TEST_P(NamesTrouble, IsExplained) {
-  ProgramRun program;
-  const ProgramResult result = program.run(QStringList{QStringLiteral("names")} + GetParam().arguments);
-  EXPECT_EQ(result.exitCode, GetParam().exitCode);
-  EXPECT_EQ(result.output, QString());
-  EXPECT_TRUE(result.errors.startsWith(QLatin1String("corvexweb names: "))) << qPrintable(result.errors);
-  EXPECT_TRUE(result.errors.contains(QLatin1String(GetParam().sentence))) << qPrintable(result.errors);
-  EXPECT_EQ(program.leftovers(), QStringList());
-}
-
-const Trouble troubles[] = {
-    {"NoPage", {}, 2, "The page's URL is missing."},
-    {"TwoPages", {"a.html", "b.html"}, 2, "It takes one URL, not 2."},
-    {"BadTime", {"--wait", "soon", "a.html"}, 2, "--wait takes a number of seconds above 0, not 'soon'."},
-    {"NoFile", {"nothing.html"}, 1, "There is no file 'nothing.html' either."},
-    {"NoServer", {"http://127.0.0.1:1/"}, 1, "http://127.0.0.1:1/"},
-    {"NoBrowser", {"--browser", "/no/such/browser", "about:blank"}, 3, "/no/such/browser"},
-};
-
-INSTANTIATE_TEST_SUITE_P(Names, NamesTrouble, testing::ValuesIn(troubles),
-                         [](const auto& trouble) { return trouble.param.name; });
 
 }  // namespace

@@ -137,17 +137,4 @@ TEST(Tree, AsTextHasALineForEachObject) {
   EXPECT_EQ(top.output.count(QLatin1Char('\n')), 8) << qPrintable(top.output);
 }
 
-TEST(Tree, FailuresSaySo) {
-  ProgramRun program;
-  const ProgramResult misused =
-      program.run({QStringLiteral("tree"), QStringLiteral("--depth"), QStringLiteral("deep"), QStringLiteral("x")});
-  EXPECT_EQ(misused.exitCode, 2);
-  EXPECT_TRUE(misused.errors.contains(QLatin1String("--depth takes a number of levels from 0 on, not 'deep'.")));
-
-  const ProgramResult missing = program.run({QStringLiteral("tree"), QStringLiteral("nosuchpage.html")});
-  EXPECT_EQ(missing.exitCode, 1);
-  EXPECT_EQ(missing.output, QString());
-  EXPECT_TRUE(missing.errors.contains(QLatin1String("nosuchpage.html"))) << qPrintable(missing.errors);
-}
-
 }  // namespace

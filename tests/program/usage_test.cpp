@@ -1,4 +1,5 @@
-// Wrong usage: exit code 2, one sentence that names what is wrong, and nothing started.
+// Commands that cannot be carried out: one sentence that names what is wrong, and nothing left. Wrong usage is exit
+// code 2, and nothing is started then.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,10 @@ struct Misuse {
   const char* name;
   QStringList arguments;
   const char* complaint;
+  int exitCode = 2;
 };
+
+void PrintTo(const Misuse& misuse, std::ostream* out) { *out << misuse.name; }
 
 class WrongUsage : public testing::TestWithParam<Misuse> {};
 
@@ -22,9 +26,10 @@ TEST_P(WrongUsage, IsExplained) {
   ProgramRun program;
   program.write(QStringLiteral("good.js"), QStringLiteral("test.log('ran');"));
   const ProgramResult result = program.run(GetParam().arguments);
-  EXPECT_EQ(result.exitCode, 2);
+  EXPECT_EQ(result.exitCode, GetParam().exitCode);
   EXPECT_EQ(result.output, QString());
   EXPECT_TRUE(result.errors.contains(QLatin1String(GetParam().complaint))) << qPrintable(result.errors);
+  EXPECT_EQ(program.leftovers(), QStringList());
 }
 
 const Misuse misuses[] = {
@@ -45,6 +50,14 @@ const Misuse misuses[] = {
      {"run", "--object-map", "good.js", "good.js"},
      "good.js:1: expected a symbolic name that begins with ':', a tab, and the real name."},
     {"HookScriptArgument", {"hook-script", "now"}, "It takes no arguments."},
+    {"TreeDepth", {"tree", "--depth", "deep", "x"}, "--depth takes a number of levels from 0 on, not 'deep'."},
+    {"TreeNoFile", {"tree", "nosuchpage.html"}, "nosuchpage.html", 1},
+    {"NamesNoPage", {"names"}, "corvexweb names: The page's URL is missing."},
+    {"NamesTwoPages", {"names", "a.html", "b.html"}, "It takes one URL, not 2."},
+    {"NamesBadTime", {"names", "--wait", "soon", "a.html"}, "--wait takes a number of seconds above 0, not 'soon'."},
+    {"NamesNoFile", {"names", "nothing.html"}, "There is no file 'nothing.html' either.", 1},
+    {"NamesNoServer", {"names", "http://127.0.0.1:1/"}, "http://127.0.0.1:1/", 1},
+    {"NamesNoBrowser", {"names", "--browser", "/no/such/browser", "about:blank"}, "/no/such/browser", 3},
 };
 
 INSTANTIATE_TEST_SUITE_P(Program, WrongUsage, testing::ValuesIn(misuses),

@@ -4,7 +4,6 @@
 #include "webhook/protocol/log.h"
 
 #include <arpa/inet.h>
-#include <linux/tcp.h>
 #include <poll.h>
 #include <pthread.h>
 #include <signal.h>
@@ -27,20 +26,12 @@ constexpr int mostRefusalsTold = 20;
 
 constexpr int flushTime = 500;
 constexpr std::size_t connectionMemory = 128 * 1024;
-constexpr int roomForTheDropped = 64;  // until the library has seen that they are gone
 
 sockaddr_in loopbackAddress() {
   sockaddr_in address = {};
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   return address;
-}
-
-bool hasReceivedBytes(int socket) {
-  tcp_info info = {};
-  socklen_t size = sizeof info;
-  // The end of a connection counts as a byte, too.
-  return ::getsockopt(socket, IPPROTO_TCP, TCP_INFO, &info, &size) == 0 && info.tcpi_bytes_received > 1;
 }
 
 /// Signals are the business of the thread that installed their handlers.
@@ -64,25 +55,8 @@ int pollTime(const QDeadlineTimer& deadline) {
 
 }  // namespace
 
-/// One connection, and the request that stands on it.
-struct EndpointServer::Exchange {
-  MHD_Connection* connection;
-  int socket;
-  Stage stage = Stage::New;
-  QDeadlineTimer deadline = QDeadlineTimer(QDeadlineTimer::Forever);
-  QByteArray target = {};
-  QByteArray method = {};
-  QByteArray origin = {};
-  QByteArray body = {};
-  bool inFlight = false;
-  bool knowsSecret = false;
-  bool dropped = false;
-  quint64 waitId = 0;
-  std::list<Exchange>::iterator place = {};
-};
-
 EndpointServer::EndpointServer(const EndpointLimits& limits, Receiver receiver)
-    : m_limits(limits), m_receiver(std::move(receiver)), m_messages(limits.undelivered) {}
+    : m_limits(limits), m_receiver(std::move(receiver)), m_messages(limits.undelivered), m_exchanges(limits) {}
 
 EndpointServer::~EndpointServer() { stop(); }
 
@@ -94,12 +68,12 @@ bool EndpointServer::start(QString* error) {
   m_wakeHandle = FileDescriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
   errno = 0;
   m_daemon = MHD_start_daemon(MHD_USE_EPOLL | MHD_ALLOW_SUSPEND_RESUME, 0, nullptr, nullptr, &handle, this,
-                              MHD_OPTION_SOCK_ADDR, &address,                                                   //
-                              MHD_OPTION_CONNECTION_LIMIT, unsigned(m_limits.connections + roomForTheDropped),  //
-                              MHD_OPTION_CONNECTION_MEMORY_LIMIT, connectionMemory,                             //
-                              MHD_OPTION_URI_LOG_CALLBACK, &noteTarget, static_cast<void*>(this),               //
-                              MHD_OPTION_NOTIFY_COMPLETED, &noteCompleted, static_cast<void*>(this),            //
-                              MHD_OPTION_NOTIFY_CONNECTION, &noteConnection, static_cast<void*>(this),          //
+                              MHD_OPTION_SOCK_ADDR, &address,                                           //
+                              MHD_OPTION_CONNECTION_LIMIT, unsigned(m_exchanges.mostOpen()),            //
+                              MHD_OPTION_CONNECTION_MEMORY_LIMIT, connectionMemory,                     //
+                              MHD_OPTION_URI_LOG_CALLBACK, &noteTarget, static_cast<void*>(this),       //
+                              MHD_OPTION_NOTIFY_COMPLETED, &noteCompleted, static_cast<void*>(this),    //
+                              MHD_OPTION_NOTIFY_CONNECTION, &noteConnection, static_cast<void*>(this),  //
                               MHD_OPTION_SIGPIPE_HANDLED_BY_APP, 1, MHD_OPTION_END);
   if (!m_daemon || !m_wakeHandle.isValid()) {
     *error = QString::fromLocal8Bit(std::strerror(errno));
@@ -142,14 +116,14 @@ void EndpointServer::wake() { ::eventfd_write(m_wakeHandle.get(), 1); }
 void EndpointServer::run() {
   blockSignals();
   while (!m_stopping) {
-    pollOnce(nextDeadline());
+    pollOnce(std::min(m_waits.nextDeadline(), m_exchanges.nextDeadline()));
     endWaits();
-    dropLateConnections();
+    m_exchanges.dropLate();
   }
   m_waits.endAll();
   endWaits();
   const QDeadlineTimer flushed(flushTime);
-  while (owesReplies() && !flushed.hasExpired()) {
+  while (m_exchanges.oweReplies() && !flushed.hasExpired()) {
     pollOnce(flushed);
   }
   MHD_stop_daemon(m_daemon);
@@ -164,7 +138,7 @@ void EndpointServer::pollOnce(const QDeadlineTimer& limit) {
   std::vector<pollfd> handles{{m_pollHandle, POLLIN, 0}, {m_wakeHandle.get(), POLLIN, 0}};
   std::vector<Exchange*> watched;
   for (Exchange& exchange : m_exchanges) {
-    if (exchange.stage != Stage::Replying) {
+    if (exchange.stage != Exchange::Replying) {
       handles.push_back({exchange.socket, POLLRDHUP, 0});
       watched.push_back(&exchange);
     }
@@ -183,64 +157,12 @@ void EndpointServer::pollOnce(const QDeadlineTimer& limit) {
 
 void EndpointServer::noteClientGone(Exchange& exchange) {
   char next = 0;
-  if (exchange.stage == Stage::Held) {
+  if (exchange.stage == Exchange::Held) {
     m_waits.end(exchange.waitId);
   } else if (::recv(exchange.socket, &next, 1, MSG_PEEK | MSG_DONTWAIT) <= 0) {
     // The library misses an end that came together with the bytes before it; this one it sees.
     ::shutdown(exchange.socket, SHUT_RDWR);
   }
-}
-
-QDeadlineTimer EndpointServer::nextDeadline() const {
-  QDeadlineTimer next = m_waits.nextDeadline();
-  for (const Exchange& exchange : m_exchanges) {
-    next = std::min(next, exchange.deadline);
-  }
-  return next;
-}
-
-bool EndpointServer::owesReplies() const {
-  return std::any_of(m_exchanges.begin(), m_exchanges.end(),
-                     [](const Exchange& exchange) { return exchange.stage == Stage::Replying; });
-}
-
-void EndpointServer::setStage(Exchange& exchange, Stage stage) {
-  exchange.stage = stage;
-  exchange.deadline = stage == Stage::Held   ? QDeadlineTimer(QDeadlineTimer::Forever)
-                      : stage == Stage::Idle ? QDeadlineTimer(m_limits.idleTime)
-                                             : QDeadlineTimer(m_limits.requestTime);
-}
-
-void EndpointServer::dropLateConnections() {
-  for (Exchange& exchange : m_exchanges) {
-    if (exchange.deadline.hasExpired()) {
-      drop(exchange);
-    }
-  }
-}
-
-void EndpointServer::makeRoom() {
-  const auto count =
-      std::count_if(m_exchanges.begin(), m_exchanges.end(), [](const Exchange& exchange) { return !exchange.dropped; });
-  if (count <= m_limits.connections) {
-    return;
-  }
-  const auto oldest = [this](bool knowsSecret) {
-    return std::find_if(m_exchanges.begin(), m_exchanges.end(), [knowsSecret](const Exchange& exchange) {
-      return !exchange.dropped && !exchange.inFlight && exchange.knowsSecret == knowsSecret;
-    });
-  };
-  const auto stranger = oldest(false);
-  const auto victim = stranger == m_exchanges.end() ? oldest(true) : stranger;
-  if (victim != m_exchanges.end()) {
-    drop(*victim);
-  }
-}
-
-void EndpointServer::drop(Exchange& exchange) {
-  ::shutdown(exchange.socket, SHUT_RDWR);
-  exchange.dropped = true;
-  exchange.deadline = QDeadlineTimer(QDeadlineTimer::Forever);
 }
 
 void EndpointServer::endWaits() {
@@ -252,7 +174,7 @@ void EndpointServer::endWaits() {
     }
     Exchange& exchange = *held->second;
     m_held.erase(held);
-    setStage(exchange, Stage::Replying);
+    m_exchanges.setStage(exchange, Exchange::Replying);
     sendReply(exchange.connection, MHD_HTTP_OK, ended.reply, exchange.origin);
     MHD_resume_connection(exchange.connection);
     if (!ended.answered) {
@@ -265,7 +187,7 @@ void EndpointServer::endWaits() {
   }
 }
 
-EndpointServer::Exchange& EndpointServer::exchangeOf(MHD_Connection* connection) {
+Exchange& EndpointServer::exchangeOf(MHD_Connection* connection) {
   return *static_cast<Exchange*>(
       MHD_get_connection_info(connection, MHD_CONNECTION_INFO_SOCKET_CONTEXT)->socket_context);
 }
@@ -283,20 +205,15 @@ void EndpointServer::noteConnection(void* self, MHD_Connection* connection, void
 
 void EndpointServer::open(MHD_Connection* connection, void** context) {
   const int socket = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CONNECTION_FD)->connect_fd;
-  Exchange& exchange = m_exchanges.emplace_back(Exchange{connection, socket});
-  exchange.place = std::prev(m_exchanges.end());
-  setStage(exchange, Stage::New);
-  *context = &exchange;
-  makeRoom();
+  *context = &m_exchanges.open(connection, socket);
 }
 
 void EndpointServer::closed(const Exchange& exchange) {
-  const bool unread = exchange.stage == Stage::New && hasReceivedBytes(exchange.socket);
-  if (unread || exchange.stage == Stage::Reading) {
+  if (exchange.isCutShort()) {
     noteMalformed(QStringLiteral("it could not be read, or not in time"));
   }
-  m_hasRoomAgain = m_hasRoomAgain || m_exchanges.size() >= std::size_t(m_limits.connections) + roomForTheDropped;
-  m_exchanges.erase(exchange.place);
+  m_hasRoomAgain = m_hasRoomAgain || m_exchanges.areFull();
+  m_exchanges.close(exchange);
 }
 
 void* EndpointServer::noteTarget(void* self, const char* target, MHD_Connection* connection) {
@@ -304,7 +221,7 @@ void* EndpointServer::noteTarget(void* self, const char* target, MHD_Connection*
   exchange.target = target;
   exchange.method = {};
   exchange.origin = {};
-  static_cast<EndpointServer*>(self)->setStage(exchange, Stage::Reading);
+  static_cast<EndpointServer*>(self)->m_exchanges.setStage(exchange, Exchange::Reading);
   return nullptr;
 }
 
@@ -313,7 +230,7 @@ void EndpointServer::noteCompleted(void* self, MHD_Connection* connection, void*
 }
 
 void EndpointServer::complete(Exchange& exchange) {
-  if (exchange.stage == Stage::Reading) {
+  if (exchange.stage == Exchange::Reading) {
     noteMalformed(QStringLiteral("it ended in the middle"));
   }
   if (exchange.inFlight) {
@@ -321,7 +238,7 @@ void EndpointServer::complete(Exchange& exchange) {
   }
   exchange.inFlight = false;
   exchange.body = {};
-  setStage(exchange, Stage::Idle);
+  m_exchanges.setStage(exchange, Exchange::Idle);
 }
 
 QString EndpointServer::noteRefusal(const Verdict& verdict, const QByteArray& target) {
@@ -383,7 +300,7 @@ MHD_Result EndpointServer::begin(Exchange& exchange, const char* method) {
 }
 
 MHD_Result EndpointServer::finish(Exchange& exchange) {
-  setStage(exchange, Stage::Replying);
+  m_exchanges.setStage(exchange, Exchange::Replying);
   if (exchange.method == "OPTIONS") {
     return sendPreflightReply(exchange.connection, exchange.origin);
   }
@@ -412,14 +329,14 @@ MHD_Result EndpointServer::take(Exchange& exchange, PageMessage message) {
   }
   exchange.waitId = message.waitId();
   m_held[exchange.waitId] = &exchange;
-  setStage(exchange, Stage::Held);
+  m_exchanges.setStage(exchange, Exchange::Held);
   MHD_suspend_connection(exchange.connection);
   return MHD_YES;
 }
 
 MHD_Result EndpointServer::refuse(Exchange& exchange, const Verdict& verdict) {
   const QString sentence = noteRefusal(verdict, exchange.target);
-  setStage(exchange, Stage::Replying);
+  m_exchanges.setStage(exchange, Exchange::Replying);
   return sendReply(exchange.connection, rowOf(verdict.refusal).status, "Refused: " + sentence.toUtf8(), verdict.origin);
 }
 

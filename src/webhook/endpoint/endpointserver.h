@@ -2,6 +2,7 @@
 
 #include "webhook/endpoint/endpointlimits.h"
 #include "webhook/endpoint/endpointpolicy.h"
+#include "webhook/endpoint/exchanges.h"
 #include "webhook/endpoint/messagequeue.h"
 #include "webhook/endpoint/waittable.h"
 #include "webhook/process/filedescriptor.h"
@@ -9,7 +10,6 @@
 #include <microhttpd.h>
 #include <atomic>
 #include <functional>
-#include <list>
 #include <map>
 #include <thread>
 
@@ -17,9 +17,6 @@ namespace Corvex::Webhook {
 
 /// The HTTP side of the endpoint, on a thread of its own: reads requests, judges them, puts their messages into a
 /// queue, and replies. The functions given to it are called on that thread.
-///
-/// A connection that has not yet brought a request that was let in is anybody's. When there are too many, the oldest of
-/// those goes, so that no number of them keeps a page waiting.
 class EndpointServer {
 public:
   struct Receiver {
@@ -48,9 +45,6 @@ public:
   bool answerWait(quint64 id, const QByteArray& reply);
 
 private:
-  enum class Stage { New, Reading, Replying, Held, Idle };
-  struct Exchange;
-
   static void* noteTarget(void* self, const char* target, MHD_Connection* connection);
   static MHD_Result handle(void* self, MHD_Connection* connection, const char* url, const char* method,
                            const char* version, const char* data, size_t* size, void** context);
@@ -68,18 +62,12 @@ private:
   MHD_Result refuse(Exchange& exchange, const Verdict& verdict);
   void endWaits();
   void noteClientGone(Exchange& exchange);
-  void dropLateConnections();
-  void makeRoom();
-  static void drop(Exchange& exchange);
   QString noteRefusal(const Verdict& verdict, const QByteArray& target);
   void noteMalformed(const QString& what);
-  void setStage(Exchange& exchange, Stage stage);
 
   void run();
   void wake();
   void pollOnce(const QDeadlineTimer& limit);
-  QDeadlineTimer nextDeadline() const;
-  bool owesReplies() const;
 
   const EndpointLimits m_limits;
   const Receiver m_receiver;
@@ -101,7 +89,7 @@ private:
   // Of the server's thread alone.
   int m_inFlight = 0;
   bool m_hasRoomAgain = false;  ///< The library takes up listening again only when it is run once more.
-  std::list<Exchange> m_exchanges;
+  Exchanges m_exchanges;
   std::map<quint64, Exchange*> m_held;
 };
 

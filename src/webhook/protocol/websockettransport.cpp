@@ -1,5 +1,10 @@
 #include "webhook/protocol/websockettransport.h"
 
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+
+#include <QAbstractSocket>
 #include <QPointer>
 #include <QWebSocket>
 
@@ -22,6 +27,7 @@ WebSocketTransport::WebSocketTransport() : m_socket(new QWebSocket) {
   m_socket->setMaxAllowedIncomingFrameSize(messageLimit);
   m_socket->setMaxAllowedIncomingMessageSize(messageLimit);
   connect(m_socket, &QWebSocket::textMessageReceived, this, [this](const QString& text) {
+    acknowledgeAtOnce();
     // The socket reads its next frame only after this returns, so no receiver may run, and perhaps wait, in here.
     enqueue(text.toUtf8());
     QMetaObject::invokeMethod(this, &WebSocketTransport::deliver, Qt::QueuedConnection);
@@ -59,6 +65,15 @@ QString WebSocketTransport::open(const QUrl& url, const QDeadlineTimer& deadline
     return {};
   }
   return result == WaitResult::TimeOver ? QStringLiteral("there was no answer in time") : reasonOfEnd();
+}
+
+void WebSocketTransport::acknowledgeAtOnce() {
+  const auto* const socket = m_socket->findChild<QAbstractSocket*>();
+  const int on = 1;
+  if (socket) {
+    // It lasts for a few messages only.
+    ::setsockopt(int(socket->socketDescriptor()), IPPROTO_TCP, TCP_QUICKACK, &on, sizeof on);
+  }
 }
 
 void WebSocketTransport::send(const QByteArray& message) {

@@ -26,6 +26,8 @@ public:
   void close() override;
 
 private:
+  /// Some browsers hold a message back until the one before is acknowledged, which the system delays by 40 ms.
+  void acknowledgeAtOnce();
   QString reasonOfEnd() const;
 
   QWebSocket* m_socket;

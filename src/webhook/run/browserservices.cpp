@@ -3,6 +3,7 @@
 #include "webhook/pages/searchexplanation.h"
 #include "webhook/run/browsercontrol.h"
 #include "wrappers/web/object/references.h"
+#include "wrappers/web/object/retrievehtmlobject.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 #include "wrappers/web/readiness/readiness.h"
 
@@ -34,6 +35,11 @@ QString BrowserServices::whyNeverFound(const QString& name) const {
 
 QString BrowserServices::whyNotFound(const QString& name) const {
   return whyNotLookUp(name).isEmpty() ? explainFailedSearch(*m_control.windows(), name) : QString();
+}
+
+SharedPtr<Object> BrowserServices::lookUpToUse(const std::function<SharedPtr<Object>()>& lookUp) const {
+  const WebWrapper::ReadinessToo readinessToo;
+  return lookUp();
 }
 
 FunctionCallResult<bool> BrowserServices::isReady(const SharedPtr<Object>& object) const {

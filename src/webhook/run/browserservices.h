@@ -19,6 +19,7 @@ public:
   QString whyNotAsk(const SharedPtr<Object>& object) const override;
   QString whyNeverFound(const QString& name) const override;
   QString whyNotFound(const QString& name) const override;
+  SharedPtr<Object> lookUpToUse(const std::function<SharedPtr<Object>()>& lookUp) const override;
   FunctionCallResult<bool> isReady(const SharedPtr<Object>& object) const override;
   ObjectList findAll(const std::vector<SharedPtr<Object>>& roots, const ObjectName& name) const override;
 

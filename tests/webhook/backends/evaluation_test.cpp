@@ -2,7 +2,9 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QTimer>
+#include <algorithm>
 #include <csignal>
+#include <vector>
 
 #include "support/files.h"
 #include "webhook/backends/browserfixture.h"
@@ -33,6 +35,21 @@ void crash(BrowserSession& session) {
 }
 
 }  // namespace
+
+TEST_F(EvaluationTest, DoNotWaitForAcknowledgementsOfTheSystem) {
+  // A value that is an object leaves a message whose answer nobody waits for.
+  std::vector<qint64> times;
+  for (int i = 0; i < 31; ++i) {
+    EXPECT_EQ(text("document"), q("[object HTMLDocument]"));
+    EXPECT_EQ(text("1"), q("1"));
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(text("2"), q("2"));
+    times.push_back(timer.elapsed());
+  }
+  std::sort(times.begin(), times.end());
+  EXPECT_LT(times[times.size() / 2], 30);
+}
 
 TEST_F(EvaluationTest, GivesTheCompletionValueAsText) {
   struct Row {
@@ -158,15 +175,6 @@ TEST_F(EvaluationTest, APageThatCannotBeStoppedCanBeClosedAndHoldsNoOther) {
   EXPECT_FALSE(other->isOpen());
 }
 
-TEST_F(EvaluationTest, ALateAnswerReachesNoLaterCall) {
-  session->setDefaultTimeout(100);
-  text("setTimeout(function() { for (var end = Date.now() + 400; Date.now() < end;) {} }, 0); 1");
-  const JavaScriptAnswer late = page->evaluate(q("new Promise(function(resolve) {}); 'late'"));
-  session->setDefaultTimeout(20000);
-  EXPECT_TRUE(late.aborted || late.text == q("late"));
-  EXPECT_EQ(text("'mine'"), q("mine"));
-}
-
 TEST_F(EvaluationTest, APageStuckInItsOwnLoopAbortsAndCanBeLeft) {
   if (TestSupport::isFirefox()) {
     GTEST_SKIP() << "Firefox does not load another document while a script of the old one runs.";
@@ -182,15 +190,6 @@ TEST_F(EvaluationTest, APageStuckInItsOwnLoopAbortsAndCanBeLeft) {
   EXPECT_EQ(other.value->close(), QString());
   EXPECT_EQ(page->navigate(server->url(q("/page.html"), q("localhost"))), QString());
   EXPECT_EQ(text("'alive'"), q("alive"));
-}
-
-TEST_F(EvaluationTest, ANestedCallFromWithinTheWaitGetsItsOwnAnswer) {
-  QString inner;
-  QTimer::singleShot(0, [&] { inner = page->evaluate(q("'inner'")).text; });
-  const JavaScriptAnswer outer =
-      page->evaluate(q("for (var end = Date.now() + 50; Date.now() < end;) {} ({}) + 'outer'"));
-  EXPECT_EQ(outer.text, q("[object Object]outer"));
-  EXPECT_EQ(inner, q("inner"));
 }
 
 TEST_F(EvaluationTest, NestedCallsKeepTheirObjectsApart) {

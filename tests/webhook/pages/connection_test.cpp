@@ -2,11 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
-#include "support/environment.h"
 #include "support/fakebrowserpage.h"
-#include "support/files.h"
 #include "support/printing.h"
 #include "webhook/browser/pageerrors.h"
 #include "webhook/pages/globaldeclarations.h"
@@ -48,23 +44,6 @@ TEST_F(ConnectionTest, CodeWithoutReferencesIsAskedOfTheNextDocument) {
   EXPECT_FALSE(connection.evaluateJS(QStringLiteral("look"), 0).succeeded());
   refusals = 10;
   EXPECT_FALSE(connection.evaluateInAnyDocument(QStringLiteral("look"), 0).succeeded());
-}
-
-TEST_F(ConnectionTest, AnExtensionThatIsNoScriptIsNamed) {
-  const QTemporaryDir prefix;
-  const TestSupport::ScopedVariable variable("CORVEX_PREFIX", prefix.path().toUtf8());
-  for (const char* name : {"a.js", "b.js"}) {
-    ASSERT_TRUE(TestSupport::writeFile(prefix.filePath(QStringLiteral("lib/extensions/web/") + QLatin1String(name)),
-                                       QByteArray("var ") + name + " = ;"));
-  }
-  page.answer = [](const QString& code) {
-    return code.contains(QStringLiteral("b.js")) ? JavaScriptAnswer{QStringLiteral("SyntaxError: oh"), true, false}
-                                                 : JavaScriptAnswer{QStringLiteral("false"), false, false};
-  };
-  const QString error = connection.navigate(QStringLiteral("http://x/"));
-  EXPECT_TRUE(error.contains(QStringLiteral("/lib/extensions/web/b.js' failed: SyntaxError: oh.")))
-      << error.toStdString();
-  EXPECT_LT(page.codes.size(), 10);
 }
 
 TEST_F(ConnectionTest, APageThatLeavesWhileItIsGreetedIsFollowedToTheNext) {

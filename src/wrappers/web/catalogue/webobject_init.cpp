@@ -5,6 +5,7 @@
 #include "wrappers/web/glue/castdelegate.h"
 #include "wrappers/web/glue/comparisondelegate.h"
 #include "wrappers/web/input/applicationeventdelegate.h"
+#include "wrappers/web/readiness/webobjectgeometrydelegate.h"
 #include "wrappers/web/style/csscolor.h"
 
 namespace Corvex::WebWrapper {
@@ -16,6 +17,7 @@ void createWebObjectClasses() {
   }
   new HTML_Object_CastToStringDelegate;
   new HTML_Object_ComparisonDelegate;
+  new WebObjectGeometryDelegate;
   new ApplicationEventDelegate;
   createCssColorDelegates();
 }

@@ -1,5 +1,5 @@
-// Gives: computed styles one by one and at once, and whether an element is shown at all (whatever its place and size).
-// Needs: runtime/natives, runtime/nodes, csscolor.
+// Gives: computed styles one by one and at once, whether an element is shown at all, what tells if it can take input.
+// Needs: runtime/natives, runtime/nodes, properties/values, csscolor.
 
 function __corvex__styleInfo(elem) {
   this.obj = elem;
@@ -103,6 +103,17 @@ function __corvex__isVisibleByStyle(elem) {
 
 function __corvex__isVisible(elem) {
   return __corvex__isSurelyVisible(elem) || __corvex__isVisibleByStyle(elem);
+}
+
+// The tag, whether the object is shown, whether it is disabled. Empty where one of them cannot be told.
+function __corvex__readiness(object) {
+  try {
+    var read = window.top.__corvex.getPropertyValue;
+    return "ready " + read(object, "tagName").replace(/\s*$/, "") + " " + __corvex__isVisible(object) + " " +
+      read(object, "disabled");
+  } catch (e) {
+    return "";
+  }
 }
 
 function __corvex__cssToPx(sizeVal) {

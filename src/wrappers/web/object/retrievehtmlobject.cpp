@@ -26,10 +26,12 @@ const char* const retrieveTemplate =
     "        return JSON.stringify({'refName': null, 'type': '[unknown]'});\n"
     "    }\n"
     "    var globalRefName = __corvex__idForObject( dummy );\n"
-    "    return JSON.stringify({'refName': globalRefName, 'type': __corvex__typeOf( dummy ) });\n"
-    "%2"
+    "    return JSON.stringify({'refName': globalRefName, 'type': __corvex__typeOf( dummy )%2 });\n"
+    "%3"
     "  }\n"
     "})();";
+
+int readinessWanted = 0;
 
 /// The conversions of values throw where the page sends something of another kind.
 ObjectResult objectFromAnswer(HTMLComponent* component, const Json::Value& root, const QString& raw,
@@ -46,6 +48,9 @@ ObjectResult objectFromAnswer(HTMLComponent* component, const Json::Value& root,
   }
   const QString reference = text(root["refName"]);
   HTML_Object* const object = htmlObjectFromReferenceInfo(component, text(root["type"]), reference, name);
+  if (object && root["ready"].isString()) {
+    object->keepReadiness(text(root["ready"]));
+  }
   return !object && !reference.isEmpty() && !isObjectReference(reference)
              ? ObjectResult::failure(QStringLiteral("The page gave a text that is no reference for an object: '%1'. It "
                                                     "replaces functions of the hook script.")
@@ -54,7 +59,8 @@ ObjectResult objectFromAnswer(HTMLComponent* component, const Json::Value& root,
 }
 
 QString retrieval(const QString& expression) {
-  return QString::fromLatin1(retrieveTemplate).arg(expression, QLatin1String(catchAsError));
+  const QLatin1String readiness(readinessWanted > 0 ? ", 'ready': __corvex__readiness( dummy )" : "");
+  return QString::fromLatin1(retrieveTemplate).arg(expression, readiness, QLatin1String(catchAsError));
 }
 
 ObjectResult objectFrom(HTMLComponent* component, const JavaScriptAnswer& answer, const QString& name) {
@@ -80,6 +86,10 @@ ObjectResult objectFrom(HTMLComponent* component, const JavaScriptAnswer& answer
 }
 
 }  // namespace
+
+ReadinessToo::ReadinessToo() { ++readinessWanted; }
+
+ReadinessToo::~ReadinessToo() { --readinessWanted; }
 
 ObjectResult htmlObjectFromJavaScriptResult(HTMLComponent* component, const QString& expression, const QString& name,
                                             unsigned int timeoutMs) {

@@ -20,6 +20,16 @@ CORVEX_WEBWRAPPER_EXPORT FunctionCallResult<HTML_Object*> htmlObjectFromJavaScri
 FunctionCallResult<HTML_Object*> htmlObjectFromAnyDocument(HTMLComponent* component, const QString& expression,
                                                            const QString& name, unsigned int timeoutMs);
 
+/// While one lives, objects that are retrieved are asked in the same evaluation for their readiness, which
+/// `isObjectReady` then takes for its first answer. For those who ask for it right after.
+class CORVEX_WEBWRAPPER_EXPORT ReadinessToo {
+public:
+  ReadinessToo();
+  ~ReadinessToo();
+  ReadinessToo(const ReadinessToo&) = delete;
+  ReadinessToo& operator=(const ReadinessToo&) = delete;
+};
+
 /// The object of the class that the page's type text stands for; null when the text names nothing. An unknown text
 /// gives a plain `HTML_Object`, and so does one whose extension has no name that could be one. Null for a text that is
 /// no reference. The caller owns the object.

@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include <utility>
+
 namespace Corvex::WebWrapper {
 
 class HTMLComponent;
@@ -142,6 +144,10 @@ public:
   /// Not owned.
   HTMLComponent* component;
 
+  /// What the page said of the object's readiness when it was retrieved; good for one use, right after that.
+  void keepReadiness(const QString& readiness) { m_readiness = readiness; }
+  QString takeReadiness() { return std::exchange(m_readiness, QString()); }
+
   /// The name as far as it is known without asking the page.
   const QString& knownName() const { return m_name; }
 
@@ -162,6 +168,9 @@ protected:
   /// Runs the code of a click and gives the page the time for it, whatever came back.
   JavaScriptAnswer runClickCode(const QString& code) const;
   FunctionCallResult<HTML_Object*> navigate(const QString& expression, const char* sentence);
+
+private:
+  QString m_readiness;
 };
 
 extern const ClassMembers HTML_Object_Class;

@@ -17,17 +17,10 @@ JavaScriptAnswer isVisible(const HTML_Object* object) {
 
 namespace {
 
-const char* const allAtOnce =
-    "(function() { try { return 'ready ' + window.top.__corvex.getPropertyValue( %1, 'tagName' ).replace(/\\s*$/, '') "
-    "+ "
-    "' ' + __corvex__isVisible( %1 ) + ' ' + window.top.__corvex.getPropertyValue( %1, 'disabled' ); } "
-    "catch( e ) { return ''; } }());";
-
-/// Asks the page once for all that decides. Nothing for answers that need a sentence of their own.
-std::optional<bool> readyAtOnce(const HTML_Object& object) {
-  const JavaScriptAnswer answer = object.evaluateJS(QString::fromLatin1(allAtOnce).arg(object.reference));
-  const QStringList words = answer.text.split(QLatin1Char(' '));
-  if (!answer.succeeded() || words.size() != 4 || words[0] != QLatin1String("ready") || words[1].isEmpty()) {
+/// Reads what the page says of all that decides. Nothing for answers that need a sentence of their own.
+std::optional<bool> readyAtOnce(const HTML_Object& object, const QString& readiness) {
+  const QStringList words = readiness.split(QLatin1Char(' '));
+  if (words.size() != 4 || words[0] != QLatin1String("ready") || words[1].isEmpty()) {
     return std::nullopt;
   }
   const bool isVisible = words[2] == QLatin1String("true");
@@ -38,6 +31,16 @@ std::optional<bool> readyAtOnce(const HTML_Object& object) {
   return words[1] == QLatin1String("HTML") || (isVisible && !isDisabled);
 }
 
+/// What the page said when it gave the object, or says now; empty where it fails.
+QString readinessOf(HTML_Object& object) {
+  const QString readiness = object.takeReadiness();
+  if (!readiness.isEmpty()) {
+    return readiness;
+  }
+  const JavaScriptAnswer answer = object.evaluateJS(QStringLiteral("__corvex__readiness( %1 );").arg(object.reference));
+  return answer.succeeded() ? answer.text : QString();
+}
+
 }  // namespace
 
 FunctionCallResult<bool> isObjectReady(HTML_Object* object) {
@@ -46,7 +49,7 @@ FunctionCallResult<bool> isObjectReady(HTML_Object* object) {
     return Result::success(true);
   }
   const bool isDocument = qstrcmp(object->className(), "HTML_Document") == 0;
-  const std::optional<bool> ready = isDocument ? std::nullopt : readyAtOnce(*object);
+  const std::optional<bool> ready = isDocument ? std::nullopt : readyAtOnce(*object, readinessOf(*object));
   if (ready) {
     return Result::success(*ready);
   }

@@ -19,8 +19,12 @@ constexpr PropertyRow properties[] = {
 };
 
 constexpr MethodRow methods[] = {
+    method<&HTML_XPathResult::booleanValue>("booleanValue"),
+    method<&HTML_XPathResult::numberValue>("numberValue"),
     method<&HTML_XPathResult::singleNodeValue>("singleNodeValue"),
     method<&HTML_XPathResult::snapshotItem>("snapshotItem", "index"),
+    method<&HTML_XPathResult::snapshotLength>("snapshotLength"),
+    method<&HTML_XPathResult::stringValue>("stringValue"),
 };
 
 /// A number as JavaScript writes it.

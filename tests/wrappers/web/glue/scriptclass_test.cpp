@@ -90,19 +90,10 @@ TEST_F(ScriptCalls, AnObjectInATextIsItsReference) {
   EXPECT_EQ(call(select, "invoke", {text("appendChild"), other})->toString(), QString("done"));
 }
 
-TEST_F(ScriptCalls, ListsAndOverloadsReachTheirMembers) {
+TEST_F(ScriptCalls, ListsReachTheirMembers) {
   page.answer("ref.focus();", "");
   page.answerValue("deselect( ref, __corvex__standardselectExtension.optionText, [\"a\",\"1\"] )", "null");
   EXPECT_TRUE(call(select, "deselectByTexts", {ArrayClass::wrapObject({text("a"), number(1)})}));
-  const Class* cls = select->objectClass();
-  QStringList clicks;
-  for (int id = 0; id < cls->numMethods(); ++id) {
-    if (cls->method(id)->name() == QLatin1String("click")) {
-      clicks << cls->method(id)->signature().text();
-    }
-  }
-  EXPECT_EQ(clicks.size(), 5);
-  EXPECT_EQ(clicks.last(), QString("modifierState: int, x: int, y: int, button: int"));
 }
 
 TEST_F(ScriptCalls, ASubclassAnswersForItsSuperClasses) {
@@ -120,6 +111,4 @@ TEST_F(ScriptCalls, DescriptionsAreMadeOnce) {
   EXPECT_EQ(cls->method(id), cls->method(id));
   EXPECT_EQ(cls->createMethod(cls->numMethods()), nullptr);
   EXPECT_EQ(cls->createProperty(cls->numProperties()), nullptr);
-  EXPECT_FALSE(cls->property("width")->isWritable());
-  EXPECT_TRUE(cls->property("selectedLabels")->isWritable());
 }

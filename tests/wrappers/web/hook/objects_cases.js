@@ -192,6 +192,11 @@ test("visibility asks for display of all parents, and for visibility of the elem
 }, ({ el }) => [el("a"), el("b"), el("c"), el("d"), null, document, document.createElement("p")].map(__corvex__isVisible),
 [false, false, true, true, true, true, true]);
 
+test("what tells whether an object can take input, in one answer", {
+  page: '<input id="a" disabled><p id="b" style="display:none"></p><form id="c"><input name="tagName"></form>'
+}, ({ el }) => [el("a"), el("b"), el("c"), document.documentElement, null, {}].map(__corvex__readiness),
+["ready INPUT true true", "ready P false ", "", "ready HTML true ", "ready  true ", "ready  true "]);
+
 test("computed styles and pixel values", { page: '<p id="p" style="margin-left:12px"></p>' }, ({ el }) => {
   const style = new __corvex__styleInfo(el("p"));
   return [style.styleProperty("marginLeft"), style.styleProperty() === undefined,

@@ -39,27 +39,34 @@ protected:
 TEST_F(WebObject, GettersAskThePageInTheirWords) {
   const QString plain = "{'result': window.top.__corvex.getPropertyValue( ref, '%1' ).replace(/\\s*$/, '')}";
   const QString rect = "{'result': window.top.__corvex.getElementRectAsObject( ref ).%1}";
+  const struct {
+    const char* getter;
+    QString code;
+  } rows[] = {
+      {"id", plain.arg("id")},
+      {"innerText", plain.arg("innerText")},
+      {"innerHTML", plain.arg("innerHTML")},
+      {"tagName", plain.arg("tagName")},
+      {"title", plain.arg("title")},
+      {"styleDisplay", plain.arg("style.display")},
+      {"domClassName", plain.arg("className")},
+      {"simplifiedInnerText", envelope("window.top.__corvex.getSimplifiedInnerText( ref )")},
+      {"x", rect.arg("x")},
+      {"y", rect.arg("y")},
+      {"width", rect.arg("width")},
+      {"height", rect.arg("height")},
+      {"numChildren", envelope("__corvexDOMAPI.numChildren( ref )")},
+  };
+  page.fail(QString(), "gone");
+  for (const auto& row : rows) {
+    EXPECT_FALSE(call(wrapped<HTML_Object>(), row.getter));
+    EXPECT_EQ(scriptError(), QStringLiteral("Error retrieving %1: gone").arg(row.getter));
+    EXPECT_TRUE(page.takeCodes().join("\n").contains(row.code)) << row.getter;
+  }
   check({
-      {[](HTML_Object& o) { return o.id().error; }, plain.arg("id"), "Error retrieving id: gone"},
-      {[](HTML_Object& o) { return o.innerText().error; }, plain.arg("innerText"), "Error retrieving innerText: gone"},
-      {[](HTML_Object& o) { return o.innerHTML().error; }, plain.arg("innerHTML"), "Error retrieving innerHTML: gone"},
-      {[](HTML_Object& o) { return o.tagName().error; }, plain.arg("tagName"), "Error retrieving tagName: gone"},
-      {[](HTML_Object& o) { return o.title().error; }, plain.arg("title"), "Error retrieving title: gone"},
-      {[](HTML_Object& o) { return o.styleDisplay().error; }, plain.arg("style.display"),
-       "Error retrieving styleDisplay: gone"},
-      {[](HTML_Object& o) { return o.domClassName().error; }, plain.arg("className"),
-       "Error retrieving domClassName: gone"},
-      {[](HTML_Object& o) { return o.simplifiedInnerText().error; },
-       envelope("window.top.__corvex.getSimplifiedInnerText( ref )"), "Error retrieving simplifiedInnerText: gone"},
       {[](HTML_Object& o) { return o.hierarchicalQualifiedName().error; },
        envelope("__corvex__qualifiedName( ref ).replace(/\\s*$/, '')"),
        "Error while generating hierarchical name: gone"},
-      {[](HTML_Object& o) { return o.x().error; }, rect.arg("x"), "Error retrieving x: gone"},
-      {[](HTML_Object& o) { return o.y().error; }, rect.arg("y"), "Error retrieving y: gone"},
-      {[](HTML_Object& o) { return o.width().error; }, rect.arg("width"), "Error retrieving width: gone"},
-      {[](HTML_Object& o) { return o.height().error; }, rect.arg("height"), "Error retrieving height: gone"},
-      {[](HTML_Object& o) { return o.numChildren().error; }, envelope("__corvexDOMAPI.numChildren( ref )"),
-       "Error retrieving numChildren: gone"},
       {[](HTML_Object& o) { return o.visible().error; }, envelope("__corvex__isVisible( ref )"),
        "Error determining visibility: gone"},
       {[](HTML_Object& o) { return o.hasFocus().error; }, envelope("window.top.__corvex.hasFocus( ref )"),

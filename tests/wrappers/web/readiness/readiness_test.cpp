@@ -3,6 +3,8 @@
 #include "wrappers/web/elements/html_document.h"
 #include "wrappers/web/elements/html_text.h"
 #include "wrappers/web/object/queryrectanglewithfunction.h"
+#include "wrappers/web/object/retrievehtmlobject.h"
+#include "wrappers/web/readiness/webobjectgeometrydelegate.h"
 #include "wrappers/web/webtest.h"
 
 using namespace Corvex;
@@ -61,11 +63,32 @@ TEST_F(Readiness, IsUsuallyAskedForAtOnce) {
   };
   for (const auto& row : cases) {
     page.calls.clear();
-    page.answer("return 'ready '", row.answer);
+    page.answer("__corvex__readiness", row.answer);
     EXPECT_EQ(isReady(&object), row.isReady) << row.answer;
     EXPECT_EQ(isReady(&field), row.isFieldReady) << row.answer;
     EXPECT_EQ(page.calls.size(), 2U);
   }
+}
+
+TEST_F(Readiness, IsToldWithAnObjectToThoseWhoAskForBoth) {
+  page.answer("__corvex__findObject", R"({"refName":"@field@","type":"text","ready":"ready INPUT true true"})");
+  const auto find = [this] {
+    return std::unique_ptr<HTML_Object>(
+        htmlObjectFromJavaScriptResult(&page, "__corvex__findObject('f')", "", 0).value);
+  };
+  std::unique_ptr<HTML_Object> found;
+  {
+    const ReadinessToo readinessToo;
+    found = find();
+  }
+  EXPECT_TRUE(page.calls[0].code.contains("'ready': __corvex__readiness( dummy )"));
+  EXPECT_FALSE(isReady(found.get()));
+  EXPECT_EQ(page.calls.size(), 1U);
+  // What was true then is no answer to a second question.
+  page.answer("__corvex__readiness( field )", "ready INPUT true false");
+  EXPECT_TRUE(isReady(found.get()));
+  find();
+  EXPECT_FALSE(page.calls[2].code.contains("ready"));
 }
 
 TEST_F(Readiness, AFormElementMustBeEnabledToo) {
@@ -117,6 +140,37 @@ TEST_F(Rectangles, ScrollIntoViewFirstIfAsked) {
   EXPECT_EQ(getScreenRect(nullptr, false).error, QString("No valid HTML object provided to getScreenRect function"));
   const HTML_Object homeless("", "ref", nullptr);
   EXPECT_EQ(getScreenRect(&homeless, false).error, QString("HTML object has no component, cannot obtain rectangle"));
+}
+
+TEST_F(Rectangles, AreToldToTheFramework) {
+  const SharedPtr<Object> object = wrapped<HTML_Text>();
+  const auto* geometry = dynamic_cast<const GeometryDelegate*>(
+      DelegateFactory::self()->delegate(object->objectClass(), Delegate::GeometryDelegateType));
+  ASSERT_TRUE(geometry);
+  EXPECT_EQ(geometry->globalBounds(nullptr), (GlobalBounds{0, 0, 0, 0, -1}));
+  const struct {
+    const char* answer;
+    GlobalBounds bounds;
+  } cases[] = {
+      {"5,6,30,40", {5, 6, 30, 40, -1}},
+      {"0,0,0,0", {0, 0, 0, 0, -1}},
+      {"-1,-1,-1,-1", {-1, -1, -1, -1, -1}},
+      {"1,2,3", {0, 0, -1, -1, -1}},
+  };
+  for (const auto& row : cases) {
+    page.answer("__corvex__getScreenRectAsObject", row.answer);
+    EXPECT_EQ(geometry->globalBounds(object), row.bounds) << row.answer;
+  }
+  EXPECT_FALSE(page.takeCodes().join(' ').contains("scroll"));
+
+  page.answer("__corvex__getScreenRectAsObject", "5,6,30,40");
+  EXPECT_EQ(geometry->nativeGlobalBounds(object), (GlobalBounds{5, 6, 30, 40, -1}));
+  const auto relative = geometry->globalToRelative(object, {7, 9});
+  EXPECT_EQ(QPoint(relative.x, relative.y), QPoint(2, 3));
+  const auto global = geometry->relativeToGlobal(object, {2, 3});
+  EXPECT_EQ(QPoint(global.x, global.y), QPoint(7, 9));
+  EXPECT_EQ(geometry->childAt(object, 1, 1), nullptr);
+  EXPECT_EQ(geometry->focusProxy(object), object);
 }
 
 TEST_F(Rectangles, CutFractionsOfJson) {
