@@ -114,6 +114,12 @@ QString Typing::type(ActionTarget& target, const QString& text, bool hasKeys) co
   if (!error.isEmpty()) {
     return error;
   }
+  if (target.needsPage()) {
+    const QString code = QStringLiteral("__corvex__setTextFieldValue(%1, '");
+    const JavaScriptAnswer answer =
+        target.ask(code + WebWrapper::escapeForUseAsStringLiteral(text) + QStringLiteral("')"));
+    return answer.succeeded() ? QString() : answer.text;
+  }
   if (kind.isEmpty() || kind == QLatin1String("readonly")) {
     return target.failure(kind.isEmpty() ? QStringLiteral("it takes no text") : QStringLiteral("it is read-only"));
   }

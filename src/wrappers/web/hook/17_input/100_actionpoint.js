@@ -139,6 +139,10 @@ var __corvex__actionPoint = (function () {
     if (!o.isConnected || !viewOf(o)) {
       return "gone";
     }
+    // A window of its own that this page opened, and that nothing else drives.
+    if (viewOf(o).top !== window.top) {
+      return "page";
+    }
     if (!rectOf(o) || !__corvex__isVisibleByStyle(o)) {
       return "hidden";
     }

@@ -1,5 +1,5 @@
 // Gives: __corvex__chooseValue: a date, a colour and so on, as a choice by hand gives it to a field.
-// Needs: runtime/nodes.
+// Needs: runtime/builtins, runtime/nodes.
 
 // Sets the value of a field that has no text to type, as a choice by hand does. "" or "unknown" for what it does not take.
 var __corvex__chooseValue = (function () {
@@ -16,6 +16,13 @@ var __corvex__chooseValue = (function () {
     o.dispatchEvent(event);
   }
 
+  // Browsers write a value in a form of their own.
+  var isTaken = __corvex__withBuiltIns(function (o, value) {
+    var isNumber = o.type === "range" && value !== "" && !isNaN(Number(value));
+    return o.value === value || (o.type === "color" && o.value === value.toLowerCase()) ||
+      (isNumber && Number(o.value) === Number(value)) || (o.value !== "" && value.indexOf(o.value) === 0);
+  });
+
   return function (o, value) {
     o.focus();
     var before = o.value;
@@ -25,10 +32,7 @@ var __corvex__chooseValue = (function () {
     } else {
       o.value = value;
     }
-    var isTaken = o.value === value || (o.type === "color" && o.value === value.toLowerCase()) ||
-      (o.type === "range" && value !== "" && !isNaN(Number(value)) && Number(o.value) === Number(value)) ||
-      (o.value !== "" && value.indexOf(o.value) === 0);
-    if (!isTaken) {
+    if (!isTaken(o, value)) {
       if (setter) {
         setter.call(o, before);
       }
