@@ -31,6 +31,7 @@ public:
   Corvex::FunctionCallResult<QImage> screenshot(bool) override { return {}; }
   Corvex::FunctionCallResult<double> zoomFactor() override { return {1.0, {}}; }
   QString perform(const Corvex::Webhook::InputSteps&) override { return QString(); }
+  void awaitNavigation() override {}
   QString setFiles(const QString&, const QStringList&) override { return QString(); }
   std::optional<Corvex::Webhook::Dialog> openDialog() const override { return dialog; }
   QString answerDialog(bool, const QString&) override { return QString(); }

@@ -51,6 +51,10 @@ public:
   /// taken it. What the input leads to is no error: a dialog, another document, the page's end.
   virtual QString perform(const InputSteps& steps) = 0;
 
+  /// Where the page is on its way to another document, waits until that is there or does not come; but not for ever,
+  /// since not all browsers tell of the latter.
+  virtual void awaitNavigation() = 0;
+
   virtual std::optional<Dialog> openDialog() const = 0;
 
   /// Ends the open dialog. `text` goes into a prompt's field; a null text leaves what is there.

@@ -9,8 +9,16 @@
 
 namespace Corvex::Webhook {
 
+namespace {
+
+const int longestNavigationMs = 5000;
+
+}  // namespace
+
 ProtocolPage::ProtocolPage(Channel& channel, const BrowserSession& session, const QString& address, const QString& url)
-    : m_channel(channel), m_session(session), m_address(address), m_url(url) {}
+    : m_channel(channel), m_session(session), m_address(address), m_url(url) {
+  m_navigation->complete();
+}
 
 ProtocolPage::~ProtocolPage() {
   ProtocolPage::endOpenCalls(PageErrors::pageClosed());
@@ -91,6 +99,19 @@ QString ProtocolPage::perform(const InputSteps& steps) {
   return isOutcome ? QString() : error;
 }
 
+void ProtocolPage::awaitNavigation() {
+  const std::shared_ptr<Pending> navigation = m_navigation;
+  if (!navigation->isComplete()) {
+    waitFor(*navigation, QDeadlineTimer(qMin(longestNavigationMs, m_session.defaultTimeout())));
+  }
+}
+
+void ProtocolPage::noteNavigationBegun() {
+  if (m_navigation->isComplete()) {
+    m_navigation = std::make_shared<Pending>();
+  }
+}
+
 QString ProtocolPage::answerDialog(bool accept, const QString& text) {
   if (!m_whyClosed.isEmpty()) {
     return m_whyClosed;
@@ -156,6 +177,7 @@ void ProtocolPage::noteCrashed() {
 void ProtocolPage::takeDocument(const QString& document, const QString& url) {
   m_url = url;
   m_crashed = false;
+  noteNavigationEnded();
   for (const auto& loading : m_loadings) {
     loading->noteDocument(document);
   }
@@ -175,6 +197,7 @@ void ProtocolPage::takeDialog(const Dialog& dialog) {
 
 void ProtocolPage::endOpenCalls(const QString& error) {
   m_channel.cancelSession(m_address, error);
+  noteNavigationEnded();
   for (const auto& loading : m_loadings) {
     loading->fail(error);
   }

@@ -22,6 +22,7 @@ public:
   QString navigate(const QString& url, int timeoutMs) override;
   QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
   QString perform(const InputSteps& steps) override;
+  void awaitNavigation() override;
   std::optional<Dialog> openDialog() const override { return m_dialog; }
   QString answerDialog(bool accept, const QString& text) override;
   QString close() override;
@@ -57,6 +58,9 @@ protected:
   Channel& channel() const { return m_channel; }
 
   void takeUrl(const QString& url) { m_url = url; }
+  /// The page began to load a document in place of its own, and that came, or will not.
+  void noteNavigationBegun();
+  void noteNavigationEnded() { m_navigation->complete(); }
   /// Another document is there. A listener may delete the page.
   void takeDocument(const QString& document, const QString& url);
   /// A dialog opened; the question whether to leave a page that is being left is answered here.
@@ -75,6 +79,7 @@ private:
   std::optional<Dialog> m_dialog;
   int m_dialogCount = 0;
   std::vector<std::shared_ptr<PageLoading>> m_loadings;
+  std::shared_ptr<Pending> m_navigation = std::make_shared<Pending>();  ///< Complete while none is under way.
   std::shared_ptr<Pending> m_closing = std::make_shared<Pending>();
 };
 

@@ -138,6 +138,16 @@ QString Connection::perform(const InputSteps& steps) {
   return error;
 }
 
+void Connection::awaitOutcome() {
+  // A form is sent a moment after the key that sends it.
+  if (isAvailable()) {
+    ask(QStringLiteral("0"), 0);
+  }
+  if (m_page) {
+    m_page->awaitNavigation();
+  }
+}
+
 QString Connection::close() { return m_page ? m_page->close() : QString(); }
 
 bool Connection::isOpen() const { return m_page && m_page->isOpen(); }

@@ -13,7 +13,10 @@ namespace {
 const char* const events[] = {
     "browsingContext.contextCreated",
     "browsingContext.contextDestroyed",
+    "browsingContext.navigationStarted",
     "browsingContext.navigationCommitted",
+    "browsingContext.navigationFailed",
+    "browsingContext.downloadWillBegin",
     "browsingContext.fragmentNavigated",
     "browsingContext.historyUpdated",
     "browsingContext.load",

@@ -144,6 +144,10 @@ std::optional<NewDocument> readNewDocument(const QJsonObject& event) {
   return NewDocument{textAt(frame, "loaderId"), textAt(frame, "url") + textAt(frame, "urlFragment")};
 }
 
+bool leavesDocument(const QJsonObject& event, const QString& page) {
+  return textAt(event, "frameId") == page && textAt(event, "disposition") == QLatin1String("currentTab");
+}
+
 Command evaluate(const QString& code, const QString& group, int timeoutMs) {
   return command("Runtime.evaluate", {{QStringLiteral("expression"), code},
                                       {QStringLiteral("objectGroup"), group},

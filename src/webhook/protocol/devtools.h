@@ -55,6 +55,9 @@ struct NewDocument {
 };
 std::optional<NewDocument> readNewDocument(const QJsonObject& event);
 
+/// Whether a request for a document, from its event, is to replace the one of the top frame, which has its page's id.
+bool leavesDocument(const QJsonObject& event, const QString& page);
+
 // A page: evaluation.
 
 /// Plain code in the top frame's own world. Handles that its answer holds live in `group`; the browser ends code that

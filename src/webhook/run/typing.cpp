@@ -82,7 +82,11 @@ QString Typing::typeText(const SharedPtr<Object>& object, const QString& text) c
 
 QString Typing::setText(const SharedPtr<Object>& object, const QString& text) const { return put(object, text, false); }
 
-QString Typing::pressKeys(Connection& page, const QString& text) { return page.perform(stepsFor(parseKeyText(text))); }
+QString Typing::pressKeys(Connection& page, const QString& text) {
+  const QString error = page.perform(stepsFor(parseKeyText(text)));
+  page.awaitOutcome();
+  return error;
+}
 
 QString Typing::put(const SharedPtr<Object>& object, const QString& text, bool hasKeys) const {
   ActionTarget target(object, "given text", m_isStrict);
@@ -133,6 +137,7 @@ QString Typing::type(ActionTarget& target, const QString& text, bool hasKeys) co
     target.ask(QStringLiteral("__corvex__typingCheck.begin()"));
   }
   const QString failed = target.perform(steps);
+  target.connection().awaitOutcome();
   if (!failed.isEmpty() || !isChecked || !target.connection().isAvailable()) {
     return failed;
   }

@@ -194,6 +194,9 @@ void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
   using Handler = void (BidiPage::*)(const QJsonObject&);
   static const QHash<QString, Handler> handlers{
       {QStringLiteral("browsingContext.navigationCommitted"), &BidiPage::onNavigationCommitted},
+      {QStringLiteral("browsingContext.navigationStarted"), &BidiPage::onNavigationStarted},
+      {QStringLiteral("browsingContext.navigationFailed"), &BidiPage::onNavigationEnded},
+      {QStringLiteral("browsingContext.downloadWillBegin"), &BidiPage::onNavigationEnded},
       {QStringLiteral("browsingContext.fragmentNavigated"), &BidiPage::onNavigatedWithinDocument},
       {QStringLiteral("browsingContext.historyUpdated"), &BidiPage::onNavigatedWithinDocument},
       {QStringLiteral("browsingContext.load"), &BidiPage::onLoad},
@@ -215,6 +218,10 @@ void BidiPage::onNavigationCommitted(const QJsonObject& parameters) {
   }
   takeDocument(document.navigation, document.url);
 }
+
+void BidiPage::onNavigationStarted(const QJsonObject&) { noteNavigationBegun(); }
+
+void BidiPage::onNavigationEnded(const QJsonObject&) { noteNavigationEnded(); }
 
 void BidiPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
   const Bidi::Document document = Bidi::readDocument(parameters);

@@ -52,6 +52,8 @@ private:
 
   void takeEvent(const QString& method, const QJsonObject& parameters);
   void onNavigationCommitted(const QJsonObject& parameters);
+  void onNavigationStarted(const QJsonObject& parameters);
+  void onNavigationEnded(const QJsonObject& parameters);
   void onNavigatedWithinDocument(const QJsonObject& parameters);
   void onLoad(const QJsonObject& parameters);
   void onRealmCreated(const QJsonObject& parameters);

@@ -116,6 +116,8 @@ void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameter
   using Handler = void (DevToolsPage::*)(const QJsonObject&);
   static const QHash<QString, Handler> handlers{
       {QStringLiteral("Page.frameNavigated"), &DevToolsPage::onFrameNavigated},
+      {QStringLiteral("Page.frameRequestedNavigation"), &DevToolsPage::onNavigationRequested},
+      {QStringLiteral("Page.frameStoppedLoading"), &DevToolsPage::onStoppedLoading},
       {QStringLiteral("Page.navigatedWithinDocument"), &DevToolsPage::onNavigatedWithinDocument},
       {QStringLiteral("Page.lifecycleEvent"), &DevToolsPage::onLifecycleEvent},
       {QStringLiteral("Page.javascriptDialogOpening"), &DevToolsPage::onDialogOpening},
@@ -143,6 +145,18 @@ void DevToolsPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
   takeUrl(parameters.value(QLatin1String("url")).toString());
   for (const auto& loading : loadings()) {
     loading->noteSameDocument();
+  }
+}
+
+void DevToolsPage::onNavigationRequested(const QJsonObject& parameters) {
+  if (DevTools::leavesDocument(parameters, m_target)) {
+    noteNavigationBegun();
+  }
+}
+
+void DevToolsPage::onStoppedLoading(const QJsonObject& parameters) {
+  if (parameters.value(QLatin1String("frameId")).toString() == m_target) {
+    noteNavigationEnded();
   }
 }
 

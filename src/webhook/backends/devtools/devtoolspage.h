@@ -33,6 +33,8 @@ private:
 
   void takeEvent(const QString& method, const QJsonObject& parameters);
   void onFrameNavigated(const QJsonObject& parameters);
+  void onNavigationRequested(const QJsonObject& parameters);
+  void onStoppedLoading(const QJsonObject& parameters);
   void onNavigatedWithinDocument(const QJsonObject& parameters);
   void onLifecycleEvent(const QJsonObject& parameters);
   void onDialogOpening(const QJsonObject& parameters);
