@@ -37,8 +37,9 @@ inline bool operator==(const ScreenRectangle& a, const ScreenRectangle& b) {
 }
 
 namespace MouseButton {
-enum Value { Left = 1, Right = 2, Middle = 4 };
-}
+/// The default button is the left one.
+enum Value { Default = 0, Left = 1, Right = 2, Middle = 4 };
+}  // namespace MouseButton
 
 /// The script class "ScreenRectangle" with the read-only properties x, y, width, height.
 CORVEXHOOK_EXPORT const Class* objectModelScreenRectangleClass();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "corvexhook/export.h"
-#include "corvexhook/geometry.h"
+#include "corvexhook/nativeinterface.h"
 
 #include <QString>
 #include <QVariantList>
@@ -12,14 +12,6 @@ namespace Corvex {
 
 /// Arguments of a message to the test runner.
 using ArgumentList = QVariantList;
-
-/// Native input at the screen. The embedding process supplies one where the machine has a screen to click on.
-class CORVEXHOOK_EXPORT NativeInterface {
-public:
-  virtual ~NativeInterface();
-  virtual void pointerClick(MouseButton::Value button, Point<CoordinateSystem::Screen> position) = 0;
-  virtual void typeKeys(const QString& text) = 0;
-};
 
 /// The process-wide road to the test runner.
 class CORVEXHOOK_EXPORT Hook {
@@ -33,8 +25,10 @@ public:
   void send(int kind, const QString& text, const ArgumentList& arguments);
   void setReceiver(const Receiver& receiver) { m_receiver = receiver; }
 
-  /// Null where nothing native can be done.
-  NativeInterface* nativeInterface() const { return m_nativeInterface; }
+  /// Native input, that to this machine's screen unless another one was set. Never null: where there is no screen, each
+  /// operation says so.
+  NativeInterface* nativeInterface() const { return m_nativeInterface ? m_nativeInterface : &screenInput(); }
+  /// The new one stays its owner's; null puts the screen's back.
   void setNativeInterface(NativeInterface* nativeInterface) { m_nativeInterface = nativeInterface; }
 
 private:

@@ -9,7 +9,7 @@
 #include <ostream>
 
 #include "geometry/paintedarea.h"
-#include "geometry/screenbrowser.h"
+#include "support/screenbrowser.h"
 #include "support/printing.h"
 #include "support/testbrowser.h"
 

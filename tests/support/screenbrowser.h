@@ -7,7 +7,7 @@
 #include <functional>
 #include <memory>
 
-#include "geometry/virtualscreen.h"
+#include "support/virtualscreen.h"
 #include "support/testserver.h"
 #include "webhook/browser/browsersession.h"
 #include "webhook/pages/connection.h"

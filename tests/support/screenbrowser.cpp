@@ -1,4 +1,4 @@
-#include "geometry/screenbrowser.h"
+#include "support/screenbrowser.h"
 
 #include <gtest/gtest.h>
 
