@@ -105,6 +105,13 @@ QString BrowserControl::whyNoWindow() const {
                               : QStringLiteral("The browser window is closed. Call startBrowser(url) to open another.");
 }
 
+QString BrowserControl::whyNoScreen() const {
+  const bool isOthers = !m_options.remoteUrl.isEmpty() || !m_options.attachTo.isEmpty();
+  return m_options.headed || isOthers
+             ? QString()
+             : QStringLiteral("The browser shows no window for native input. Run the script with --headed.");
+}
+
 QString BrowserControl::whyNotAskPage(Connection* window) const {
   const QString noWindow = whyNoWindow();
   if (!noWindow.isEmpty()) {

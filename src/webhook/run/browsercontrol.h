@@ -38,6 +38,8 @@ public:
   // Sentences that are empty when all is well.
   QString whyLost() const;
   QString whyNoWindow() const;
+  /// Why no window of the browser can be on the screen.
+  QString whyNoScreen() const;
   /// Of the current window, or of another one.
   QString whyNotAskPage(Connection* window = nullptr) const;
   /// Whether, at any time, a browser could not be started or was lost.
