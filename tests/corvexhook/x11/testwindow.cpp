@@ -15,7 +15,11 @@ QString described(const XKeyEvent& event) {
   KeySym symbol = 0;
   unsigned int used = 0;
   XkbLookupKeySym(event.display, static_cast<KeyCode>(event.keycode), event.state, &used, &symbol);
-  const QString name = QString::fromLatin1(XKeysymToString(symbol));
+  // Xlib leaks the names of these.
+  const QString name =
+      symbol >> 24 == 1
+          ? QLatin1Char('U') + QString::number(symbol & 0xffffff, 16).toUpper().rightJustified(4, QLatin1Char('0'))
+          : QString::fromLatin1(XKeysymToString(symbol));
   const unsigned int more = event.state & ~used;
   return QLatin1String(event.state & ControlMask ? "Ctrl+" : "") + QLatin1String(more & Mod1Mask ? "Alt+" : "") +
          QLatin1String(more & ShiftMask ? "Shift+" : "") + name;
