@@ -8,8 +8,6 @@ Hook theHook;
 
 }  // namespace
 
-NativeInterface::~NativeInterface() = default;
-
 Hook* Hook::hook = &theHook;
 
 void Hook::send(int kind, const QString& text, const ArgumentList& arguments) {

@@ -25,8 +25,10 @@ public:
   void send(int kind, const QString& text, const ArgumentList& arguments);
   void setReceiver(const Receiver& receiver) { m_receiver = receiver; }
 
-  /// Null where nothing native can be done.
-  NativeInterface* nativeInterface() const { return m_nativeInterface; }
+  /// Native input, that to this machine's screen unless another one was set. Never null: where there is no screen, each
+  /// operation says so.
+  NativeInterface* nativeInterface() const { return m_nativeInterface ? m_nativeInterface : &screenInput(); }
+  /// The new one stays its owner's; null puts the screen's back.
   void setNativeInterface(NativeInterface* nativeInterface) { m_nativeInterface = nativeInterface; }
 
 private:

@@ -2,6 +2,8 @@
 //   @settings KEY=value       for the user's webwrapper.ini
 //   @options OPTION...        for the program
 //   @map :NAME REAL NAME      an entry of objects.map
+//   @file TEXT NAME           a file beside the script
+//   @screen WIDTH HEIGHT      a screen of its own
 //   @exit CODE TEXT           the exit code that is expected, and what the output then holds
 //   @not BROWSER REASON       the browser cannot do it
 
@@ -9,15 +11,19 @@
 
 #include <QRegularExpression>
 
+#include <memory>
+
 #include "e2e/pagesite.h"
 #include "support/files.h"
 #include "support/printing.h"
+#include "support/virtualscreen.h"
 
 namespace {
 
 using TestSupport::PageSite;
 using TestSupport::ProgramResult;
 using TestSupport::readFile;
+using TestSupport::VirtualScreen;
 
 QStringList marks(const QString& script, const char* name) {
   const QRegularExpression line(QStringLiteral("^// @%1 (.*)$").arg(QLatin1String(name)),
@@ -41,6 +47,23 @@ void writeObjectMap(PageSite& site, const QStringList& entries) {
     text += entry.left(blank) + QLatin1Char('\t') + entry.mid(blank + 1) + QLatin1Char('\n');
   }
   site.program().write(QStringLiteral("objects.map"), text);
+}
+
+void writeFiles(PageSite& site, const QStringList& files) {
+  for (const QString& file : files) {
+    site.program().write(file.section(QLatin1Char(' '), 1), file.section(QLatin1Char(' '), 0, 0));
+  }
+}
+
+std::unique_ptr<VirtualScreen> screenFor(PageSite& site, const QStringList& sizes) {
+  if (sizes.isEmpty()) {
+    return nullptr;
+  }
+  const QStringList size = sizes.first().split(QLatin1Char(' '));
+  auto screen = std::make_unique<VirtualScreen>(QSize(size.value(0).toInt(), size.value(1).toInt()));
+  EXPECT_EQ(screen->error(), QString());
+  site.program().setEnvironment(QStringLiteral("DISPLAY"), QString::fromLatin1(screen->display()));
+  return screen;
 }
 
 std::vector<std::string> scriptsIn(const char* folder) {
@@ -68,6 +91,8 @@ TEST_P(Scripts, Pass) {
   PageSite site;
   writeSettings(site, marks(script, "settings"));
   writeObjectMap(site, marks(script, "map"));
+  writeFiles(site, marks(script, "file"));
+  const std::unique_ptr<VirtualScreen> screen = screenFor(site, marks(script, "screen"));
   site.write(QStringLiteral("test.js"), script);
   const QStringList options =
       marks(script, "options").join(QLatin1Char(' ')).split(QLatin1Char(' '), Qt::SkipEmptyParts);

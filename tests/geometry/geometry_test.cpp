@@ -9,8 +9,8 @@
 #include <ostream>
 
 #include "geometry/paintedarea.h"
-#include "geometry/screenbrowser.h"
 #include "support/printing.h"
+#include "support/screenbrowser.h"
 #include "support/testbrowser.h"
 
 namespace {

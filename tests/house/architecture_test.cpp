@@ -23,7 +23,8 @@ struct Room {
 const Room rooms[] = {
     {"shared", ""},
     {"tracelib", "shared"},
-    {"corvexhook", "shared tracelib"},
+    {"corvexhook/x11", "shared"},
+    {"corvexhook", "shared tracelib corvexhook/x11"},
     {"scripting", "corvexhook"},
     {"scripting/report", "scripting"},
     {"scripting/objects", "scripting"},
@@ -44,7 +45,7 @@ const Room rooms[] = {
     {"wrappers/web/toolkits", "wrappers/web/itemviews"},
     {"wrappers/web/tables", "wrappers/web/widgets wrappers/common"},
     {"wrappers/web/readiness", "wrappers/web/elements"},
-    {"wrappers/web/input", "wrappers/web/readiness"},
+    {"wrappers/web/input", "wrappers/web/readiness wrappers/web/widgets"},
     {"wrappers/web/recording", "wrappers/web/glue"},
     {"wrappers/web/dump", "wrappers/web/readiness"},
     {"wrappers/web/picking", "wrappers/web/page"},

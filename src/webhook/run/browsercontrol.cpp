@@ -1,5 +1,6 @@
 #include "webhook/run/browsercontrol.h"
 
+#include "corvexhook/hook.h"
 #include "corvexhook/inspector.h"
 #include "shared/wait.h"
 #include "wrappers/web/page/escaping.h"
@@ -16,13 +17,17 @@ const int loadIntervalMs = 20;
 
 }  // namespace
 
-BrowserControl::BrowserControl(const SessionOptions& options) : m_options(options), m_services(*this, m_model) {
+BrowserControl::BrowserControl(const SessionOptions& options) : m_options(options), m_services(*this, m_model), m_hiddenScreen(whyNoScreen()) {
   Inspector::self()->setHostServices(&m_services);
+  if (!whyNoScreen().isEmpty()) {
+    Hook::hook->setNativeInterface(&m_hiddenScreen);
+  }
 }
 
 BrowserControl::~BrowserControl() {
   closeBrowser();
   Inspector::self()->setHostServices(nullptr);
+  Hook::hook->setNativeInterface(nullptr);
 }
 
 QString BrowserControl::startBrowser(const QString& address) {
@@ -103,6 +108,13 @@ QString BrowserControl::whyNoWindow() const {
   }
   return m_windows->current() ? QString()
                               : QStringLiteral("The browser window is closed. Call startBrowser(url) to open another.");
+}
+
+QString BrowserControl::whyNoScreen() const {
+  const bool isOthers = !m_options.remoteUrl.isEmpty() || !m_options.attachTo.isEmpty();
+  return m_options.headed || isOthers
+             ? QString()
+             : QStringLiteral("The browser shows no window for native input. Run the script with --headed.");
 }
 
 QString BrowserControl::whyNotAskPage(Connection* window) const {

@@ -8,6 +8,7 @@
 #include "webhook/pages/messagedispatcher.h"
 #include "webhook/pages/webmodel.h"
 #include "webhook/run/browserservices.h"
+#include "webhook/run/hiddenscreen.h"
 #include "wrappers/web/setup/wrapperconfig.h"
 
 #include <QString>
@@ -38,6 +39,8 @@ public:
   // Sentences that are empty when all is well.
   QString whyLost() const;
   QString whyNoWindow() const;
+  /// Why no window of the browser can be on the screen.
+  QString whyNoScreen() const;
   /// Of the current window, or of another one.
   QString whyNotAskPage(Connection* window = nullptr) const;
   /// Whether, at any time, a browser could not be started or was lost.
@@ -64,6 +67,7 @@ private:
   WebWrapper::FileSystemBasedConfig m_config;
   WebModel m_model;
   BrowserServices m_services;
+  HiddenScreen m_hiddenScreen;
   std::unique_ptr<BrowserSession> m_session;
   std::unique_ptr<MessageEndpoint> m_endpoint;
   std::unique_ptr<BrowserWindows> m_windows;

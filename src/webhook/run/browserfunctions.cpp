@@ -1,15 +1,15 @@
 #include "webhook/run/browserfunctions.h"
 
 #include "corvexhook/arrayclass.h"
-#include "corvexhook/hostservices.h"
 #include "corvexhook/inspector.h"
-#include "corvexhook/primitives.h"
 #include "shared/wait.h"
 #include "webhook/pages/contexts.h"
 #include "webhook/run/browsercontrol.h"
+#include "webhook/run/filedialog.h"
 #include "webhook/run/inputfunctions.h"
+#include "webhook/run/nativefunctions.h"
+#include "webhook/run/pageobject.h"
 #include "webhook/run/pictures.h"
-#include "wrappers/web/object/wraphtmlobject.h"
 #include "wrappers/web/values/jsobject.h"
 
 namespace Corvex::Webhook {
@@ -69,21 +69,15 @@ ScriptValue screenshot(BrowserControl& control, const ObjectList& arguments) {
   if (!why.isEmpty()) {
     return nothing(why);
   }
-  SharedPtr<Object> object;
-  const WebWrapper::HTML_Object* native = nullptr;
+  FunctionCallResult<PageObject> object;
   if (arguments.size() == 2) {
-    const bool isNamed = arguments[0]->objectClass() == Inspector::self()->primitiveType(PrimitiveType::String);
-    object = isNamed ? Inspector::self()->waitForObject(arguments[0]->toString()) : arguments[0];
-    const QString error =
-        object ? Inspector::self()->hostServices().whyNotUse(object) : Inspector::self()->takeScriptError();
-    native = WebWrapper::retrieveObject(object);
-    if (!error.isEmpty() || !native) {
-      return nothing(error.isEmpty() ? QStringLiteral("takeScreenshot takes an object of a page, or its name.")
-                                     : error);
+    object = pageObjectOf(arguments[0], "takeScreenshot");
+    if (object.failed()) {
+      return nothing(object.error);
     }
   }
   const QString file = control.resolvePath(arguments[arguments.size() - 1]->toString());
-  return nothing(takeScreenshot(*control.windows()->current(), native, file));
+  return nothing(takeScreenshot(*control.windows()->current(), object.value.native, file));
 }
 
 struct Row {
@@ -118,6 +112,15 @@ const Row rows[] = {
     {"retrieveJSObject", "retrieveJSObject(code)", 1, 1, true,
      [](BrowserControl& c, const ObjectList& a) { return valueOfPage(c, a[0]->toString()); }},
     {"takeScreenshot", "takeScreenshot([object, ]file)", 1, 2, true, screenshot},
+    {"screenClick", "screenClick(object[, button])", 1, 2, true,
+     [](BrowserControl& c, const ObjectList& a) { return nothing(screenClick(c, a)); }},
+    {"screenType", "screenType(keys)", 1, 1, true,
+     [](BrowserControl& c, const ObjectList& a) { return nothing(screenType(c, a[0]->toString())); }},
+    {"chooseFile", "chooseFile(path[, ms])", 1, 2, true,
+     [](BrowserControl& c, const ObjectList& a) {
+       const QString error = c.whyNoScreen();
+       return nothing(error.isEmpty() ? chooseFile(c.resolvePath(a[0]->toString()), timeoutOf(a, 1)) : error);
+     }},
     {"closeAlert", "closeAlert([ms])", 0, 1, true,
      [](BrowserControl& c, const ObjectList& a) { return nothing(c.dialogs()->closeAlert(timeoutOf(a, 0))); }},
     {"closeConfirm", "closeConfirm(accept[, ms])", 1, 2, true,

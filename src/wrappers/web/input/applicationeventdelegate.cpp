@@ -40,9 +40,6 @@ bool refused(const QString& error) {
 
 QString actAt(const EventKind& kind, const HTML_Object& object, const LocalPoint& position) {
   NativeInterface* const native = Hook::hook->nativeInterface();
-  if (!native) {
-    return QStringLiteral("This needs the real pointer, and there is no screen that has one.");
-  }
   const FunctionCallResult<ScreenRectangle> rect = object.component->getScreenRect(&object, true);
   if (rect.failed()) {
     return rect.error;

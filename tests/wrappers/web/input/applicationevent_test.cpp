@@ -17,6 +17,7 @@ public:
   QString pointerClick(MouseButton::Value button, ScreenPoint at) override { return note("click", button, at); }
   QString pointerWheel(int notches, ScreenPoint at) override { return note("wheel", notches, at); }
   QString typeKeys(const QString&) override { return error; }
+  std::optional<NativeDialog> topDialog() override { return {}; }
 
   QStringList deeds;
   QString error;

@@ -7,10 +7,11 @@
 #include <functional>
 #include <memory>
 
-#include "geometry/virtualscreen.h"
 #include "support/testserver.h"
+#include "support/virtualscreen.h"
 #include "webhook/browser/browsersession.h"
 #include "webhook/pages/connection.h"
+#include "wrappers/web/object/webobject.h"
 #include "wrappers/web/setup/wrapperconfig.h"
 
 namespace TestSupport {
@@ -31,6 +32,8 @@ public:
   QString load(const QString& html);
   /// The value of a JavaScript expression; a failure comes back as a text that begins with "failed: ".
   QJsonValue evaluate(const QString& expression);
+  /// The page object of an element; null when there is none.
+  std::unique_ptr<Corvex::WebWrapper::HTML_Object> object(const QString& expression);
   /// A picture of an element, as scripts take it. Null with an error.
   QImage pictureOf(const QString& expression, QString* error);
   /// Zooms the page as a user does, and waits until it is zoomed: some steps up, or back to where it was by 0.

@@ -31,6 +31,9 @@ public:
   /// What DISPLAY has to say for programs that shall appear here.
   const QByteArray& display() const { return m_display; }
 
+  /// Ends the server before the object, however many connections it has.
+  void end();
+
   /// What the screen shows now, pixel by pixel.
   QImage grab() const;
 

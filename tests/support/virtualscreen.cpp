@@ -1,4 +1,4 @@
-#include "geometry/virtualscreen.h"
+#include "support/virtualscreen.h"
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
@@ -76,12 +76,15 @@ VirtualScreen::VirtualScreen(QSize size) {
   }
 }
 
-VirtualScreen::~VirtualScreen() {
+VirtualScreen::~VirtualScreen() { end(); }
+
+void VirtualScreen::end() {
   if (m_connection) {
     XCloseDisplay(m_connection);
+    m_connection = nullptr;
   }
   m_server.terminate();
-  if (!m_server.waitForFinished(startTimeoutMs)) {
+  if (m_server.state() != QProcess::NotRunning && !m_server.waitForFinished(startTimeoutMs)) {
     m_server.kill();
     m_server.waitForFinished();
   }

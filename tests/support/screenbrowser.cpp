@@ -1,4 +1,4 @@
-#include "geometry/screenbrowser.h"
+#include "support/screenbrowser.h"
 
 #include <gtest/gtest.h>
 
@@ -60,13 +60,17 @@ Corvex::Webhook::BrowserIdentity identityOf(const Corvex::Webhook::BrowserSessio
 
 }  // namespace
 
-QImage ScreenBrowser::pictureOf(const QString& expression, QString* error) {
+std::unique_ptr<Corvex::WebWrapper::HTML_Object> ScreenBrowser::object(const QString& expression) {
   const auto found =
       Corvex::WebWrapper::htmlObjectFromJavaScriptResult(m_connection.get(), expression, QStringLiteral("{}"), 0);
-  const std::unique_ptr<Corvex::WebWrapper::HTML_Object> object(found.value);
+  return std::unique_ptr<Corvex::WebWrapper::HTML_Object>(found.value);
+}
+
+QImage ScreenBrowser::pictureOf(const QString& expression, QString* error) {
+  const auto element = object(expression);
   const QTemporaryDir folder;
   const QString file = folder.filePath(QStringLiteral("picture.png"));
-  *error = found.failed() ? found.error : Corvex::Webhook::takeScreenshot(*m_connection, object.get(), file);
+  *error = element ? Corvex::Webhook::takeScreenshot(*m_connection, element.get(), file) : QStringLiteral("no element");
   return QImage(file);
 }
 
