@@ -53,6 +53,15 @@ QString act(ActionTarget& target, const PointerUse& use, bool presses,
   });
 }
 
+/// One after the other: of moves that are given at once a page sees the last one only.
+QString moveAlong(const ActionTarget& target, const QVector<QPointF>& points) {
+  QString error;
+  for (int i = 0; i < points.size() && error.isEmpty(); ++i) {
+    error = target.perform({pointerStep(InputStep::Move, points.at(i))});
+  }
+  return error;
+}
+
 QString noPointError(const ActionTarget& target) {
   return target.failure(QStringLiteral("the browser shows it in a way of its own"));
 }
@@ -115,18 +124,18 @@ QString PointerActions::drag(const SharedPtr<Object>& from, const SharedPtr<Obje
   if (!error.isEmpty() || source.needsPage()) {
     return source.needsPage() ? noPointError(source) : error;
   }
-  const auto moveTo = [](const QPointF& point) { return pointerStep(InputStep::Move, point); };
   // Pages take the first pixels for an unsteady hand.
-  error = source.perform({moveTo(begin + QPointF(3, 3)), moveTo(begin + QPointF(8, 8))});
+  error = moveAlong(source, {begin + QPointF(3, 3), begin + QPointF(8, 8)});
   if (!error.isEmpty()) {
     return error;
   }
   ActionTarget destination(to, "dragged to", m_isStrict);
   QPointF end = begin;
-  error = act(destination, {}, false, [&](const QPointF& point) {
+  error = destination.find();
+  error = !error.isEmpty() ? error : destination.reach({}, false, [&](const QPointF& point) {
     end = point;
     // On the way pages make room for what is dragged.
-    return InputSteps{moveTo((begin + point) / 2), moveTo(point + QPointF(1, 1)), moveTo(point)};
+    return moveAlong(destination, {(begin + point) / 2, point + QPointF(1, 1), point});
   });
   const InputSteps release{pointerStep(InputStep::Release, end)};
   const QString released = source.connection().perform(release);
