@@ -81,6 +81,10 @@ ObjectResult mouseClick(const FunctionCall& call) {
   return callOn(call, "click", target, values);
 }
 
+ObjectResult doubleClick(const FunctionCall& call) { return callOnFirst(call, "doubleClick"); }
+
+ObjectResult openContextMenu(const FunctionCall& call) { return callOnFirst(call, "openContextMenu"); }
+
 ObjectResult clickButton(const FunctionCall& call) { return callOnFirst(call, "click"); }
 
 ObjectResult setText(const FunctionCall& call) { return callOnFirst(call, "setValue"); }
@@ -109,6 +113,8 @@ FunctionTable inputFunctions() {
       {"mouseClick",
        "mouseClick(object), mouseClick(object, modifiers) or mouseClick(object, x, y[, modifiers[, button]])", 1, 5,
        mouseClick},
+      {"doubleClick", "doubleClick(object)", 1, 1, doubleClick},
+      {"openContextMenu", "openContextMenu(object)", 1, 1, openContextMenu},
       {"clickButton", "clickButton(object)", 1, 1, clickButton},
       {"typeText", "typeText(object, text)", 2, 2, setText},
       {"setText", "setText(object, text)", 2, 2, setText},

@@ -25,10 +25,18 @@ const QCommandLineOption objectMapOption(QStringLiteral("object-map"),
                                          QStringLiteral("file"));
 const QCommandLineOption verboseOption(QStringLiteral("verbose"), QStringLiteral("Show the calls of objects, too."));
 
+const QCommandLineOption inputOption(
+    QStringLiteral("input"),
+    QStringLiteral("Who clicks and types: the browser, as for a person, or scripts in the page."),
+    QStringLiteral("browser|page"), QStringLiteral("browser"));
+const QCommandLineOption strictOption(QStringLiteral("strict"),
+                                      QStringLiteral("Act on no object whose name fits several."));
+
 struct RunOptions {
   SessionOptions session;
   QStringList scripts;
   QString junitFile;
+  InputSettings input;
   bool verbose = false;
 };
 
@@ -52,6 +60,11 @@ QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
   options->scripts = parser.positionalArguments();
   options->junitFile = parser.value(junitOption);
   options->verbose = parser.isSet(verboseOption);
+  const QString input = parser.value(inputOption);
+  if (input != QLatin1String("browser") && input != QLatin1String("page")) {
+    return QStringLiteral("--input takes browser or page, not '%1'.").arg(input);
+  }
+  options->input = {input == QLatin1String("page"), parser.isSet(strictOption)};
   error = options->scripts.isEmpty() ? QStringLiteral("A script is missing.") : unreadable(options->scripts);
   return error.isEmpty() && parser.isSet(objectMapOption) ? ObjectMap::self()->load(parser.value(objectMapOption))
                                                           : error;
@@ -62,7 +75,7 @@ int runScripts(const RunOptions& options) {
   ConsoleReporter console(stdout,
                           options.verbose ? ConsoleReporter::Detail::ObjectCalls : ConsoleReporter::Detail::Steps);
   JUnitReporter junit(options.junitFile);
-  BrowserControl browser(options.session);
+  BrowserControl browser(options.session, options.input);
   ListenerGroup listeners;
   listeners.add(&browser);
   listeners.add(&console);
@@ -97,7 +110,7 @@ int runScriptsCommand(const QStringList& arguments) {
                      "Exit code: 0 all passed, 1 a script failed or the results could not be written, 2 wrong usage,\n"
                      "3 the browser could not be started or was lost."));
   addBrowserOptions(parser);
-  parser.addOptions({junitOption, objectMapOption, verboseOption});
+  parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."), QStringLiteral("The scripts, in JavaScript."));
   if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {
     return *exitCode;

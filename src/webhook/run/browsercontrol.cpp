@@ -17,7 +17,12 @@ const int loadIntervalMs = 20;
 
 }  // namespace
 
-BrowserControl::BrowserControl(const SessionOptions& options) : m_options(options), m_services(*this, m_model), m_hiddenScreen(whyNoScreen()) {
+BrowserControl::BrowserControl(const SessionOptions& options, const InputSettings& input)
+    : m_options(options),
+      m_services(*this, m_model),
+      m_hiddenScreen(whyNoScreen()),
+      m_inputOfRun(input),
+      m_input(input) {
   Inspector::self()->setHostServices(&m_services);
   if (!whyNoScreen().isEmpty()) {
     Hook::hook->setNativeInterface(&m_hiddenScreen);
@@ -128,7 +133,10 @@ QString BrowserControl::whyNotAskPage(Connection* window) const {
   return dialog.isEmpty() && page ? page->whyUnavailable() : dialog;
 }
 
-void BrowserControl::scriptStarted(const QString& path) { m_scriptFolder = QFileInfo(path).absolutePath(); }
+void BrowserControl::scriptStarted(const QString& path) {
+  m_scriptFolder = QFileInfo(path).absolutePath();
+  m_input = m_inputOfRun;
+}
 
 void BrowserControl::scriptFinished(const Scripting::ScriptResult&) { closeBrowser(); }
 

@@ -9,6 +9,7 @@
 #include "webhook/pages/webmodel.h"
 #include "webhook/run/browserservices.h"
 #include "webhook/run/hiddenscreen.h"
+#include "webhook/run/inputsettings.h"
 #include "wrappers/web/setup/wrapperconfig.h"
 
 #include <QString>
@@ -20,7 +21,7 @@ namespace Corvex::Webhook {
 /// The browser of a run of test scripts: started by the script's `startBrowser`, gone when the script has ended.
 class BrowserControl : public Scripting::ScriptListener {
 public:
-  explicit BrowserControl(const SessionOptions& options);
+  explicit BrowserControl(const SessionOptions& options, const InputSettings& input = {});
   ~BrowserControl() override;
 
   /// Starts a browser, in place of one that runs, and opens a page in it. A dialog of the page that keeps it from being
@@ -46,12 +47,8 @@ public:
   /// Whether, at any time, a browser could not be started or was lost.
   bool hadBrowserFailure() const { return m_browserFailure; }
 
-  /// Whether clicks and texts are made in the page, and not by the browser.
-  bool wantsPageInput() const { return m_wantsPageInput; }
-  void setPageInput(bool isWanted) { m_wantsPageInput = isWanted; }
-  /// Whether a name that fits several objects is none to act on.
-  bool wantsStrictNames() const { return m_wantsStrictNames; }
-  void setStrictNames(bool isWanted) { m_wantsStrictNames = isWanted; }
+  /// For the running script; the next one begins with those of the run.
+  InputSettings& input() { return m_input; }
 
   /// A path as the running script means it: relative to its own folder.
   QString resolvePath(const QString& path) const;
@@ -77,8 +74,8 @@ private:
   QString m_lossReason;
   bool m_browserFailure = false;
   bool m_loadIsHeld = false;
-  bool m_wantsPageInput = false;
-  bool m_wantsStrictNames = false;
+  InputSettings m_inputOfRun;
+  InputSettings m_input;
 };
 
 }  // namespace Corvex::Webhook

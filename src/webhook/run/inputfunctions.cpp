@@ -31,8 +31,8 @@ struct Call {
   const char* function;
   const ObjectList& arguments;
 
-  PointerActions pointer() const { return PointerActions(control.wantsStrictNames()); }
-  Typing typing() const { return Typing(control.wantsStrictNames()); }
+  PointerActions pointer() const { return PointerActions(control.input().strictNames); }
+  Typing typing() const { return Typing(control.input().strictNames); }
   const SharedPtr<Object>& object() const { return arguments[0]; }
   double number(int index) const { return arguments[index]->toDouble(); }
 };
@@ -132,12 +132,12 @@ QString useInput(const Call& call) {
   if (road != QLatin1String("browser") && road != QLatin1String("page")) {
     return QStringLiteral("useInput takes \"browser\" or \"page\", but got \"%1\".").arg(road);
   }
-  call.control.setPageInput(road == QLatin1String("page"));
+  call.control.input().inPage = road == QLatin1String("page");
   return {};
 }
 
 QString useStrictNames(const Call& call) {
-  call.control.setStrictNames(call.object()->toBool());
+  call.control.input().strictNames = call.object()->toBool();
   return {};
 }
 
@@ -180,7 +180,7 @@ ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& argum
   if (!before.isEmpty()) {
     return ScriptValue::failure(before);
   }
-  if (row.road == OnlyByPerson && control.wantsPageInput()) {
+  if (row.road == OnlyByPerson && control.input().inPage) {
     return ScriptValue::failure(QStringLiteral("%1 needs the browser's own input: call useInput(\"browser\") first, or "
                                                "leave out --input page.")
                                     .arg(QLatin1String(row.name)));
@@ -203,7 +203,7 @@ std::vector<Scripting::ScriptFunction> inputFunctions(BrowserControl& control) {
     function.maxArguments = row.maxArguments;
     function.call = [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); };
     if (row.road == ByPerson) {
-      function.yields = [&control](const ObjectList&) { return control.wantsPageInput(); };
+      function.yields = [&control](const ObjectList&) { return control.input().inPage; };
     }
     functions.push_back(function);
   }

@@ -97,18 +97,21 @@ var __corvex__actionPoint = (function () {
     }
     for (var e = o; e && e.nodeType !== 9; e = __corvex__hitTarget.parentOf(e)) {
       var style = e.style;
-      if (style && (style.transform || style.left || style.top || style.right || style.bottom || style.height ||
-                    style.margin || style.marginLeft || style.marginTop)) {
+      if (style && (style.transform || style.left || style.top || style.right || style.bottom || style.height)) {
         return true;
       }
     }
     return false;
   }
 
+  function rectText(o) {
+    var box = __corvex__askNode.Element.getBoundingClientRect(o);
+    return [box.left, box.top, box.width, box.height].join(" ");
+  }
+
   // It stands still when a look at least a frame ago saw it in the same place.
   function isMoving(o) {
-    var box = __corvex__askNode.Element.getBoundingClientRect(o);
-    var rect = [box.left, box.top, box.width, box.height].join(" ");
+    var rect = rectText(o);
     var now = __corvex__natives.milliseconds();
     if (looked.object !== o || looked.rect !== rect) {
       looked = { object: o, rect: rect, since: now };
@@ -156,7 +159,8 @@ var __corvex__actionPoint = (function () {
     if (!point) {
       bringIntoView(o, attempt);
       point = reachAny(o, x, y, true);
-      looked.object = null;
+      // That was no move of its own.
+      looked.rect = rectText(o);
     }
     return point ? "at " + point.x + " " + point.y : __corvex__lastCover ? "covered" : "outside";
   };
