@@ -86,6 +86,17 @@ ScriptValue screenshot(BrowserControl& control, const ObjectList& arguments) {
   return nothing(takeScreenshot(*control.windows()->current(), native, file));
 }
 
+FunctionCallResult<QImage> objectPicture(BrowserControl& control, const SharedPtr<Object>& object) {
+  const QString why = control.whyNotAskPage();
+  const QString gone = why.isEmpty() ? Inspector::self()->hostServices().whyNotUse(object) : why;
+  const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(object);
+  if (!gone.isEmpty() || !native) {
+    return FunctionCallResult<QImage>::failure(
+        gone.isEmpty() ? QStringLiteral("There are pictures of objects of a page only.") : gone);
+  }
+  return pictureOf(*native);
+}
+
 struct Row {
   const char* name;
   const char* usage;
@@ -164,6 +175,7 @@ Scripting::ScriptHost browserFunctions(BrowserControl& control) {
   for (const Scripting::ScriptFunction& function : inputFunctions(control)) {
     host.functions.push_back(function);
   }
+  host.pictureOf = [&control](const SharedPtr<Object>& object) { return objectPicture(control, object); };
   return host;
 }
 
