@@ -162,6 +162,12 @@ TEST_F(ScriptChecks, SkipEndsTheScriptAtOnceWithoutFailure) {
   EXPECT_TRUE(result.passed());
   EXPECT_EQ(result.skipReason, s("no server"));
   EXPECT_EQ(listener.lines, QStringList({s("step source lib.js"), s("begin group"), s("end group")}));
+  for (const char* script : {"[1, 2].forEach(function () { test.skip(); test.fail(); });",
+                             "'ab'.replace(/./g, function () { test.skip(); test.fail(); });",
+                             "test.log({ get a() { test.skip(); test.fail(); } }.a, test.fail());",
+                             "test.throws(function () { test.skip(); }); test.fail();"}) {
+    EXPECT_EQ(run(script).verdict(), s("skipped")) << script;
+  }
   EXPECT_EQ(run("test.fail();\ntest.skip();").verdict(), s("FAILED"));
   EXPECT_EQ(run("").verdict(), s("passed"));
 }
