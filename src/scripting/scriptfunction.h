@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QImage>
+#include <QMap>
 #include <QString>
 #include <functional>
 #include <vector>
@@ -29,6 +31,10 @@ struct ScriptFunction {
 /// What the process that embeds the engine offers to scripts.
 struct ScriptHost {
   std::vector<ScriptFunction> functions;
+  /// The picture of an object, for comparisons; scripts get an error where there is none.
+  std::function<FunctionCallResult<QImage>(const SharedPtr<Object>&)> pictureOf = {};
+  /// What scripts were started with, by the names.
+  QMap<QString, QString> arguments = {};
 };
 
 }  // namespace Corvex::Scripting

@@ -14,6 +14,14 @@ void ScriptListener::check(bool, const QString&, const ScriptTrace&) {}
 
 void ScriptListener::log(const QString&) {}
 
+void ScriptListener::groupStarted(const QString&) {}
+
+void ScriptListener::groupFinished(const QString&, const QString&, qint64) {}
+
+void ScriptListener::functionStarted(const QString&) {}
+
+void ScriptListener::functionFinished(const FunctionResult&) {}
+
 void ScriptListener::scriptFinished(const ScriptResult&) {}
 
 void ScriptListener::runFinished(const RunSummary&) {}
@@ -45,6 +53,30 @@ void ListenerGroup::check(bool passed, const QString& text, const ScriptTrace& t
 void ListenerGroup::log(const QString& text) {
   for (ScriptListener* listener : m_listeners) {
     listener->log(text);
+  }
+}
+
+void ListenerGroup::groupStarted(const QString& title) {
+  for (ScriptListener* listener : m_listeners) {
+    listener->groupStarted(title);
+  }
+}
+
+void ListenerGroup::groupFinished(const QString& title, const QString& error, qint64 durationMs) {
+  for (ScriptListener* listener : m_listeners) {
+    listener->groupFinished(title, error, durationMs);
+  }
+}
+
+void ListenerGroup::functionStarted(const QString& name) {
+  for (ScriptListener* listener : m_listeners) {
+    listener->functionStarted(name);
+  }
+}
+
+void ListenerGroup::functionFinished(const FunctionResult& result) {
+  for (ScriptListener* listener : m_listeners) {
+    listener->functionFinished(result);
   }
 }
 

@@ -19,6 +19,13 @@ public:
   /// `trace` is where the check stands.
   virtual void check(bool passed, const QString& text, const ScriptTrace& trace);
   virtual void log(const QString& text);
+  /// A group of `test.step` begins, perhaps in another one; what follows belongs to it.
+  virtual void groupStarted(const QString& title);
+  /// `error` is what the group was left with; empty when it ran to its end.
+  virtual void groupFinished(const QString& title, const QString& error, qint64 durationMs);
+  /// A test function of the script, with the `setUp` and `tearDown` around it.
+  virtual void functionStarted(const QString& name);
+  virtual void functionFinished(const FunctionResult& result);
   virtual void scriptFinished(const ScriptResult& result);
   virtual void runFinished(const RunSummary& summary);
 };
@@ -33,6 +40,10 @@ public:
   void objectCall(const QString& text, qint64 durationMs) override;
   void check(bool passed, const QString& text, const ScriptTrace& trace) override;
   void log(const QString& text) override;
+  void groupStarted(const QString& title) override;
+  void groupFinished(const QString& title, const QString& error, qint64 durationMs) override;
+  void functionStarted(const QString& name) override;
+  void functionFinished(const FunctionResult& result) override;
   void scriptFinished(const ScriptResult& result) override;
   void runFinished(const RunSummary& summary) override;
 

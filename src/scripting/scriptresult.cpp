@@ -36,24 +36,54 @@ QStringList traceLines(const ScriptTrace& trace) {
       i += omitted;
     }
     const QString call = i == 0 ? QString() : QStringLiteral("called from ");
-    lines << call + trace[i].text() + (trace[i].line > 0 ? QLatin1String(": ") + trace[i].sourceLine : QString());
+    const QString& function = trace[i].function;
+    lines << call + trace[i].text() + (function.isEmpty() ? QString() : QStringLiteral(" in %1()").arg(function)) +
+                 (trace[i].line > 0 ? QLatin1String(": ") + trace[i].sourceLine : QString());
   }
   return lines;
 }
 
+QString FailedCheck::fullText() const { return (groups + QStringList(text)).join(QLatin1String(": ")); }
+
+QString Outcome::verdict() const {
+  if (!passed()) {
+    return QStringLiteral("FAILED");
+  }
+  return isSkipped ? QStringLiteral("skipped") : QStringLiteral("passed");
+}
+
+Outcome ScriptResult::whole() const {
+  Outcome all = *this;
+  bool isAnyRun = functions.empty();
+  for (const FunctionResult& function : functions) {
+    isAnyRun = isAnyRun || !function.isSkipped;
+    all.checksPassed += function.checksPassed;
+    all.failedChecks.insert(all.failedChecks.end(), function.failedChecks.begin(), function.failedChecks.end());
+    if (all.error.isEmpty() && !function.error.isEmpty()) {
+      all.error = QStringLiteral("%1: %2").arg(function.name, function.error);
+      all.trace = function.trace;
+    }
+  }
+  all.isSkipped = isSkipped || !isAnyRun;
+  return all;
+}
+
 void RunSummary::add(const ScriptResult& result) {
+  const Outcome whole = result.whole();
   ++scripts;
-  passed += result.passed() ? 1 : 0;
-  checks += result.checks();
-  checksFailed += result.checksFailed();
-  durationMs += result.durationMs;
+  passed += whole.passed() && !whole.isSkipped ? 1 : 0;
+  skipped += whole.passed() && whole.isSkipped ? 1 : 0;
+  checks += whole.checks();
+  checksFailed += whole.checksFailed();
+  durationMs += whole.durationMs;
 }
 
 QString RunSummary::text() const {
-  return QStringLiteral("%1: %2 passed, %3 failed; %4, %5 failed; %6 s")
+  return QStringLiteral("%1: %2 passed, %3 failed%4; %5, %6 failed; %7 s")
       .arg(counted(scripts, QStringLiteral("script")))
       .arg(passed)
       .arg(failed())
+      .arg(skipped > 0 ? QStringLiteral(", %1 skipped").arg(skipped) : QString())
       .arg(counted(checks, QStringLiteral("check")))
       .arg(checksFailed)
       .arg(static_cast<double>(durationMs) / 1000.0, 0, 'f', 1);

@@ -12,6 +12,8 @@ namespace Corvex::Scripting {
 struct ScriptLocation {
   QString file;
   int line = 0;
+  /// The innermost function with a name that the line stands in, as far as the calls of that line tell; empty without.
+  QString function;
   /// The text of that line, without the blanks around it.
   QString sourceLine;
 
@@ -31,38 +33,63 @@ CORVEXSCRIPTING_EXPORT QStringList traceLines(const ScriptTrace& trace);
 struct FailedCheck {
   QString text;
   ScriptTrace trace;
+  /// The titles of the groups of `test.step` that it stands in, the outermost first.
+  QStringList groups;
+
+  /// The text with the titles before it: "Basket: Sum: got 1, but expected 2".
+  CORVEXSCRIPTING_EXPORT QString fullText() const;
 };
 
-/// What came of one script.
-struct ScriptResult {
-  /// As it was given to the engine.
-  QString path;
-  /// Why the script stopped before its end; empty when it did not.
+/// What came of a script's body, or of one of its test functions.
+struct Outcome {
+  /// Why it stopped before its end; empty when it did not.
   QString error;
   /// Where it stopped; never empty after an error.
   ScriptTrace trace;
   int checksPassed = 0;
   std::vector<FailedCheck> failedChecks;
+  /// It ended itself by `test.skip`.
+  bool isSkipped = false;
+  QString skipReason;
   qint64 durationMs = 0;
-  /// Ended by `ScriptEngine::interrupt`.
-  bool interrupted = false;
 
   int checksFailed() const { return static_cast<int>(failedChecks.size()); }
   int checks() const { return checksPassed + checksFailed(); }
+  /// No failure; what was skipped has passed, too.
   bool passed() const { return error.isEmpty() && failedChecks.empty(); }
+  /// "passed", "FAILED" or "skipped".
+  CORVEXSCRIPTING_EXPORT QString verdict() const;
+};
+
+/// What came of a test function, with the `setUp` and `tearDown` around it.
+struct FunctionResult : Outcome {
+  QString name;
+};
+
+/// What came of one script: of its body, and of each of its test functions.
+struct ScriptResult : Outcome {
+  /// As it was given to the engine.
+  QString path;
+  std::vector<FunctionResult> functions;
+  /// Ended by `ScriptEngine::interrupt`.
+  bool interrupted = false;
+
+  /// The body and all functions together, with the first error of all. Skipped, if the body or each function was.
+  CORVEXSCRIPTING_EXPORT Outcome whole() const;
 };
 
 /// What came of several scripts.
 struct RunSummary {
   int scripts = 0;
   int passed = 0;
+  int skipped = 0;
   int checks = 0;
   int checksFailed = 0;
   qint64 durationMs = 0;
 
   CORVEXSCRIPTING_EXPORT void add(const ScriptResult& result);
-  int failed() const { return scripts - passed; }
-  /// "3 scripts: 2 passed, 1 failed; 14 checks, 1 failed; 3.2 s"
+  int failed() const { return scripts - passed - skipped; }
+  /// "3 scripts: 1 passed, 1 failed, 1 skipped; 14 checks, 1 failed; 3.2 s"; skipped ones only where there are any.
   CORVEXSCRIPTING_EXPORT QString text() const;
 };
 

@@ -25,6 +25,7 @@ class WrongUsage : public testing::TestWithParam<Misuse> {};
 TEST_P(WrongUsage, IsExplained) {
   ProgramRun program;
   program.write(QStringLiteral("good.js"), QStringLiteral("test.log('ran');"));
+  program.write(QStringLiteral("ver1/_only.js"), QString());
   const ProgramResult result = program.run(GetParam().arguments);
   EXPECT_EQ(result.exitCode, GetParam().exitCode);
   EXPECT_EQ(result.output, QString());
@@ -42,6 +43,16 @@ const Misuse misuses[] = {
      {"run", "--remote", "", "good.js"},
      "--remote needs the address of a WebDriver server, such as http://127.0.0.1:4444."},
     {"BadTimeout", {"run", "--timeout", "soon", "good.js"}, "--timeout takes a number of seconds above 0, not 'soon'."},
+    {"BadArgument",
+     {"run", "--arg", "=x", "good.js"},
+     "--arg takes a name and its value, such as --arg server=test1, not '=x'."},
+    {"BadScriptTimeout",
+     {"run", "--script-timeout", "0", "good.js"},
+     "--script-timeout takes a number of seconds above 0, not '0'."},
+    {"NothingFits",
+     {"run", "--filter", "none", "--filter", "x*", "good.js"},
+     "No script and no test function fits --filter 'none' or 'x*'."},
+    {"EmptyFolder", {"run", "ver1"}, "The folder 'ver1' holds no scripts: files that end in .js"},
     {"JUnitFile", {"run", "--junit", "/nowhere/x.xml", "good.js"}, "/nowhere/x.xml"},
     {"MissingObjectMap",
      {"run", "--object-map", "none.map", "good.js"},
@@ -68,8 +79,8 @@ TEST(Help, GoesToStandardOutputAndNamesTheOptions) {
   const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("--help")});
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.errors, QString());
-  for (const char* option :
-       {"--browser", "--headed", "--attach", "--timeout", "--junit", "--object-map", "--verbose", "SCRIPT..."}) {
+  for (const char* option : {"--browser", "--headed", "--attach", "--timeout", "--junit", "--object-map", "--arg",
+                             "--filter", "--script-timeout", "--verbose", "SCRIPT..."}) {
     EXPECT_TRUE(result.output.contains(QLatin1String(option))) << option;
   }
 }

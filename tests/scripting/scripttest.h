@@ -23,9 +23,25 @@ public:
                       QString::number(trace.front().line));
   }
   void log(const QString& text) override { lines << QStringLiteral("log ") + text; }
+  void groupStarted(const QString& title) override { lines << QStringLiteral("begin ") + title; }
+  void groupFinished(const QString& title, const QString& error, qint64) override {
+    lines << (QStringLiteral("end %1 ").arg(title) + error).trimmed();
+  }
+  void functionStarted(const QString& name) override { lines << QStringLiteral("function ") + name; }
+  void functionFinished(const Corvex::Scripting::FunctionResult& result) override {
+    lines << (result.verdict() + QLatin1Char(' ') + result.error + result.skipReason).trimmed();
+  }
+
+  void scriptFinished(const Corvex::Scripting::ScriptResult& result) override {
+    errors << result.error;
+    traces << Corvex::Scripting::traceText(result.trace);
+  }
 
   QStringList lines;
   QStringList objectCalls;
+  // Of each script.
+  QStringList errors;
+  QStringList traces;
 };
 
 /// Runs script texts on the fake object model.

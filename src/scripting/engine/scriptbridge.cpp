@@ -4,11 +4,12 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QJSEngine>
+#include <QProcessEnvironment>
 #include <QQmlEngine>
 
 #include "corvexhook/hostservices.h"
 #include "corvexhook/inspector.h"
-#include "scripting/engine/evaluation.h"
+#include "scripting/functions/tablereader.h"
 #include "scripting/objects/valuetext.h"
 
 namespace Corvex::Scripting {
@@ -47,14 +48,18 @@ ObjectResult unusableArguments(const QString& name, const SharedPtr<Object>& obj
 }  // namespace
 
 ScriptBridge::ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCalls* calls, ScriptListener* listener,
-                           ScriptResult* result, ScriptFiles* files)
+                           ScriptFiles* files, Interruption* interruption)
     : m_engine(engine),
       m_values(engine),
       m_calls(calls),
       m_listener(listener),
       m_files(files),
+      m_interruption(interruption),
+      m_arguments(host.arguments),
       m_functions(host, {calls, &m_values.liveObjects()}),
-      m_checks(m_values, listener, result) {
+      m_checks({m_values, {calls, &m_values.liveObjects()}, listener, files->folder(), host.pictureOf, [interruption] {
+                  interruption->endCode();
+                }}) {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
@@ -62,12 +67,41 @@ QString ScriptBridge::errorText(const QJSValue& thrown) const { return m_errors.
 
 void ScriptBridge::setWrappers(const QJSValue& wrap, const QJSValue& handleOf) { m_values.setWrappers(wrap, handleOf); }
 
+void ScriptBridge::setRunner(const QJSValue& names, const QJSValue& run) {
+  m_namesOfFunctions = names;
+  m_runFunction = run;
+}
+
+QStringList ScriptBridge::globalFunctions() const {
+  QJSValue namesOfFunctions = m_namesOfFunctions;
+  QStringList names;
+  for (const QJSValue& name : entriesOf(namesOfFunctions.call())) {
+    names << name.toString();
+  }
+  return names;
+}
+
+Evaluation ScriptBridge::callGlobalFunction(const QString& name) {
+  const QJSValue outcome = m_runFunction.call({name});
+  // That of code that was ended is none.
+  const QJSValue failed = outcome.property(QStringLiteral("failed"));
+  return {outcome.property(QStringLiteral("error")), !failed.isBool() || failed.toBool()};
+}
+
 QJSValue ScriptBridge::scriptArray(const QStringList& texts) const {
   QJSValue array = m_engine->newArray(static_cast<uint>(texts.size()));
   for (int i = 0; i < texts.size(); ++i) {
     array.setProperty(static_cast<quint32>(i), texts.at(i));
   }
   return array;
+}
+
+QJSValue ScriptBridge::scriptObject(const QMap<QString, QString>& texts) const {
+  QJSValue object = m_engine->newObject();
+  for (auto text = texts.begin(); text != texts.end(); ++text) {
+    object.setProperty(text.key(), text.value());
+  }
+  return object;
 }
 
 QJSValue ScriptBridge::describeClass(int classNumber) {
@@ -175,6 +209,10 @@ QJSValue ScriptBridge::callFunction(const QString& name, const QJSValue& argumen
   const ObjectResult result =
       list.failed() ? unusableArguments(name, first.value, list.error) : m_functions.call(name, list.value);
   m_listener->step(stepText(name, arguments), timer.elapsed());
+  if (m_interruption->isScriptEnded() && m_stackOfEnd.isEmpty()) {
+    const QJSValue here = m_engine->newErrorObject(QJSValue::GenericError);
+    m_stackOfEnd = here.property(QStringLiteral("stack")).toString();
+  }
   return finished(result);
 }
 
@@ -186,6 +224,53 @@ QJSValue ScriptBridge::callCheck(const QString& name, const QJSValue& arguments,
     m_engine->throwError(answer.error);
   }
   return answer.value;
+}
+
+bool ScriptBridge::noteCheck(bool passed, const QString& text, const QString& stack) {
+  return m_checks.note(passed, text, m_files->traceOf(stack));
+}
+
+void ScriptBridge::beginGroup(const QString& title) { m_checks.beginGroup(title); }
+
+void ScriptBridge::endGroup(const QString& error) { m_checks.endGroup(error); }
+
+QJSValue ScriptBridge::scriptFacts() const {
+  const QFileInfo file(m_files->absolutePath());
+  QJSValue facts = m_engine->newObject();
+  facts.setProperty(QStringLiteral("path"), file.filePath());
+  facts.setProperty(QStringLiteral("name"), file.completeBaseName());
+  facts.setProperty(QStringLiteral("arguments"), scriptObject(m_arguments));
+  return facts;
+}
+
+QJSValue ScriptBridge::environment() const {
+  const QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+  QMap<QString, QString> texts;
+  for (const QString& name : variables.keys()) {
+    texts.insert(name, variables.value(name));
+  }
+  return scriptObject(texts);
+}
+
+QJSValue ScriptBridge::readTable(const QString& path) {
+  const FunctionCallResult<Table> table = Scripting::readTable(QDir(m_files->folder()).absoluteFilePath(path), path);
+  if (table.failed()) {
+    m_engine->throwError(table.error);
+    return QJSValue();
+  }
+  if (!table.value.json.isEmpty()) {
+    return table.value.json;
+  }
+  QJSValue rows = m_engine->newArray(static_cast<uint>(table.value.rows.size()));
+  for (std::size_t i = 0; i < table.value.rows.size(); ++i) {
+    const QStringList& values = table.value.rows[i];
+    QJSValue row = m_engine->newObject();
+    for (int column = 0; column < values.size(); ++column) {
+      row.setProperty(table.value.columns.at(column), values.at(column));
+    }
+    rows.setProperty(static_cast<quint32>(i), row);
+  }
+  return rows;
 }
 
 QJSValue ScriptBridge::source(const QString& path, const QString& stack) {

@@ -3,6 +3,8 @@
 #include <QJSValue>
 #include <QObject>
 
+#include "scripting/engine/evaluation.h"
+#include "scripting/engine/interruption.h"
 #include "scripting/engine/scripterrors.h"
 #include "scripting/engine/scriptfiles.h"
 #include "scripting/functions/checks.h"
@@ -24,10 +26,22 @@ class ScriptBridge : public QObject {
 public:
   /// Borrows all but the functions of the host.
   ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCalls* calls, ScriptListener* listener,
-               ScriptResult* result, ScriptFiles* files);
+               ScriptFiles* files, Interruption* interruption);
+
+  Checks& checks() { return m_checks; }
+
+  /// The names of the functions that the global object has, in no order.
+  QStringList globalFunctions() const;
+  Evaluation callGlobalFunction(const QString& name);
+
+  /// The calls that led to the function in which the script was ended from outside; empty when it was not in one.
+  const QString& stackOfEnd() const { return m_stackOfEnd; }
 
   /// What a thrown value says to people.
-  QString errorText(const QJSValue& thrown) const;
+  Q_INVOKABLE QString errorText(const QJSValue& thrown) const;
+
+  /// `names` gives the names of the global functions, `run` calls one: it answers what `source` does.
+  Q_INVOKABLE void setRunner(const QJSValue& names, const QJSValue& run);
 
   /// `wrap` makes a script object around a handle, `handleOf` gives the handle
   /// behind a script object, or undefined.
@@ -52,12 +66,22 @@ public:
   Q_INVOKABLE QJSValue callFunction(const QString& name, const QJSValue& arguments);
   Q_INVOKABLE QJSValue checkNames() const;
   Q_INVOKABLE QJSValue callCheck(const QString& name, const QJSValue& arguments, const QString& stack);
+  /// Counts a check that the prelude has made.
+  Q_INVOKABLE bool noteCheck(bool passed, const QString& text, const QString& stack);
+  Q_INVOKABLE void beginGroup(const QString& title);
+  /// `error` is empty for a group that ran to its end.
+  Q_INVOKABLE void endGroup(const QString& error);
+  Q_INVOKABLE QJSValue scriptFacts() const;
+  Q_INVOKABLE QJSValue environment() const;
+  /// The rows of a table, as an array of objects; of a JSON file its text.
+  Q_INVOKABLE QJSValue readTable(const QString& path);
   /// Runs another script file in the same scope. Answers an object: whether it
   /// `failed`, and the `error` that it threw.
   Q_INVOKABLE QJSValue source(const QString& path, const QString& stack);
 
 private:
   QJSValue scriptArray(const QStringList& texts) const;
+  QJSValue scriptObject(const QMap<QString, QString>& texts) const;
   QJSValue finished(const ObjectResult& result);
   QString stepText(const QString& name, const QJSValue& arguments) const;
 
@@ -66,6 +90,11 @@ private:
   MemberCalls* m_calls;
   ScriptListener* m_listener;
   ScriptFiles* m_files;
+  Interruption* m_interruption;
+  QString m_stackOfEnd;
+  QMap<QString, QString> m_arguments;
+  QJSValue m_namesOfFunctions;
+  QJSValue m_runFunction;
   ScriptErrors m_errors;
   GlobalFunctions m_functions;
   Checks m_checks;

@@ -2,11 +2,11 @@
 
 #include <QElapsedTimer>
 #include <QJSEngine>
-#include <QMutex>
-#include <atomic>
 
 #include "corvexhook/inspector.h"
+#include "scripting/engine/interruption.h"
 #include "scripting/engine/scriptrun.h"
+#include "scripting/engine/watchdog.h"
 
 // Outside of any namespace, as Qt asks for it.
 static void initResources() { Q_INIT_RESOURCE(scripting); }
@@ -17,15 +17,10 @@ namespace {
 
 const QString interruptedText = QStringLiteral("interrupted");
 
-/// While it lives, the waits and lookups of the framework end with an error when the run is interrupted.
-class Interruptible {
-public:
-  explicit Interruptible(const std::atomic<bool>& interrupted) { Inspector::self()->setInterruption(&interrupted); }
-  ~Interruptible() { Inspector::self()->setInterruption(nullptr); }
-
-  Interruptible(const Interruptible&) = delete;
-  Interruptible& operator=(const Interruptible&) = delete;
-};
+QString timeOverText(int milliseconds) {
+  return QStringLiteral("The script took longer than the %1 s that it may take, and was ended.")
+      .arg(static_cast<double>(milliseconds) / 1000.0);
+}
 
 }  // namespace
 
@@ -33,20 +28,11 @@ struct ScriptEngine::Private {
   Private(const ScriptHost& scriptHost, ScriptListener* scriptListener)
       : host(scriptHost), listener(scriptListener), calls(scriptListener) {}
 
-  void setRunning(QJSEngine* engine) {
-    const QMutexLocker locker(&mutex);
-    running = engine;
-    if (engine && interrupted) {
-      engine->setInterrupted(true);
-    }
-  }
-
   ScriptHost host;
   ScriptListener* listener;
   MemberCalls calls;
-  QMutex mutex;
-  QJSEngine* running = nullptr;
-  std::atomic<bool> interrupted{false};
+  Interruption interruption;
+  int scriptTimeoutMs = 0;
 };
 
 ScriptEngine::ScriptEngine(const ScriptHost& host, ScriptListener* listener) : d(new Private(host, listener)) {
@@ -55,26 +41,36 @@ ScriptEngine::ScriptEngine(const ScriptHost& host, ScriptListener* listener) : d
 
 ScriptEngine::~ScriptEngine() = default;
 
-ScriptResult ScriptEngine::runFile(const QString& path) {
+ScriptResult ScriptEngine::runScript(const ScriptChoice& choice) {
   ScriptResult result;
-  result.path = path;
-  d->listener->scriptStarted(path);
+  result.path = choice.path;
+  d->listener->scriptStarted(choice.path);
   QElapsedTimer timer;
   timer.start();
   // What an earlier script left behind is none of this one's errors.
   Inspector::self()->takeScriptError();
+  bool isTimeOver = false;
   {
-    const Interruptible interruptible(d->interrupted);
     QJSEngine engine;
-    ScriptRun script(&engine, d->host, &d->calls, d->listener, &result);
-    d->setRunning(&engine);
-    script.run();
-    d->setRunning(nullptr);
+    ScriptRun script(&engine, d->host, &d->calls, d->listener, &result, &d->interruption);
+    d->interruption.setRunning(&engine);
+    {
+      const Watchdog watchdog(d->scriptTimeoutMs, [this] { d->interruption.endScript(); });
+      script.run(choice.functions);
+    }
+    isTimeOver = d->interruption.isScriptEnded() && !d->interruption.isRunEnded();
+    d->interruption.setRunning(nullptr);
   }
   Inspector::self()->takeScriptError();
-  if (d->interrupted) {
+  if (isTimeOver) {
+    result.error = timeOverText(d->scriptTimeoutMs);
+  }
+  if (d->interruption.isRunEnded()) {
     result.interrupted = true;
     result.error = interruptedText;
+  }
+  if (!result.error.isEmpty() && result.trace.empty()) {
+    result.trace = {{choice.path, 0, QString(), QString()}};
   }
   result.durationMs = timer.elapsed();
   d->listener->scriptFinished(result);
@@ -82,25 +78,29 @@ ScriptResult ScriptEngine::runFile(const QString& path) {
 }
 
 RunSummary ScriptEngine::run(const QStringList& paths) {
-  RunSummary summary;
+  std::vector<ScriptChoice> scripts;
   for (const QString& path : paths) {
-    if (d->interrupted) {
+    scripts.push_back({path, {}});
+  }
+  return run(scripts);
+}
+
+RunSummary ScriptEngine::run(const std::vector<ScriptChoice>& scripts) {
+  RunSummary summary;
+  for (const ScriptChoice& script : scripts) {
+    if (isInterrupted()) {
       break;
     }
-    summary.add(runFile(path));
+    summary.add(runScript(script));
   }
   d->listener->runFinished(summary);
   return summary;
 }
 
-void ScriptEngine::interrupt() {
-  const QMutexLocker locker(&d->mutex);
-  d->interrupted = true;
-  if (d->running) {
-    d->running->setInterrupted(true);
-  }
-}
+void ScriptEngine::setScriptTimeout(int milliseconds) { d->scriptTimeoutMs = milliseconds; }
 
-bool ScriptEngine::isInterrupted() const { return d->interrupted; }
+void ScriptEngine::interrupt() { d->interruption.endRun(); }
+
+bool ScriptEngine::isInterrupted() const { return d->interruption.isRunEnded(); }
 
 }  // namespace Corvex::Scripting

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 #include <memory>
+#include <vector>
 
 #include "scripting/export.h"
 #include "scripting/scriptfunction.h"
@@ -9,6 +10,13 @@
 #include "scripting/scriptresult.h"
 
 namespace Corvex::Scripting {
+
+/// A script that is to run.
+struct ScriptChoice {
+  QString path;
+  /// Those of its test functions that are to run; empty for all.
+  QStringList functions;
+};
 
 /// Runs JavaScript test scripts on the object model of the framework. Belongs
 /// to the framework's thread, but for `interrupt`.
@@ -20,13 +28,18 @@ public:
 
   /// Runs a script in a scope of its own. No failure of the script is one of
   /// the engine: all of them stand in the result.
-  ScriptResult runFile(const QString& path);
+  ScriptResult runFile(const QString& path) { return runScript({path, {}}); }
+  ScriptResult runScript(const ScriptChoice& script);
   /// Runs the scripts one after the other, each whatever came of those before;
   /// after `interrupt` none any more.
   RunSummary run(const QStringList& paths);
+  RunSummary run(const std::vector<ScriptChoice>& scripts);
+
+  /// A script that takes longer is ended with an error; the next one runs. 0, as at first, for no limit.
+  void setScriptTimeout(int milliseconds);
 
   /// Ends the running script, which gets the error "interrupted", and all
-  /// scripts behind it. From any thread, but not from a signal handler. A
+  /// scripts after it. From any thread, but not from a signal handler. A
   /// script that waits or sleeps ends when the host's sleep returns.
   void interrupt();
   bool isInterrupted() const;

@@ -19,8 +19,14 @@ public:
   /// The text of a file, ready to be evaluated.
   FunctionCallResult<QString> read(const QString& absolutePath);
   QString absolutePath() const { return m_absolutePath; }
+  /// Where relative paths of the script start.
+  QString folder() const;
 
-  /// Where in the scripts the calls of a stack stand; calls of one line that follow each other are one. Without any the
+  /// Sorts functions as the files that were read declare them; others come last.
+  QStringList inOrderOfDeclaration(const QStringList& functions) const;
+
+  /// Where in the scripts the calls of a stack stand; calls of one line that follow each other are one,
+  /// the innermost. Without any the
   /// file alone.
   ScriptTrace traceOf(const QString& stack) const;
   /// Whether the line of the innermost call of the stack calls a member of this name, wherever it has it.
@@ -30,6 +36,7 @@ private:
   struct Place {
     QString absolutePath;
     int line = 0;
+    QString function;
   };
 
   std::vector<Place> placesOf(const QString& stack) const;
@@ -39,6 +46,7 @@ private:
   QString m_path;
   QString m_absolutePath;
   QHash<QString, QStringList> m_lines;
+  QStringList m_declared;
 };
 
 }  // namespace Corvex::Scripting

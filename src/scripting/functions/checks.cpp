@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
+#include "scripting/functions/expectedpicture.h"
 #include "scripting/functions/globalfunctions.h"
+#include "scripting/functions/targets.h"
 #include "scripting/objects/valuecomparison.h"
 #include "scripting/objects/valuetext.h"
 
@@ -23,6 +26,9 @@ const std::vector<Checks::Row>& Checks::rows() {
   static const std::vector<Row> table = {
       {"test.verify", "test.verify(condition[, message])", 1, 2, &Checks::verify},
       {"test.compare", "test.compare(actual, expected[, message])", 2, 3, &Checks::compare},
+      {"test.compareScreenshot", "test.compareScreenshot(object, file[, share])", 2, 3, &Checks::compareScreenshot},
+      {"test.fail", "test.fail([message])", 0, 1, &Checks::fail},
+      {"test.skip", "test.skip([reason])", 0, 1, &Checks::skip},
       {"test.log", "test.log(text, ...)", 0, std::numeric_limits<int>::max(), &Checks::log},
   };
   return table;
@@ -54,16 +60,67 @@ Checks::Answer Checks::verify(const Call& call) {
 Checks::Answer Checks::compare(const Call& call) {
   const QJSValue& actual = call.arguments.at(0);
   const QJSValue& expected = call.arguments.at(1);
-  const FunctionCallResult<bool> equal = equalValues(m_values, actual, expected);
-  if (equal.failed()) {
-    return Answer::failure(equal.error);
+  const FunctionCallResult<Difference> difference = firstDifference(m_context.values, actual, expected);
+  if (difference.failed()) {
+    return Answer::failure(difference.error);
   }
-  const QString shown = valueText(m_values, actual);
-  const QString text = equal.value
-                           ? QStringLiteral("got %1 as expected").arg(shown)
-                           : QStringLiteral("got %1, but expected %2").arg(shown, valueText(m_values, expected));
+  const QString shown = valueText(m_context.values, actual);
+  QString text = difference.value.isNone
+                     ? QStringLiteral("got %1 as expected").arg(shown)
+                     : QStringLiteral("got %1, but expected %2").arg(shown, valueText(m_context.values, expected));
+  if (!difference.value.path.isEmpty()) {
+    text += QStringLiteral("; they differ at %1: %2").arg(difference.value.path, difference.value.text);
+  }
   const QString message = messageOf(call.arguments, 2);
-  return checked(equal.value, message.isEmpty() ? text : message + QLatin1String(": ") + text, call.trace);
+  return checked(difference.value.isNone, message.isEmpty() ? text : message + QLatin1String(": ") + text, call.trace);
+}
+
+Checks::Answer Checks::compareScreenshot(const Call& call) {
+  const QJSValue share = call.arguments.value(2);
+  if (!share.isUndefined() && !(share.isNumber() && share.toNumber() >= 0 && share.toNumber() <= 1)) {
+    return Answer::failure(
+        QStringLiteral("test.compareScreenshot: the share of pixels that may differ is a number from 0 to 1, not %1.")
+            .arg(valueText(m_context.values, share)));
+  }
+  const ExpectedPicture expected(m_context.folder, call.arguments.at(1).toString());
+  const QString why = expected.whyNotUsable();
+  if (!why.isEmpty()) {
+    return Answer::failure(why);
+  }
+  const FunctionCallResult<QImage> actual = pictureOf(call.arguments.at(0));
+  if (actual.failed()) {
+    return Answer::failure(actual.error);
+  }
+  const FunctionCallResult<PictureVerdict> verdict =
+      expected.compareWith(actual.value, share.isUndefined() ? 0 : share.toNumber());
+  return verdict.failed() ? Answer::failure(verdict.error)
+                          : checked(verdict.value.passed, verdict.value.text, call.trace);
+}
+
+FunctionCallResult<QImage> Checks::pictureOf(const QJSValue& object) const {
+  using Result = FunctionCallResult<QImage>;
+  const ObjectResult argument = m_context.values.fromScript(object);
+  const FunctionCall call = {"test.compareScreenshot", m_context.functions, {}};
+  const Target target =
+      argument.failed() ? Target{nullptr, QString(), argument.error} : awaitedTarget(call, argument.value);
+  if (!target.error.isEmpty()) {
+    return Result::failure(target.error);
+  }
+  return m_context.pictureOf ? m_context.pictureOf(target.object)
+                             : Result::failure(QStringLiteral("There are no pictures of objects here."));
+}
+
+Checks::Answer Checks::fail(const Call& call) {
+  const QString message = messageOf(call.arguments, 0);
+  return checked(false, message.isEmpty() ? QStringLiteral("the script calls this a failure") : message, call.trace);
+}
+
+Checks::Answer Checks::skip(const Call& call) {
+  m_outcome->isSkipped = true;
+  m_outcome->skipReason = messageOf(call.arguments, 0);
+  m_hasSkipped = true;
+  m_context.endCode();
+  return Answer::success(QJSValue());
 }
 
 Checks::Answer Checks::log(const Call& call) {
@@ -71,18 +128,43 @@ Checks::Answer Checks::log(const Call& call) {
   for (const QJSValue& argument : call.arguments) {
     texts << argument.toString();
   }
-  m_listener->log(texts.join(QLatin1Char(' ')));
+  m_context.listener->log(texts.join(QLatin1Char(' ')));
   return Answer::success(QJSValue());
 }
 
-Checks::Answer Checks::checked(bool passed, const QString& text, const ScriptTrace& trace) {
+bool Checks::note(bool passed, const QString& text, const ScriptTrace& trace) {
   if (passed) {
-    ++m_result->checksPassed;
+    ++m_outcome->checksPassed;
   } else {
-    m_result->failedChecks.push_back({text, trace});
+    QStringList titles;
+    for (const Group& group : m_groups) {
+      titles << group.title;
+    }
+    m_outcome->failedChecks.push_back({text, trace, titles});
   }
-  m_listener->check(passed, text, trace);
-  return Answer::success(QJSValue(passed));
+  m_context.listener->check(passed, text, trace);
+  return passed;
 }
+
+void Checks::beginGroup(const QString& title) {
+  Group group{title, {}};
+  group.timer.start();
+  m_groups.push_back(group);
+  m_context.listener->groupStarted(title);
+}
+
+void Checks::endGroup(const QString& error) {
+  const Group group = m_groups.back();
+  m_groups.pop_back();
+  m_context.listener->groupFinished(group.title, error, group.timer.elapsed());
+}
+
+void Checks::closeGroups() {
+  while (!m_groups.empty()) {
+    endGroup(QString());
+  }
+}
+
+bool Checks::takeSkip() { return std::exchange(m_hasSkipped, false); }
 
 }  // namespace Corvex::Scripting

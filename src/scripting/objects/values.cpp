@@ -29,7 +29,11 @@ SharedPtr<Object> wrapNumber(double number) {
 
 }  // namespace
 
-Values::Values(QJSEngine* engine) : m_engine(engine), m_live(std::make_shared<LiveObjects>()) {}
+Values::Values(QJSEngine* engine)
+    : m_engine(engine),
+      m_plainPrototype(engine->newObject().prototype()),
+      m_keysOf(engine->globalObject().property(QStringLiteral("Object")).property(QStringLiteral("keys"))),
+      m_live(std::make_shared<LiveObjects>()) {}
 
 Values::~Values() { m_live->releaseAll(); }
 
@@ -159,6 +163,24 @@ SharedPtr<Object> Values::objectOfHandle(const QJSValue& handle) {
 QString Values::textOf(const SharedPtr<Object>& object) {
   const QString text = object->toString();
   return text.isEmpty() ? QStringLiteral("[object %1]").arg(object->objectClass()->name()) : text;
+}
+
+bool Values::isPlainObject(const QJSValue& value) const {
+  if (!value.isObject() || value.isArray() || value.isCallable() || objectOf(value)) {
+    return false;
+  }
+  const QJSValue prototype = value.prototype();
+  return prototype.isNull() || prototype.strictlyEquals(m_plainPrototype);
+}
+
+QStringList Values::keysOf(const QJSValue& object) const {
+  QJSValue keysOf = m_keysOf;
+  const QJSValue keys = keysOf.call({object});
+  QStringList names;
+  for (quint32 i = 0; keys.isArray() && i < lengthOf(keys); ++i) {
+    names << keys.property(i).toString();
+  }
+  return names;
 }
 
 quint32 Values::lengthOf(const QJSValue& array) { return array.property(QStringLiteral("length")).toUInt(); }

@@ -39,6 +39,11 @@ public:
   /// The object of a handle itself.
   static SharedPtr<Object> objectOfHandle(const QJSValue& handle);
 
+  /// Whether it is an object that is nothing but its properties, such as a literal `{a: 1}`.
+  bool isPlainObject(const QJSValue& value) const;
+  /// The names of the properties that an object itself has and shows.
+  QStringList keysOf(const QJSValue& object) const;
+
   /// The text of an object, for texts that a script puts it into.
   static QString textOf(const SharedPtr<Object>& object);
   static quint32 lengthOf(const QJSValue& array);
@@ -64,6 +69,8 @@ private:
   QJSEngine* m_engine;
   QJSValue m_wrap;
   QJSValue m_handleOf;
+  QJSValue m_plainPrototype;
+  QJSValue m_keysOf;
   std::vector<const Class*> m_classes;
   std::shared_ptr<LiveObjects> m_live;
 };

@@ -34,6 +34,9 @@ public:
     if (value.isArray()) {
       return ofArray(value, depth);
     }
+    if (m_values.isPlainObject(value)) {
+      return ofObject(value, depth);
+    }
     if (const SharedPtr<Object> object = m_values.objectOf(value)) {
       const QString name = m_values.liveObjects().name(object);
       return name.isEmpty() ? object->objectClass()->name() : name;
@@ -54,6 +57,20 @@ private:
       texts << QStringLiteral("...");
     }
     return QLatin1Char('[') + texts.join(QLatin1String(", ")) + QLatin1Char(']');
+  }
+
+  QString ofObject(const QJSValue& object, int depth) {
+    const QStringList keys = m_values.keysOf(object);
+    const int shown = depth < maxDepth ? std::min(keys.size(), static_cast<int>(maxEntries)) : 0;
+    QStringList texts;
+    for (int i = 0; i < shown && m_left > 0; ++i) {
+      --m_left;
+      texts << shortened(keys.at(i)) + QLatin1String(": ") + of(object.property(keys.at(i)), depth + 1);
+    }
+    if (texts.size() < keys.size()) {
+      texts << QStringLiteral("...");
+    }
+    return QLatin1Char('{') + texts.join(QLatin1String(", ")) + QLatin1Char('}');
   }
 
   const Values& m_values;

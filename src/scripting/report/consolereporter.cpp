@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <QtGlobal>
+#include <algorithm>
 
 #include "shared/textoutput.h"
 #include "shared/visibletext.h"
@@ -13,6 +14,9 @@ namespace {
 
 // As wide as what stands before a text.
 const char* const indentation = "          ";
+
+// In levels of groups; deeper ones stay there.
+const int deepestIndentation = 8;
 
 QString seconds(qint64 milliseconds) {
   return QStringLiteral("%1s").arg(static_cast<double>(milliseconds) / 1000.0, 7, 'f', 3);
@@ -45,16 +49,49 @@ void ConsoleReporter::check(bool passed, const QString& text, const ScriptTrace&
 
 void ConsoleReporter::log(const QString& text) { print(QLatin1String("  log     ") + text); }
 
+void ConsoleReporter::groupStarted(const QString& title) {
+  print(QLatin1String("  begin   ") + title);
+  ++m_depth;
+}
+
+void ConsoleReporter::groupFinished(const QString& title, const QString& error, qint64 durationMs) {
+  --m_depth;
+  const QString time = seconds(durationMs).trimmed();
+  if (error.isEmpty()) {
+    print(QStringLiteral("  end     %1 (%2)").arg(title, time));
+  } else {
+    print(QStringLiteral("  end     %1 (%2) after an error: %3").arg(title, time, error), Colour::Red);
+  }
+}
+
+void ConsoleReporter::functionStarted(const QString& name) { print(name + QLatin1String("()")); }
+
+void ConsoleReporter::functionFinished(const FunctionResult& result) {
+  m_depth = 0;
+  printError(result);
+  printVerdict(result.name + QLatin1String("()"), result);
+}
+
 void ConsoleReporter::scriptFinished(const ScriptResult& result) {
-  if (!result.error.isEmpty()) {
-    print(QLatin1String("  ERROR   ") + result.error, Colour::Red);
-    for (const QString& line : traceLines(result.trace)) {
+  m_depth = 0;
+  // Errors of the functions have been shown.
+  printError(result);
+  printVerdict(result.path, result.whole());
+}
+
+void ConsoleReporter::printError(const Outcome& outcome) {
+  if (!outcome.error.isEmpty()) {
+    print(QLatin1String("  ERROR   ") + outcome.error, Colour::Red);
+    for (const QString& line : traceLines(outcome.trace)) {
       print(QString::fromLatin1(indentation) + line, Colour::Red);
     }
   }
-  const QString verdict = result.passed() ? QStringLiteral("passed") : QStringLiteral("FAILED");
-  print(QStringLiteral("%1 %2 (%3)").arg(verdict, result.path, seconds(result.durationMs).trimmed()),
-        result.passed() ? Colour::Green : Colour::Red);
+}
+
+void ConsoleReporter::printVerdict(const QString& name, const Outcome& outcome) {
+  const QString reason = outcome.skipReason.isEmpty() ? QString() : QLatin1String(": ") + outcome.skipReason;
+  print(QStringLiteral("%1 %2 (%3)%4").arg(outcome.verdict(), name, seconds(outcome.durationMs).trimmed(), reason),
+        outcome.passed() ? Colour::Green : Colour::Red);
 }
 
 void ConsoleReporter::runFinished(const RunSummary& summary) {
@@ -73,8 +110,9 @@ void ConsoleReporter::print(const QString& text, Colour colour) {
   while (visible.endsWith(QLatin1Char('\n'))) {
     visible.chop(1);
   }
-  visible.replace(QLatin1Char('\n'), QLatin1Char('\n') + QLatin1String(indentation));
-  m_error = writeText(m_out, begin + visible + end);
+  const QString depth(2 * std::min(m_depth, deepestIndentation), QLatin1Char(' '));
+  visible.replace(QLatin1Char('\n'), QLatin1Char('\n') + QLatin1String(indentation) + depth);
+  m_error = writeText(m_out, begin + depth + visible + end);
   if (m_error && m_outputEnd) {
     m_outputEnd();
   }

@@ -10,7 +10,7 @@ namespace Corvex::Scripting {
 
 /// Prints each script, step and check as it happens; the last line is the
 /// summary of all. Texts are made visible, and further lines of a text are
-/// indented, so that none passes for a line of the report.
+/// indented, so that none passes for a line of the report. What stands in groups is indented, too.
 class CORVEXSCRIPTING_EXPORT ConsoleReporter : public ScriptListener {
 public:
   enum class Detail { Steps, ObjectCalls };
@@ -30,6 +30,10 @@ public:
   void objectCall(const QString& text, qint64 durationMs) override;
   void check(bool passed, const QString& text, const ScriptTrace& trace) override;
   void log(const QString& text) override;
+  void groupStarted(const QString& title) override;
+  void groupFinished(const QString& title, const QString& error, qint64 durationMs) override;
+  void functionStarted(const QString& name) override;
+  void functionFinished(const FunctionResult& result) override;
   void scriptFinished(const ScriptResult& result) override;
   void runFinished(const RunSummary& summary) override;
 
@@ -37,12 +41,16 @@ private:
   enum class Colour { Plain, Dim, Green, Red };
 
   void print(const QString& text, Colour colour = Colour::Plain);
+  void printError(const Outcome& outcome);
+  void printVerdict(const QString& name, const Outcome& outcome);
 
   std::FILE* m_out;
   Detail m_detail;
   bool m_colours;
   std::function<void()> m_outputEnd;
   std::error_code m_error;
+  /// In how many groups the script is.
+  int m_depth = 0;
 };
 
 }  // namespace Corvex::Scripting

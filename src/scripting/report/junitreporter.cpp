@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QXmlStreamWriter>
+#include <algorithm>
 
 #include "shared/visibletext.h"
 
@@ -9,12 +10,15 @@ namespace Corvex::Scripting {
 
 namespace {
 
+// In levels of groups; deeper ones stay there.
+const int deepestIndentation = 8;
+
 QString seconds(qint64 milliseconds) { return QString::number(static_cast<double>(milliseconds) / 1000.0, 'f', 3); }
 
-QString failedChecksText(const ScriptResult& result) {
+QString failedChecksText(const Outcome& result) {
   QString text;
   for (const FailedCheck& check : result.failedChecks) {
-    text += traceText(check.trace) + QLatin1String(": ") + check.text + QLatin1Char('\n');
+    text += traceText(check.trace) + QLatin1String(": ") + check.fullText() + QLatin1Char('\n');
   }
   return text;
 }
@@ -32,12 +36,7 @@ void writeProblem(QXmlStreamWriter* xml, const char* element, const char* type, 
   xml->writeEndElement();
 }
 
-void writeCase(QXmlStreamWriter* xml, const ScriptResult& result, const QString& output) {
-  xml->writeStartElement(QStringLiteral("testcase"));
-  attribute(xml, "name", result.path);
-  attribute(xml, "classname", QFileInfo(result.path).completeBaseName());
-  attribute(xml, "assertions", QString::number(result.checks()));
-  attribute(xml, "time", seconds(result.durationMs));
+void writeProblems(QXmlStreamWriter* xml, const Outcome& result) {
   if (!result.error.isEmpty()) {
     writeProblem(xml, "error", "ScriptError", result.error,
                  traceLines(result.trace).join(QLatin1Char('\n')) + QLatin1Char('\n') + failedChecksText(result));
@@ -45,11 +44,10 @@ void writeCase(QXmlStreamWriter* xml, const ScriptResult& result, const QString&
     writeProblem(xml, "failure", "Check",
                  QStringLiteral("%1 of %2 checks failed").arg(result.checksFailed()).arg(result.checks()),
                  failedChecksText(result));
+  } else if (result.isSkipped) {
+    xml->writeEmptyElement(QStringLiteral("skipped"));
+    attribute(xml, "message", result.skipReason);
   }
-  if (!output.isEmpty()) {
-    xml->writeTextElement(QStringLiteral("system-out"), visibleText(output));
-  }
-  xml->writeEndElement();
 }
 
 }  // namespace
@@ -65,12 +63,51 @@ QString JUnitReporter::open() {
       .arg(m_file.fileName(), m_file.errorString());
 }
 
-void JUnitReporter::scriptStarted(const QString&) { m_output.clear(); }
+void JUnitReporter::scriptStarted(const QString& path) {
+  m_script = path;
+  m_output.clear();
+  m_outputOfBody.clear();
+  m_depth = 0;
+}
 
-void JUnitReporter::log(const QString& text) { m_output += text + QLatin1Char('\n'); }
+void JUnitReporter::addLine(const QString& text) {
+  m_output += QString(2 * std::min(m_depth, deepestIndentation), QLatin1Char(' ')) + text + QLatin1Char('\n');
+}
+
+void JUnitReporter::log(const QString& text) { addLine(text); }
+
+void JUnitReporter::groupStarted(const QString& title) {
+  addLine(QStringLiteral("begin %1").arg(title));
+  ++m_depth;
+}
+
+void JUnitReporter::groupFinished(const QString& title, const QString& error, qint64 durationMs) {
+  --m_depth;
+  const QString why = error.isEmpty() ? QString() : QStringLiteral(" after an error: ") + error;
+  addLine(QStringLiteral("end %1 (%2s)%3").arg(title, seconds(durationMs), why));
+}
+
+void JUnitReporter::functionStarted(const QString&) {
+  m_outputOfBody += m_output;
+  m_output.clear();
+  m_depth = 0;
+}
+
+void JUnitReporter::functionFinished(const FunctionResult& result) {
+  m_cases.push_back({m_script, result.name, result, m_output});
+  m_output.clear();
+  write();
+}
 
 void JUnitReporter::scriptFinished(const ScriptResult& result) {
-  m_cases.push_back({result, m_output});
+  m_outputOfBody += m_output;
+  Outcome body = result;
+  for (const FunctionResult& function : result.functions) {
+    body.durationMs -= function.durationMs;
+  }
+  if (result.functions.empty() || !body.passed() || body.checks() > 0 || !m_outputOfBody.isEmpty()) {
+    m_cases.push_back({m_script, m_script, body, m_outputOfBody});
+  }
   write();
 }
 
@@ -82,14 +119,29 @@ void JUnitReporter::write() {
   }
 }
 
+void JUnitReporter::writeCase(QXmlStreamWriter* xml, const Case& one) {
+  xml->writeStartElement(QStringLiteral("testcase"));
+  attribute(xml, "name", one.name);
+  attribute(xml, "classname", QFileInfo(one.script).completeBaseName());
+  attribute(xml, "assertions", QString::number(one.outcome.checks()));
+  attribute(xml, "time", seconds(one.outcome.durationMs));
+  writeProblems(xml, one.outcome);
+  if (!one.output.isEmpty()) {
+    xml->writeTextElement(QStringLiteral("system-out"), visibleText(one.output));
+  }
+  xml->writeEndElement();
+}
+
 QByteArray JUnitReporter::document() const {
   int errors = 0;
   int failures = 0;
+  int skipped = 0;
   qint64 durationMs = 0;
   for (const Case& one : m_cases) {
-    errors += one.result.error.isEmpty() ? 0 : 1;
-    failures += one.result.error.isEmpty() && !one.result.passed() ? 1 : 0;
-    durationMs += one.result.durationMs;
+    errors += one.outcome.error.isEmpty() ? 0 : 1;
+    failures += one.outcome.error.isEmpty() && !one.outcome.passed() ? 1 : 0;
+    skipped += one.outcome.passed() && one.outcome.isSkipped ? 1 : 0;
+    durationMs += one.outcome.durationMs;
   }
   QByteArray text;
   QXmlStreamWriter xml(&text);
@@ -101,9 +153,10 @@ QByteArray JUnitReporter::document() const {
   attribute(&xml, "tests", QString::number(m_cases.size()));
   attribute(&xml, "failures", QString::number(failures));
   attribute(&xml, "errors", QString::number(errors));
+  attribute(&xml, "skipped", QString::number(skipped));
   attribute(&xml, "time", seconds(durationMs));
   for (const Case& one : m_cases) {
-    writeCase(&xml, one.result, one.output);
+    writeCase(&xml, one);
   }
   xml.writeEndDocument();
   return text;

@@ -9,7 +9,8 @@ class QXmlStreamWriter;
 
 namespace Corvex::Scripting {
 
-/// Writes the results as a JUnit XML file, in which each script is a test case.
+/// Writes the results as a JUnit XML file, in which each script is a test case. One with test
+/// functions has a case for each of them instead, and one for its body where that did more than to define them.
 /// The file is complete after every script, so that it also tells of a run
 /// that was cut off.
 class CORVEXSCRIPTING_EXPORT JUnitReporter : public ScriptListener {
@@ -24,20 +25,32 @@ public:
 
   void scriptStarted(const QString& path) override;
   void log(const QString& text) override;
+  void groupStarted(const QString& title) override;
+  void groupFinished(const QString& title, const QString& error, qint64 durationMs) override;
+  void functionStarted(const QString& name) override;
+  void functionFinished(const FunctionResult& result) override;
   void scriptFinished(const ScriptResult& result) override;
 
 private:
   struct Case {
-    ScriptResult result;
+    QString script;
+    QString name;
+    Outcome outcome;
     QString output;
   };
 
   void write();
   QByteArray document() const;
+  static void writeCase(QXmlStreamWriter* xml, const Case& one);
+  void addLine(const QString& text);
 
   QFile m_file;
   QString m_error;
+  QString m_script;
+  /// What the running function, or the body, has written.
   QString m_output;
+  QString m_outputOfBody;
+  int m_depth = 0;
   std::vector<Case> m_cases;
 };
 

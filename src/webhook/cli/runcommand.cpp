@@ -9,10 +9,13 @@
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
 #include "webhook/cli/output.h"
+#include "webhook/cli/scriptchoice.h"
 #include "webhook/run/browsercontrol.h"
 #include "webhook/run/browserfunctions.h"
 
-#include <QFileInfo>
+#include <QMap>
+
+#include <vector>
 
 namespace Corvex::Webhook {
 
@@ -31,41 +34,78 @@ const QCommandLineOption inputOption(
     QStringLiteral("browser|page"), QStringLiteral("browser"));
 const QCommandLineOption strictOption(QStringLiteral("strict"),
                                       QStringLiteral("Act on no object whose name fits several."));
+const QCommandLineOption argumentOption(QStringLiteral("arg"),
+                                        QStringLiteral("Give scripts a text as script.arguments.NAME; repeatable."),
+                                        QStringLiteral("name=value"));
+const QCommandLineOption filterOption(
+    QStringLiteral("filter"),
+    QStringLiteral("Run only scripts whose paths, and test functions whose names, hold this text or, with * or ?, are "
+                   "like it; of several options one has to fit."),
+    QStringLiteral("text"));
+const QCommandLineOption scriptTimeoutOption(QStringLiteral("script-timeout"),
+                                             QStringLiteral("End a script that takes longer; no limit without this."),
+                                             QStringLiteral("seconds"));
 
 struct RunOptions {
   SessionOptions session;
-  QStringList scripts;
+  std::vector<Scripting::ScriptChoice> scripts;
+  QMap<QString, QString> arguments;
+  int scriptTimeoutMs = 0;
   QString junitFile;
   InputSettings input;
   bool verbose = false;
 };
 
-QString unreadable(const QStringList& scripts) {
-  for (const QString& script : scripts) {
-    const QFileInfo file(script);
-    if (!file.isFile() || !file.isReadable()) {
-      return QStringLiteral("The script '%1' %2.")
-          .arg(script, file.exists() ? QStringLiteral("cannot be read") : QStringLiteral("does not exist"));
+QString readArguments(const QStringList& texts, QMap<QString, QString>* arguments) {
+  for (const QString& text : texts) {
+    const int equals = text.indexOf(QLatin1Char('='));
+    if (equals < 1) {
+      return QStringLiteral("--arg takes a name and its value, such as --arg server=test1, not '%1'.").arg(text);
     }
+    arguments->insert(text.left(equals), text.mid(equals + 1));
   }
   return QString();
+}
+
+QString readScripts(const QCommandLineParser& parser, RunOptions* options) {
+  if (parser.positionalArguments().isEmpty()) {
+    return QStringLiteral("A script is missing.");
+  }
+  const QStringList filters = parser.values(filterOption);
+  if (filters.contains(QString())) {
+    return QStringLiteral("--filter needs a part of a path or of a test function's name.");
+  }
+  const auto choice = chooseScripts(parser.positionalArguments(), filters);
+  options->scripts = choice.value;
+  return choice.error;
+}
+
+/// An error, or an empty text.
+QString readInput(const QCommandLineParser& parser, InputSettings* input) {
+  const QString who = parser.value(inputOption);
+  *input = {who == QLatin1String("page"), parser.isSet(strictOption)};
+  return input->inPage || who == QLatin1String("browser")
+             ? QString()
+             : QStringLiteral("--input takes browser or page, not '%1'.").arg(who);
 }
 
 /// An error, or an empty text.
 QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
   QString error = readBrowserOptions(parser, &options->session);
-  if (!error.isEmpty()) {
-    return error;
-  }
-  options->scripts = parser.positionalArguments();
   options->junitFile = parser.value(junitOption);
   options->verbose = parser.isSet(verboseOption);
-  const QString input = parser.value(inputOption);
-  if (input != QLatin1String("browser") && input != QLatin1String("page")) {
-    return QStringLiteral("--input takes browser or page, not '%1'.").arg(input);
+  if (error.isEmpty() && parser.isSet(scriptTimeoutOption)) {
+    error = readSeconds(parser, scriptTimeoutOption, &options->scriptTimeoutMs);
   }
-  options->input = {input == QLatin1String("page"), parser.isSet(strictOption)};
-  error = options->scripts.isEmpty() ? QStringLiteral("A script is missing.") : unreadable(options->scripts);
+  if (error.isEmpty()) {
+    error = readArguments(parser.values(argumentOption), &options->arguments);
+  }
+  if (error.isEmpty()) {
+    error = readScripts(parser, options);
+  }
+  if (error.isEmpty()) {
+    error = readInput(parser, &options->input);
+  }
   return error.isEmpty() && parser.isSet(objectMapOption) ? ObjectMap::self()->load(parser.value(objectMapOption))
                                                           : error;
 }
@@ -87,7 +127,10 @@ int runScripts(const RunOptions& options) {
     listeners.add(&junit);
   }
   Inspector::self()->setDefaultTimeout(options.session.defaultTimeoutMs);
-  ScriptEngine engine(browserFunctions(browser), &listeners);
+  ScriptHost host = browserFunctions(browser);
+  host.arguments = options.arguments;
+  ScriptEngine engine(host, &listeners);
+  engine.setScriptTimeout(options.scriptTimeoutMs);
   // Nobody would see what the rest does.
   console.setOutputEnd([&engine] { engine.interrupt(); });
   const RunSummary summary = engine.run(options.scripts);
@@ -105,13 +148,17 @@ int runScripts(const RunOptions& options) {
 
 int runScriptsCommand(const QStringList& arguments) {
   QCommandLineParser parser;
-  parser.setApplicationDescription(
-      QStringLiteral("Runs test scripts in a browser, one after the other, each in a browser of its own.\n\n"
-                     "Exit code: 0 all passed, 1 a script failed or the results could not be written, 2 wrong usage,\n"
-                     "3 the browser could not be started or was lost."));
+  parser.setApplicationDescription(QStringLiteral(
+      "Runs test scripts in a browser, one after the other, each in a browser of its own.\n\n"
+      "Of a folder the files *.js below it run, in the order of their names, but for those that begin with\n"
+      "'_', or are in a folder that does, or in one named lib.\n\n"
+      "Exit code: 0 all passed or skipped, 1 a script failed or the results could not be written, 2 wrong usage,\n"
+      "3 the browser could not be started or was lost."));
   addBrowserOptions(parser);
-  parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, verboseOption});
-  parser.addPositionalArgument(QStringLiteral("SCRIPT..."), QStringLiteral("The scripts, in JavaScript."));
+  parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, argumentOption, filterOption,
+                     scriptTimeoutOption, verboseOption});
+  parser.addPositionalArgument(QStringLiteral("SCRIPT..."),
+                               QStringLiteral("The scripts, in JavaScript, or folders of them."));
   if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {
     return *exitCode;
   }

@@ -80,6 +80,13 @@ ScriptValue screenshot(BrowserControl& control, const ObjectList& arguments) {
   return nothing(takeScreenshot(*control.windows()->current(), object.value.native, file));
 }
 
+FunctionCallResult<QImage> objectPicture(BrowserControl& control, const SharedPtr<Object>& object) {
+  const QString why = control.whyNotAskPage();
+  const FunctionCallResult<PageObject> found =
+      why.isEmpty() ? pageObjectOf(object, "test.compareScreenshot") : FunctionCallResult<PageObject>::failure(why);
+  return found.failed() ? FunctionCallResult<QImage>::failure(found.error) : pictureOf(*found.value.native);
+}
+
 struct Row {
   const char* name;
   const char* usage;
@@ -167,6 +174,7 @@ Scripting::ScriptHost browserFunctions(BrowserControl& control) {
   for (const Scripting::ScriptFunction& function : inputFunctions(control)) {
     host.functions.push_back(function);
   }
+  host.pictureOf = [&control](const SharedPtr<Object>& object) { return objectPicture(control, object); };
   return host;
 }
 

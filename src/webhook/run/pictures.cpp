@@ -49,6 +49,22 @@ FunctionCallResult<Place> placeOf(const HTML_Object& object) {
   return FunctionCallResult<Place>::success({rectangle, numbers[5] == 1});
 }
 
+QString whyNotWritable(const QString& file) {
+  const QFileInfo info(file);
+  const QByteArray format = info.suffix().toLower().toLatin1();
+  if (!QImageWriter::supportedImageFormats().contains(format)) {
+    return QStringLiteral("The name of a picture ends in .png, .jpg or .bmp, unlike '%1'.").arg(file);
+  }
+  if (info.isDir()) {
+    return QStringLiteral("The picture '%1' cannot be written: it is a folder.").arg(file);
+  }
+  return info.dir().exists()
+             ? QString()
+             : QStringLiteral("The picture '%1' cannot be written: there is no folder '%2'.").arg(file, info.path());
+}
+
+}  // namespace
+
 FunctionCallResult<QImage> pictureOf(const HTML_Object& object) {
   FunctionCallResult<Place> place = placeOf(object);
   if (!place.failed() && !place.value.isWhole) {
@@ -69,22 +85,6 @@ FunctionCallResult<QImage> pictureOf(const HTML_Object& object) {
   }
   return WebWrapper::grabObjectScreenshotInPage(object.component, rectangle);
 }
-
-QString whyNotWritable(const QString& file) {
-  const QFileInfo info(file);
-  const QByteArray format = info.suffix().toLower().toLatin1();
-  if (!QImageWriter::supportedImageFormats().contains(format)) {
-    return QStringLiteral("The name of a picture ends in .png, .jpg or .bmp, unlike '%1'.").arg(file);
-  }
-  if (info.isDir()) {
-    return QStringLiteral("The picture '%1' cannot be written: it is a folder.").arg(file);
-  }
-  return info.dir().exists()
-             ? QString()
-             : QStringLiteral("The picture '%1' cannot be written: there is no folder '%2'.").arg(file, info.path());
-}
-
-}  // namespace
 
 QString takeScreenshot(Connection& current, const HTML_Object* object, const QString& file) {
   const QString why = whyNotWritable(file);

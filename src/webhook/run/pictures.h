@@ -1,5 +1,8 @@
 #pragma once
 
+#include "shared/functioncallresult.h"
+
+#include <QImage>
 #include <QString>
 
 namespace Corvex::WebWrapper {
@@ -9,6 +12,9 @@ class HTML_Object;
 namespace Corvex::Webhook {
 
 class Connection;
+
+/// The picture of an object. One that boxes or frames around it hide is scrolled into view first.
+FunctionCallResult<QImage> pictureOf(const WebWrapper::HTML_Object& object);
 
 /// Writes a picture of an object, or of the whole page of `current` where the object is null, to a file whose ending
 /// tells the format. An object that boxes or frames around it hide is scrolled into view first. Answers why not, or an

@@ -106,10 +106,13 @@ QString PointerActions::release(const SharedPtr<Object>& object, const PointerUs
 
 QString PointerActions::turnWheel(const SharedPtr<Object>& object, const QPointF& scroll) const {
   ActionTarget target(object, "scrolled", m_isStrict);
-  const QString error = act(target, {}, false, [&scroll](const QPointF& point) {
+  QString error =
+      act(target, {}, false, [](const QPointF& point) { return InputSteps{pointerStep(InputStep::Move, point)}; });
+  // What the pointer left or came to may have made the page shift.
+  error = !error.isEmpty() || target.needsPage() ? error : target.reach({}, false, [&](const QPointF& point) {
     InputStep wheel = pointerStep(InputStep::Wheel, point);
     wheel.scroll = scroll;
-    return InputSteps{pointerStep(InputStep::Move, point), wheel};
+    return target.perform({wheel});
   });
   return target.needsPage() ? noPointError(target) : error;
 }

@@ -21,7 +21,7 @@ TEST_F(ScriptErrors, NameTheLineOfTheScript) {
   EXPECT_EQ(result.error, s("Object '{id='none'}' not found."));
   EXPECT_EQ(
       traceLines(result.trace),
-      QStringList({path() + s(":2: return findObject(name);"),
+      QStringList({path() + s(":2 in look(): return findObject(name);"),
                    s("called from ") + path() + s(":4: [\"{id='none'}\"].forEach(function (name) { look(name); });")}));
   EXPECT_EQ(listener.lines.filter(s("log")), QStringList());
 }

@@ -47,7 +47,7 @@ TEST_F(ScriptSources, ErrorsNameEachCaller) {
   write("source('part.js');\nbroken();\n", "lib/all.js");
   const ScriptResult result = run("\nsource('lib/all.js');\n");
   EXPECT_EQ(result.error, s("ReferenceError: nowhere is not defined"));
-  EXPECT_EQ(traceLines(result.trace), QStringList({path("lib/part.js") + s(":2: nowhere();"),
+  EXPECT_EQ(traceLines(result.trace), QStringList({path("lib/part.js") + s(":2 in broken(): nowhere();"),
                                                    s("called from ") + path("lib/all.js") + s(":2: broken();"),
                                                    s("called from ") + path() + s(":2: source('lib/all.js');")}));
   write("var a = ;", "lib/part.js");

@@ -1,3 +1,4 @@
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 #include <cstdlib>
 
@@ -72,7 +73,7 @@ TEST_F(ScriptReporters, ConsoleShowsStepsErrorsAndTheSummaryLast) {
   EXPECT_EQ(lines.value(2), s("  passed  got 1 as expected"));
   EXPECT_TRUE(lines.contains(s("  FAILED  a < b & \"c\" does not hold (") + path("checks.js") + s(":1)")));
   EXPECT_TRUE(lines.contains(s("  ERROR   Object '{id='<none>'}' not found.")));
-  EXPECT_TRUE(lines.contains(s("          ") + path("lib.js") + s(":2: findObject(\"{id='<none>'}\");")));
+  EXPECT_TRUE(lines.contains(s("          ") + path("lib.js") + s(":2 in look(): findObject(\"{id='<none>'}\");")));
   EXPECT_TRUE(lines.contains(s("          called from ") + path("error.js") + s(":3: look();")));
   EXPECT_TRUE(lines.last().startsWith(s("3 scripts: 1 passed, 2 failed")));
   EXPECT_FALSE(lines.join(QString()).contains(QChar(0x1b)));
@@ -90,6 +91,34 @@ TEST_F(ScriptReporters, ConsoleShowsTextsInOnePieceAndWhoCalledWhat) {
   EXPECT_TRUE(lines.contains(s("  FAILED  got 'a\n          b', but expected '' (") + path("one.js") +
                              s(":1, called from ") + path("one.js") + s(":3)\n")));
   EXPECT_TRUE(lines.contains(s("  ERROR   Object 'a\\rb' not found.\n          ") + path("one.js") + s(":4: ")));
+}
+
+TEST_F(ScriptReporters, ConsoleShowsGroupsAndTestFunctions) {
+  QString lines = printedOf(
+      "function testA() {\n"
+      "  test.step('outer', function () { test.step('in\\nner', function () { test.log('a\\nb'); nowhere(); }); });\n"
+      "}\n"
+      "function testB() { test.skip('later'); }\n");
+  lines.replace(QRegularExpression(s("\\(\\d+\\.\\d+s\\)")), s("(0s)"));
+  const QString script = path("one.js");
+  EXPECT_EQ(lines, script +
+                       s("\ntestA()\n"
+                         "  begin   outer\n"
+                         "    begin   in\n            ner\n"
+                         "      log     a\n              b\n"
+                         "    end     in\n            ner (0s) after an error: "
+                         "ReferenceError: nowhere is not defined\n"
+                         "  end     outer (0s) after an error: ReferenceError: nowhere is not defined\n"
+                         "  ERROR   ReferenceError: nowhere is not defined\n"
+                         "          ") +
+                       script +
+                       s(":2 in testA(): test.step('outer', function () { test.step('in\\nner', function () { "
+                         "test.log('a\\nb'); nowhere(); }); });\n"
+                         "FAILED testA() (0s)\n"
+                         "testB()\n"
+                         "skipped testB() (0s): later\n"
+                         "FAILED ") +
+                       script + s(" (0s)\n"));
 }
 
 TEST_F(ScriptReporters, AnOutputThatTakesNoMoreIsToldOnce) {
@@ -132,13 +161,13 @@ TEST_F(ScriptReporters, JUnitFileIsValidAndComplete) {
     }
   }
   EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
-  EXPECT_EQ(
-      seen,
-      QStringList({s("suite 311"), s("case good"), s("case checks"),
-                   s("failure 1 of 1 checks failed | ") + path("checks.js") + s(":1: a < b & \"c\" does not hold"),
-                   s("out bad \\u0001"), s("case error"),
-                   s("error Object '{id='<none>'}' not found. | ") + path("lib.js") +
-                       s(":2: findObject(\"{id='<none>'}\");\ncalled from ") + path("error.js") + s(":3: look();")}));
+  EXPECT_EQ(seen, QStringList(
+                      {s("suite 311"), s("case good"), s("case checks"),
+                       s("failure 1 of 1 checks failed | ") + path("checks.js") + s(":1: a < b & \"c\" does not hold"),
+                       s("out bad \\u0001"), s("case error"),
+                       s("error Object '{id='<none>'}' not found. | ") + path("lib.js") +
+                           s(":2 in look(): findObject(\"{id='<none>'}\");\ncalled from ") + path("error.js") +
+                           s(":3: look();")}));
 }
 
 TEST_F(ScriptReporters, JUnitFileThatCannotBeWrittenIsToldBeforehand) {
