@@ -16,6 +16,8 @@ struct ButtonRow {
 
 const ButtonRow buttonRows[] = {{PointerButton::Left, 1}, {PointerButton::Right, 2}, {PointerButton::Middle, 4}};
 
+const QString beginDrag = QStringLiteral("__corvex__dragEmulation.begin(%1)");
+
 int scriptValue(PointerButton button) {
   for (const ButtonRow& row : buttonRows) {
     if (row.button == button) {
@@ -90,7 +92,8 @@ QString PointerActions::hover(const SharedPtr<Object>& object, const PointerUse&
 
 QString PointerActions::press(const SharedPtr<Object>& object, const PointerUse& use) const {
   ActionTarget target(object, "pressed", m_isStrict);
-  const QString error = act(target, use, true, [&use](const QPointF& point) {
+  const QString error = act(target, use, true, [&](const QPointF& point) {
+    target.ask(beginDrag);
     return InputSteps{pointerStep(InputStep::Move, point), pointerStep(InputStep::Press, point, use.button)};
   });
   return target.needsPage() ? noPointError(target) : error;
@@ -120,8 +123,9 @@ QString PointerActions::turnWheel(const SharedPtr<Object>& object, const QPointF
 QString PointerActions::drag(const SharedPtr<Object>& from, const SharedPtr<Object>& to) const {
   ActionTarget source(from, "dragged", m_isStrict);
   QPointF begin;
-  QString error = act(source, {}, true, [&begin](const QPointF& point) {
+  QString error = act(source, {}, true, [&begin, &source](const QPointF& point) {
     begin = point;
+    source.ask(beginDrag);
     return InputSteps{pointerStep(InputStep::Move, point), pointerStep(InputStep::Press, point)};
   });
   if (!error.isEmpty() || source.needsPage()) {

@@ -45,6 +45,9 @@ test.compare(events(function () {
   mouseUp(element("SPAN", "to"), 5, 5);
 }).replace(/;click .*$/, ""), "pointerdown from;mousedown from;pointerup to;mouseup to");
 
+dragTo(element("SPAN", "item"), element("SPAN", "basket"));
+waitForText("SPAN", "basket", "an item");
+
 // In a frame with border and padding.
 setFrameContext("frame");
 clickButton(element("BUTTON", "inner"));
