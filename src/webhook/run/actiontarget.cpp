@@ -87,7 +87,7 @@ QString ActionTarget::reach(const std::optional<QPointF>& place, bool presses,
   QString state;
   int number = 0;
   m_isDone = false;
-  poll(qMax(0, remainingMs()), attemptIntervalMs, [&] {
+  poll(remainingMs(), attemptIntervalMs, [&] {
     state = attempt(place, presses, act, number++);
     return m_isDone || !Inspector::self()->whyNotGoOn().isEmpty();
   });
@@ -157,6 +157,6 @@ QString ActionTarget::failure(const QString& why) const {
       .arg(name(), QLatin1String(m_action), QString::number(Inspector::self()->defaultTimeout()), why);
 }
 
-int ActionTarget::remainingMs() const { return static_cast<int>(m_end - Clock::current().now()); }
+int ActionTarget::remainingMs() const { return static_cast<int>(qMax<qint64>(0, m_end - Clock::current().now())); }
 
 }  // namespace Corvex::Webhook

@@ -43,6 +43,9 @@ public:
   JavaScriptAnswer ask(const QString& code) const;
   QString perform(const InputSteps& steps) const;
 
+  /// What is left of the time, 0 or more.
+  int remainingMs() const;
+
   /// The name that it was found by, or one that finds it.
   QString name() const;
   /// "The object '...' could not be ...: " and why.
@@ -54,7 +57,6 @@ private:
   QString attempt(const std::optional<QPointF>& place, bool presses, const std::function<QString(const QPointF&)>& act,
                   int number);
   QString reasonFor(const QString& state) const;
-  int remainingMs() const;
 
   SharedPtr<Object> m_argument;
   const char* m_action;

@@ -1,5 +1,7 @@
 #include "webhook/run/typing.h"
 
+#include "corvexhook/inspector.h"
+#include "shared/wait.h"
 #include "webhook/pages/connection.h"
 #include "webhook/run/actiontarget.h"
 #include "webhook/run/keytext.h"
@@ -9,6 +11,8 @@
 namespace Corvex::Webhook {
 
 namespace {
+
+const int kindIntervalMs = 20;
 
 InputSteps stepsFor(const QVector<KeyTextPart>& parts) {
   InputSteps steps;
@@ -56,6 +60,16 @@ QString chooseValue(ActionTarget& target, const QString& value) {
                                   .arg(value));
 }
 
+/// How an element takes text. One that is read-only gets the time to change.
+JavaScriptAnswer kindOf(const ActionTarget& target) {
+  JavaScriptAnswer kind;
+  poll(target.remainingMs(), kindIntervalMs, [&] {
+    kind = target.ask(QStringLiteral("__corvex__typingKind(%1)"));
+    return !kind.succeeded() || kind.text != QLatin1String("readonly") || !Inspector::self()->whyNotGoOn().isEmpty();
+  });
+  return kind;
+}
+
 /// Clicks into a field, unless it has the focus, and tells how what has it then takes text.
 QString focus(ActionTarget& target, bool selectsAll, QString* kind) {
   const QString isWhole = selectsAll ? QStringLiteral("true") : QStringLiteral("false");
@@ -94,7 +108,7 @@ QString Typing::put(const SharedPtr<Object>& object, const QString& text, bool h
   if (!error.isEmpty()) {
     return error;
   }
-  const JavaScriptAnswer kind = target.ask(QStringLiteral("__corvex__typingKind(%1)"));
+  const JavaScriptAnswer kind = kindOf(target);
   if (!kind.succeeded()) {
     return kind.text;
   }
