@@ -46,6 +46,7 @@ QString browserUnderTest() { return qEnvironmentVariable("CORVEX_TEST_BROWSER", 
 
 PageSite::PageSite() {
   m_server.serveFolder(QStringLiteral(CORVEX_TEST_SOURCE "/e2e/pages"));
+  m_server.serveFolder(QStringLiteral(CORVEX_TEST_SOURCE "/../node_modules"), QStringLiteral("/packages/"));
   for (const PolicyRow& row : policies) {
     addFolder(m_server, row);
   }

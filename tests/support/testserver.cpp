@@ -76,9 +76,13 @@ ServerPage TestServer::pageFor(const QString& path) const {
   if (m_pages.contains(path)) {
     return m_pages.value(path);
   }
-  QFile file(m_folder + path);
-  if (!m_folder.isEmpty() && !path.contains(QStringLiteral("..")) && file.open(QIODevice::ReadOnly)) {
-    return {file.readAll(), typeOf(path)};
+  // The longest beginning of all comes last.
+  for (auto folder = m_folders.constEnd(); folder != m_folders.constBegin();) {
+    --folder;
+    QFile file(folder.value() + QLatin1Char('/') + path.mid(folder.key().size()));
+    if (path.startsWith(folder.key()) && !path.contains(QStringLiteral("..")) && file.open(QIODevice::ReadOnly)) {
+      return {file.readAll(), typeOf(path)};
+    }
   }
   return {"<title>Not found</title>", "text/html", {}, 404};
 }

@@ -32,8 +32,11 @@ public:
   /// Answers `path` (such as "/a.html") with `page`.
   void add(const QString& path, const ServerPage& page) { m_pages[path] = page; }
 
-  /// Answers every path that is not added with the file of that name below `folder`.
-  void serveFolder(const QString& folder) { m_folder = folder; }
+  /// Answers every path that is not added and begins with `prefix` with the file of the rest of its name below
+  /// `folder`.
+  void serveFolder(const QString& folder, const QString& prefix = QStringLiteral("/")) {
+    m_folders.insert(prefix, folder);
+  }
 
   /// "http://127.0.0.1:port" + path; `host` may be another name of the loopback interface.
   QString url(const QString& path, const QString& host = QStringLiteral("127.0.0.1")) const;
@@ -48,7 +51,7 @@ private:
 
   QTcpServer m_server;
   QMap<QString, ServerPage> m_pages;
-  QString m_folder;
+  QMap<QString, QString> m_folders;  ///< By the beginnings of the paths that they serve.
   QStringList m_requests;
 };
 
