@@ -138,11 +138,7 @@ QString Connection::perform(const InputSteps& steps) {
   return error;
 }
 
-void Connection::awaitOutcome() {
-  // A form is sent a moment after the key that sends it.
-  if (isAvailable()) {
-    ask(QStringLiteral("0"), 0);
-  }
+void Connection::awaitNavigation() {
   if (m_page) {
     m_page->awaitNavigation();
   }

@@ -32,8 +32,9 @@ public:
   bool isOpen() const;
   /// See `BrowserPage::perform`.
   QString perform(const InputSteps& steps);
-  /// Waits until what input began is done: the page has taken it in, and stands where it led.
-  void awaitOutcome();
+  /// See `BrowserPage::awaitNavigation`. A form is sent a moment after the key that sends it, so the page is to be asked
+  /// something before.
+  void awaitNavigation();
   BrowserPage* page() const { return m_page; }
   /// Of the document that the page shows, also while the page cannot be asked.
   QString address() const { return m_page ? m_page->url() : QString(); }

@@ -123,7 +123,7 @@ QString ActionTarget::attempt(const std::optional<QPointF>& place, bool presses,
   const bool isAvailable = error.isEmpty() && presses && connection().isAvailable();
   const bool isCovered =
       isAvailable && ask(QStringLiteral("__corvex__pressCheck.end()")).text == QLatin1String("covered");
-  connection().awaitOutcome();
+  connection().awaitNavigation();
   m_isDone = !isCovered;
   return isCovered ? QStringLiteral("covered") : error;
 }

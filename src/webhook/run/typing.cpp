@@ -12,7 +12,7 @@ namespace Corvex::Webhook {
 
 namespace {
 
-const int kindIntervalMs = 20;
+const int stateIntervalMs = 20;
 
 InputSteps stepsFor(const QVector<KeyTextPart>& parts) {
   InputSteps steps;
@@ -60,75 +60,47 @@ QString chooseValue(ActionTarget& target, const QString& value) {
                                   .arg(value));
 }
 
-/// How an element takes text. One that is read-only gets the time to change.
-JavaScriptAnswer kindOf(const ActionTarget& target) {
-  JavaScriptAnswer kind;
-  poll(target.remainingMs(), kindIntervalMs, [&] {
-    kind = target.ask(QStringLiteral("__corvex__typingKind(%1)"));
-    return !kind.succeeded() || kind.text != QLatin1String("readonly") || !Inspector::self()->whyNotGoOn().isEmpty();
+struct Field {
+  QString kind;           ///< How it takes text; see the page's typingState.
+  bool hasFocus = false;  ///< Nobody would click it before typing.
+  QString error;
+};
+
+/// A field that is read-only gets the time to change.
+Field fieldOf(const ActionTarget& target) {
+  Field field;
+  poll(target.remainingMs(), stateIntervalMs, [&] {
+    const JavaScriptAnswer answer = target.ask(QStringLiteral("__corvex__typingState(%1)"));
+    const QStringList words = answer.text.split(QLatin1Char(' '));
+    field = {words.value(0), words.value(1) == QLatin1String("focus"), answer.succeeded() ? QString() : answer.text};
+    return field.kind != QLatin1String("readonly") || !field.error.isEmpty() ||
+           !Inspector::self()->whyNotGoOn().isEmpty();
   });
-  return kind;
+  return field;
 }
 
-/// Clicks into a field, unless it has the focus, and tells how what has it then takes text.
-QString focus(ActionTarget& target, bool selectsAll, QString* kind) {
-  const QString isWhole = selectsAll ? QStringLiteral("true") : QStringLiteral("false");
-  const auto ask = [&](bool isClicked) {
-    const JavaScriptAnswer answer =
-        target.ask(QStringLiteral("__corvex__typingField(%1, ") +
-                   (isClicked ? QStringLiteral("true, ") : QStringLiteral("false, ")) + isWhole + QLatin1Char(')'));
-    *kind = answer.succeeded() ? answer.text : QString();
-    return answer.succeeded() ? QString() : answer.text;
-  };
-  const bool isCatcher = target.ask(QStringLiteral("__corvex__isKeyCatcher(%1)")).text == QLatin1String("true");
-  const bool hasFocus = target.ask(QStringLiteral("__corvex__focusedField(%1, false)")).text == QLatin1String("field");
-  if (isCatcher || hasFocus) {
-    return ask(false);
-  }
+/// Sees to it that the field, or the part of it that takes keys, has the focus, and tells how that takes text. Then the
+/// page watches whether it takes any.
+QString focus(ActionTarget& target, const Field& field, bool selectsAll, QString* kind) {
   const QString error =
-      target.reach({}, true, [&target](const QPointF& point) { return target.perform(click(point)); });
-  return error.isEmpty() ? ask(true) : error;
-}
-
-}  // namespace
-
-QString Typing::typeText(const SharedPtr<Object>& object, const QString& text) const { return put(object, text, true); }
-
-QString Typing::setText(const SharedPtr<Object>& object, const QString& text) const { return put(object, text, false); }
-
-QString Typing::pressKeys(Connection& page, const QString& text) {
-  const QString error = page.perform(stepsFor(parseKeyText(text)));
-  page.awaitOutcome();
-  return error;
-}
-
-QString Typing::put(const SharedPtr<Object>& object, const QString& text, bool hasKeys) const {
-  ActionTarget target(object, "given text", m_isStrict);
-  const QString error = target.find();
-  if (!error.isEmpty()) {
+      field.hasFocus ? QString()
+                     : target.reach({}, true, [&target](const QPointF& point) { return target.perform(click(point)); });
+  if (!error.isEmpty() || target.needsPage()) {
     return error;
   }
-  const JavaScriptAnswer kind = kindOf(target);
-  if (!kind.succeeded()) {
-    return kind.text;
-  }
-  if (kind.text == QLatin1String("readonly")) {
-    return target.failure(QStringLiteral("it is read-only"));
-  }
-  if (kind.text == QLatin1String("value")) {
-    return chooseValue(target, text);
-  }
-  if (kind.text == QLatin1String("file")) {
-    return target.connection().page()->setFiles(target.element().reference, {text});
-  }
-  return type(target, text, hasKeys);
+  const auto truth = [](bool is) { return is ? QStringLiteral("true") : QStringLiteral("false"); };
+  const JavaScriptAnswer answer = target.ask(QStringLiteral("__corvex__typingField(%1, ") + truth(!field.hasFocus) +
+                                             QStringLiteral(", ") + truth(selectsAll) + QLatin1Char(')'));
+  *kind = answer.succeeded() ? answer.text : QString();
+  return answer.succeeded() ? QString() : answer.text;
 }
 
-QString Typing::type(ActionTarget& target, const QString& text, bool hasKeys) const {
+/// Types into what takes keys.
+QString type(ActionTarget& target, const Field& field, const QString& text, bool hasKeys) {
   const QVector<KeyTextPart> parts = hasKeys ? parseKeyText(text) : QVector<KeyTextPart>{{text, {}}};
   const bool replaces = parts.isEmpty() || parts.first().combination.isEmpty();
   QString kind;
-  const QString error = focus(target, replaces, &kind);
+  const QString error = focus(target, field, replaces, &kind);
   if (!error.isEmpty()) {
     return error;
   }
@@ -146,18 +118,51 @@ QString Typing::type(ActionTarget& target, const QString& text, bool hasKeys) co
     steps += combination("Ctrl", QStringLiteral("a"));
   }
   steps += text.isEmpty() ? singleKey("Delete") : hasKeys ? stepsFor(parts) : insertion(text);
-  const bool isChecked = parts.size() == 1 && replaces;
-  if (isChecked) {
-    target.ask(QStringLiteral("__corvex__typingCheck.begin()"));
-  }
   const QString failed = target.perform(steps);
-  target.connection().awaitOutcome();
-  if (!failed.isEmpty() || !isChecked || !target.connection().isAvailable()) {
+  if (!failed.isEmpty() || !target.connection().isAvailable()) {
     return failed;
   }
-  return target.ask(QStringLiteral("__corvex__typingCheck.end()")).text == QLatin1String("false")
-             ? target.failure(QStringLiteral("it took nothing of the text"))
-             : QString();
+  const bool tookNothing = target.ask(QStringLiteral("__corvex__typingCheck.end()")).text == QLatin1String("false");
+  target.connection().awaitNavigation();
+  const bool hasToTake = parts.size() == 1 && replaces && !text.isEmpty();
+  return tookNothing && hasToTake ? target.failure(QStringLiteral("it took nothing of the text")) : QString();
+}
+
+}  // namespace
+
+QString Typing::typeText(const SharedPtr<Object>& object, const QString& text) const { return put(object, text, true); }
+
+QString Typing::setText(const SharedPtr<Object>& object, const QString& text) const { return put(object, text, false); }
+
+QString Typing::pressKeys(Connection& page, const QString& text) {
+  const QString error = page.perform(stepsFor(parseKeyText(text)));
+  if (page.isAvailable()) {
+    page.evaluateInAnyDocument(QStringLiteral("0"), 0);
+  }
+  page.awaitNavigation();
+  return error;
+}
+
+QString Typing::put(const SharedPtr<Object>& object, const QString& text, bool hasKeys) const {
+  ActionTarget target(object, "given text", m_isStrict);
+  const QString error = target.find();
+  if (!error.isEmpty()) {
+    return error;
+  }
+  const Field field = fieldOf(target);
+  if (!field.error.isEmpty()) {
+    return field.error;
+  }
+  if (field.kind == QLatin1String("readonly")) {
+    return target.failure(QStringLiteral("it is read-only"));
+  }
+  if (field.kind == QLatin1String("value")) {
+    return chooseValue(target, text);
+  }
+  if (field.kind == QLatin1String("file")) {
+    return target.connection().page()->setFiles(target.element().reference, {text});
+  }
+  return type(target, field, text, hasKeys);
 }
 
 }  // namespace Corvex::Webhook

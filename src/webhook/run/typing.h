@@ -6,7 +6,6 @@
 
 namespace Corvex::Webhook {
 
-class ActionTarget;
 class Connection;
 
 /// What a person does with the keyboard, given to the browser as its own input. Each action answers an error sentence.
@@ -24,7 +23,6 @@ public:
 
 private:
   QString put(const SharedPtr<Object>& object, const QString& text, bool hasKeys) const;
-  QString type(ActionTarget& target, const QString& text, bool hasKeys) const;
 
   bool m_isStrict;
 };

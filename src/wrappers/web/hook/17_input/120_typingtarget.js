@@ -1,5 +1,5 @@
 // Gives: how an element takes text: __corvex__typingKind, __corvex__focusedField, __corvex__typingField.
-// Needs: runtime/natives, runtime/nodes, input/hittarget.
+// Needs: runtime/natives, runtime/nodes, input/hittarget, input/typingcheck.
 
 // The deepest element that has the focus, through shadow trees and frames.
 function __corvex__activeElement() {
@@ -64,7 +64,16 @@ function __corvex__focusedField(o, isClicked) {
   return kind === "field" && __corvex__isKeyCatcher(active) ? "editor" : kind;
 }
 
-// As focusedField; gives o the focus by a call where no click did. isWhole selects what a field holds.
+// The kind of o, and "focus" if a person would not click it before typing, else "click".
+function __corvex__typingState(o) {
+  var kind = __corvex__typingKind(o);
+  var isReady = __corvex__nodeReader.nodeType(o) !== 1 || __corvex__isKeyCatcher(o) ||
+    __corvex__focusedField(o, false) === "field";
+  return kind + " " + (isReady ? "focus" : "click");
+}
+
+// As focusedField; gives o the focus by a call where no click did, and begins the check of what is typed then. isWhole
+// selects what a field holds.
 function __corvex__typingField(o, isClicked, isWhole) {
   var kind = __corvex__focusedField(o, isClicked);
   if (!kind && typeof o.focus === "function") {
@@ -73,6 +82,9 @@ function __corvex__typingField(o, isClicked, isWhole) {
   }
   if (kind === "field" && isWhole) {
     __corvex__activeElement().select();
+  }
+  if (kind) {
+    __corvex__typingCheck.begin();
   }
   return kind;
 }

@@ -20,7 +20,7 @@
     "__corvex__convertJSDateToDateTimeString __corvex__hookFramesOfAllWindows __corvex__addObjectToEventStorage " +
     "__corvex__getSessionStorageEvents __corvex__queueText");
   guard(window, "__corvex__actionPoint __corvex__pressPoint __corvex__coverName __corvex__typingKind " +
-    "__corvex__isKeyCatcher __corvex__focusedField __corvex__checkedState");
+    "__corvex__focusedField __corvex__typingState __corvex__checkedState");
   guard(window.top.__corvex, "getAllFrames childObjectAndInfo objectTreeInformation readPropertiesFromObjects " +
     "getPropertyValue simplifyText getSimplifiedInnerText getTextContent getSelectedText getDocumentSize " +
     "getElementRectangleInDocument parseMultiPropertyName faultOfName explainFailedSearch findAllObjects");
