@@ -41,8 +41,8 @@ TEST_P(FailingScript, EndsWithASentence) {
 
 const Failure failures[] = {
     {"NoBrowser", "findObject('x');", "No browser is running. Call startBrowser(url) first.", 1},
-    {"MissingMethod", "startBrowser('page.html');\ntypeText(\"{tagName='A' simplifiedInnerText='link'}\", 'x');",
-     "HTML_Anchor", 1},
+    {"NoField", "startBrowser('page.html');\ntypeText(\"{tagName='A' simplifiedInnerText='link'}\", 'x');",
+     "could not be given text within 1500 ms: it takes no text.", 1},
     {"MissingUpload",
      "startBrowser('page.html');\nvar i = findObject(\"{tagName='INPUT' name='i'}\");\n"
      "i.setProperty('type', 'file'); setText(i, '/no/such.file');",

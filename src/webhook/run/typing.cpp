@@ -156,6 +156,9 @@ QString Typing::put(const SharedPtr<Object>& object, const QString& text, bool h
   if (field.kind == QLatin1String("readonly")) {
     return target.failure(QStringLiteral("it is read-only"));
   }
+  if (field.kind == QLatin1String("none")) {
+    return target.failure(QStringLiteral("it takes no text"));
+  }
   if (field.kind == QLatin1String("value")) {
     return chooseValue(target, text);
   }

@@ -64,9 +64,34 @@ function __corvex__focusedField(o, isClicked) {
   return kind === "field" && __corvex__isKeyCatcher(active) ? "editor" : kind;
 }
 
-// The kind of o, and "focus" if a person would not click it before typing, else "click".
+// Whether a click on o, which is no field itself, may lead to one: in it, or in an editor of which it is a part.
+var __corvex__leadsToField = (function () {
+  var controls = { A: 1, AREA: 1, BUTTON: 1, IMG: 1, INPUT: 1, OPTION: 1, SELECT: 1, SUMMARY: 1 };
+  var select = __corvex__nativeFunction(window.Element && Element.prototype.querySelector);
+
+  function holdsField(e) {
+    return !!__corvex__nodeReader.shadowRoot(e) || !select || !!select.call(e, "input, textarea, [contenteditable]");
+  }
+
+  return function (o) {
+    if (controls[__corvex__nodeReader.tagName(o)] === 1) {
+      return false;
+    }
+    var e = o;
+    while (e && e.nodeType === 1 && __corvex__nodeReader.tagName(e) !== "BODY" && !holdsField(e)) {
+      e = __corvex__hitTarget.parentOf(e);
+    }
+    return !!e && e.nodeType === 1 && __corvex__nodeReader.tagName(e) !== "BODY";
+  };
+})();
+
+// The kind of o, "none" for what does not lead to a field; and "focus" if a person would not click it before typing, else
+// "click".
 function __corvex__typingState(o) {
   var kind = __corvex__typingKind(o);
+  if (!kind && !__corvex__leadsToField(o)) {
+    return "none click";
+  }
   var isReady = __corvex__nodeReader.nodeType(o) !== 1 || __corvex__isKeyCatcher(o) ||
     __corvex__focusedField(o, false) === "field";
   return kind + " " + (isReady ? "focus" : "click");
