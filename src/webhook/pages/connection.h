@@ -32,8 +32,8 @@ public:
   bool isOpen() const;
   /// See `BrowserPage::perform`.
   QString perform(const InputSteps& steps);
-  /// See `BrowserPage::awaitNavigation`. A form is sent a moment after the key that sends it, so the page is to be asked
-  /// something before.
+  /// See `BrowserPage::awaitNavigation`. A form is sent a moment after the key that sends it, so the page is to be
+  /// asked something before.
   void awaitNavigation();
   BrowserPage* page() const { return m_page; }
   /// Of the document that the page shows, also while the page cannot be asked.
