@@ -85,6 +85,11 @@ TEST_F(JsObjects, WrongCallsHaveSentencesOfTheirOwn) {
             QString("JsObject::call: Requires a string as first argument, got: 1"));
   EXPECT_EQ(cls->whyNotCall("call", {text("f"), number(1)}),
             QString("JsObject::call: Requires a list as second argument, got: 1"));
+  EXPECT_EQ(cls->whyNotCall("call", {text("f"), nullptr}),
+            QString("JsObject::call: Requires a list as second argument, got: null"));
+  EXPECT_EQ(cls->whyNotCall("property", {text("f")}), QString());
+  EXPECT_EQ(cls->whyNotCall("call", {text("f")}), QString());
+  EXPECT_EQ(cls->whyNotCall("call", {text("f"), ArrayClass::wrapObject({})}), QString());
 }
 
 TEST_F(JsObjects, WithoutEvalAnExpressionIsAskedForItself) {
