@@ -111,6 +111,8 @@ QString Class::realType(const QString& type) const { return type; }
 
 QString Class::whyNotCall(const QString&, const ObjectList&) const { return QString(); }
 
+QString Class::whyNoMember(const QString&) const { return QString(); }
+
 void Class::initSuperClass() { setSuperClass(nullptr); }
 
 const Constructor* Class::createConstructor(int) const { return nullptr; }

@@ -77,8 +77,11 @@ public:
                                    const Method* method) const;
   virtual SharedPtr<Object> construct(int id, const ObjectList& arguments, const Constructor* constructor) const;
 
-  /// What a script is told whose arguments fit no method of the name; empty where the class has no words for it.
+  /// What a script is told whose arguments no method of the name takes; empty where the class has no words for it.
+  /// Asked before arguments are converted, and so may refuse some that could be.
   virtual QString whyNotCall(const QString& method, const ObjectList& arguments) const;
+  /// What a script is told that asks for a member which there is not; empty where the class has no words for it.
+  virtual QString whyNoMember(const QString& member) const;
 
   const QString& name() const { return m_name; }
   bool isPublic() const { return m_public; }

@@ -72,16 +72,10 @@ ObjectResult nullObjectError(const QString& name) {
   return ObjectResult::failure(QStringLiteral("'%1' needs an object in front of it, as in object.%1.").arg(name));
 }
 
-/// Why these arguments cannot be given. An object that is gone takes none at all, and a class may have a sentence of
-/// its own, which the forms that it takes follow.
-QString whyNotCall(const Class* cls, const SharedPtr<Object>& object, const QString& name, const ObjectList& arguments,
-                   const QString& formsError) {
+/// An object that is gone takes no arguments at all.
+QString goneOr(const QString& why, const SharedPtr<Object>& object) {
   const QString gone = object ? Inspector::self()->hostServices().whyNotUse(object) : QString();
-  if (!gone.isEmpty()) {
-    return gone;
-  }
-  const QString own = cls->whyNotCall(name, arguments);
-  return own.isEmpty() ? formsError : own;
+  return gone.isEmpty() ? why : gone;
 }
 
 /// What the class says of such an assignment; otherwise a sentence of ours.
@@ -116,9 +110,13 @@ ObjectResult MemberCalls::call(const Class* cls, const SharedPtr<Object>& object
   if (numbered.empty()) {
     return ObjectResult::failure(unknownMemberError(cls, name));
   }
+  const QString refused = cls->whyNotCall(name, arguments);
+  if (!refused.isEmpty()) {
+    return ObjectResult::failure(goneOr(refused, object));
+  }
   const OverloadChoice choice = chooseOverload(memberText(cls, name), methods, arguments);
   if (choice.index < 0) {
-    return ObjectResult::failure(whyNotCall(cls, object, name, arguments, choice.error));
+    return ObjectResult::failure(goneOr(choice.error, object));
   }
   const NumberedMethod chosen = numbered[static_cast<std::size_t>(choice.index)];
   warnIfDeprecated(chosen.method);
@@ -198,8 +196,13 @@ std::vector<const Method*> MemberCalls::globalMethodsNamed(const QString& name) 
 
 QString MemberCalls::unknownMemberError(const Class* cls, const QString& name) {
   const QString nearest = nearestName(memberNames(cls), name);
-  const QString hint = nearest.isEmpty() ? QString() : QStringLiteral(" Did you mean '%1'?").arg(nearest);
-  return QStringLiteral("%1 has no member '%2'.%3").arg(cls->name(), name, hint);
+  const QString own = cls->whyNoMember(name);
+  const QString sentence = own.isEmpty() ? QStringLiteral("%1 has no member '%2'.").arg(cls->name(), name) : own;
+  if (nearest.isEmpty()) {
+    return sentence;
+  }
+  const QString stop = sentence.endsWith(QLatin1Char('.')) ? QString() : QStringLiteral(".");
+  return sentence + stop + QStringLiteral(" Did you mean '%1'?").arg(nearest);
 }
 
 void MemberCalls::warnIfDeprecated(const Method* method) {

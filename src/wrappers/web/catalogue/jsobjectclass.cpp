@@ -1,5 +1,6 @@
 #include "wrappers/web/catalogue/jsobjectclass.h"
 
+#include "corvexhook/arrayclass.h"
 #include "corvexhook/primitives.h"
 
 namespace Corvex::WebWrapper {
@@ -18,18 +19,28 @@ bool isText(const SharedPtr<Object>& value) { return primitiveValue(value).type(
 
 QString textOf(const SharedPtr<Object>& value) { return value ? value->toString() : QStringLiteral("null"); }
 
+bool isList(const SharedPtr<Object>& value) { return value && value->isA(ArrayClass::registeredClass()); }
+
+QString propertyError(const ObjectList& arguments) {
+  if (arguments.size() != 1) {
+    return QStringLiteral("JsObject::property: Requires exactly 1 argument");
+  }
+  return isText(arguments[0]) ? QString() : QStringLiteral("JsObject::property: Requires a string argument");
+}
+
 QString callError(const QString& method, const ObjectList& arguments) {
   if (method == QLatin1String("property")) {
-    return arguments.size() != 1 ? QStringLiteral("JsObject::property: Requires exactly 1 argument")
-                                 : QStringLiteral("JsObject::property: Requires a string argument");
+    return propertyError(arguments);
   }
   if (arguments.size() != 1 && arguments.size() != 2) {
     return QStringLiteral("JsObject::call: Requires 1 or 2 arguments");
   }
-  return isText(arguments[0])
-             ? QStringLiteral("JsObject::call: Requires a list as second argument, got: %1")
-                   .arg(textOf(arguments.at(1)))
-             : QStringLiteral("JsObject::call: Requires a string as first argument, got: %1").arg(textOf(arguments[0]));
+  if (!isText(arguments[0])) {
+    return QStringLiteral("JsObject::call: Requires a string as first argument, got: %1").arg(textOf(arguments[0]));
+  }
+  return arguments.size() == 1 || isList(arguments[1])
+             ? QString()
+             : QStringLiteral("JsObject::call: Requires a list as second argument, got: %1").arg(textOf(arguments[1]));
 }
 
 }  // namespace

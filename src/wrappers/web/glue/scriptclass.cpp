@@ -154,6 +154,10 @@ QString ScriptClass::whyNotCall(const QString& method, const ObjectList& argumen
   return m_members.callError ? m_members.callError(method, arguments) : QString();
 }
 
+QString ScriptClass::whyNoMember(const QString& member) const {
+  return m_members.unknownError ? m_members.unknownError(member) : QString();
+}
+
 const PropertyRow* ScriptClass::propertyRow(const Property* property) const {
   const bool known = property->owner() == this && property->index() < m_members.propertyCount;
   return known ? &m_members.properties[property->index()] : nullptr;

@@ -58,9 +58,12 @@ struct ClassMembers {
   /// What a script is told that assigns to a read-only property.
   ErrorOf readOnlyError = readOnlyPropertyError;
 
-  /// What a script is told whose call fits no method of the name; null where the framework's words are all.
+  /// What a script is told whose call fits no method of the name, empty for one that fits; null where the framework's
+  /// words are all.
   using CallErrorOf = QString (*)(const QString& method, const ObjectList& arguments);
   CallErrorOf callError = nullptr;
+  /// What a script is told that asks for a member which there is not; null where the framework's words are all.
+  ErrorOf unknownError = nullptr;
 
   constexpr ClassMembers withReadOnlyError(ErrorOf error) const {
     ClassMembers members = *this;
@@ -70,6 +73,11 @@ struct ClassMembers {
   constexpr ClassMembers withCallError(CallErrorOf error) const {
     ClassMembers members = *this;
     members.callError = error;
+    return members;
+  }
+  constexpr ClassMembers withUnknownError(ErrorOf error) const {
+    ClassMembers members = *this;
+    members.unknownError = error;
     return members;
   }
 };
@@ -291,6 +299,7 @@ public:
   bool setProperty(SharedPtr<Object> object, const Property* property, SharedPtr<Object> value) const override;
 
   QString whyNotCall(const QString& method, const ObjectList& arguments) const override;
+  QString whyNoMember(const QString& member) const override;
 
   using Class::getProperty;
   using Class::invoke;

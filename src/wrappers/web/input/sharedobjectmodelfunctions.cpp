@@ -1,6 +1,7 @@
 #include "wrappers/web/input/sharedobjectmodelfunctions.h"
 
 #include "corvexhook/inspector.h"
+#include "corvexhook/objectmap.h"
 #include "corvexhook/primitives.h"
 #include "wrappers/web/elements/html_select.h"
 #include "wrappers/web/object/references.h"
@@ -42,13 +43,21 @@ bool isAlive(const HTML_Object* object) {
   return true;
 }
 
+/// Why a lookup by the name gave nothing. What is known besides the sentence comes after it.
+QString whyNotFound(const QString& name) {
+  const QString sentence = QStringLiteral("Invalid object name '%1'").arg(name);
+  const QString why = Inspector::self()->takeScriptError();
+  const bool isUnknownSymbol = name.startsWith(QLatin1Char(':')) && ObjectMap::self()->realName(name).isEmpty();
+  if (why.isEmpty()) {
+    return sentence;
+  }
+  return isUnknownSymbol ? sentence + QLatin1String(". ") + why : why;
+}
+
 /// The object that a name argument means. Null when there is none, and then the script has been told.
 SharedPtr<Object> objectByName(const SharedPtr<Object>& name) {
   const SharedPtr<Object> object = Inspector::self()->lookup(name->toString());
-  if (!object) {
-    scriptError(QStringLiteral("Invalid object name '%1'").arg(name->toString()));
-  }
-  return object;
+  return object ? object : scriptError(whyNotFound(name->toString()));
 }
 
 bool isSelectable(const QString& className) {

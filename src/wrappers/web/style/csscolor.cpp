@@ -87,6 +87,10 @@ QString readOnlyError(const QString& property) {
   return QStringLiteral("Cannot set read-only property '%1' on CssColor").arg(property);
 }
 
+QString unknownError(const QString& property) {
+  return QStringLiteral("Invalid property of CssColor accessed: %1").arg(property);
+}
+
 FunctionCallResult<QString> textOf(const SharedPtr<Object>& color) { return unwrapCssColor(color).text(); }
 
 FunctionCallResult<unsigned int> extractNextNumber(const QString& text, QChar end, int* position) {
@@ -106,7 +110,8 @@ FunctionCallResult<unsigned int> extractNextNumber(const QString& text, QChar en
 
 }  // namespace
 
-const ClassMembers CssColorClass = classMembers(properties, methods).withReadOnlyError(readOnlyError);
+const ClassMembers CssColorClass =
+    classMembers(properties, methods).withReadOnlyError(readOnlyError).withUnknownError(unknownError);
 
 FunctionCallResult<QString> CssColor::text() const {
   if (!m_valid) {

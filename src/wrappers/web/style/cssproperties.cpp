@@ -246,12 +246,14 @@ quint8 colorComponent(const Json::Value& color, const char* name) {
   return static_cast<quint8>(std::clamp(jsonInt(color.get(name, Json::Value())).value, 0, 255));
 }
 
+QString unknownError(const QString& property) { return QStringLiteral("Unknown CSS property '%1'.").arg(property); }
+
 ScriptResult readCssProperty(void* native, const char* name) {
   const QString property = QLatin1String(name);
   const QMap<QString, Json::Value>& values = static_cast<const CSSProperties*>(native)->values;
   const auto found = values.constFind(property);
   if (found == values.constEnd()) {
-    return ScriptResult::failure(QStringLiteral("Unknown CSS property '%1'.").arg(property));
+    return ScriptResult::failure(unknownError(property));
   }
   if (found->isObject() && found->isMember("red")) {
     const Json::Value alpha = found->get("alpha", Json::Value());
@@ -277,7 +279,8 @@ constexpr std::array<PropertyRow, nameCount> rows = makeRows();
 
 }  // namespace
 
-const ClassMembers CSSProperties_Class = {rows.data(), static_cast<int>(nameCount)};
+const ClassMembers CSSProperties_Class =
+    ClassMembers{rows.data(), static_cast<int>(nameCount)}.withUnknownError(unknownError);
 
 const QStringList& cssPropertyNames() {
   static const QStringList all = [] {

@@ -33,13 +33,43 @@ QString quoted(const QString& text) {
   return QLatin1Char('"') + escapeObjectNameForUseAsStringLiteral(text) + QLatin1Char('"');
 }
 
-QString referenceOf(const SharedPtr<Object>& value) {
+/// What of the page a script value stands for; without a reference for one of the script's own.
+struct Held {
+  QString reference;
+  const HTMLComponent* component = nullptr;
+  QString deadError;
+};
+
+Held heldBy(const SharedPtr<Object>& value) {
   void* native = nullptr;
   if (value->objectClass()->name() == QLatin1String(JsObject::ScriptName) && value->get(&native)) {
-    return static_cast<const JsObject*>(native)->reference;
+    const auto* const object = static_cast<const JsObject*>(native);
+    return {object->reference, object->component, JsObject::deadError()};
   }
   const HTML_Object* const element = retrieveObject(value);
-  return element ? element->reference : QString();
+  return element ? Held{element->reference, element->component, deadObjectReferenceError()} : Held();
+}
+
+/// Why the page cannot be given these values; empty when it can. It would take a dead one for `undefined`, and one of
+/// another page for one of its own, silently.
+QString whyNotPass(const HTMLComponent* page, const std::vector<SharedPtr<Object>>& values, int level) {
+  QString why;
+  for (auto value = values.begin(); value != values.end() && why.isEmpty() && level <= mostLevels; ++value) {
+    if (!*value || (*value)->isNull()) {
+      continue;
+    }
+    if ((*value)->isA(ArrayClass::registeredClass())) {
+      why = whyNotPass(page, ArrayClass::unwrapObject(*value), level + 1);
+      continue;
+    }
+    const Held held = heldBy(*value);
+    if (held.reference == deadReference()) {
+      why = held.deadError;
+    } else if (held.component && held.component != page) {
+      why = QStringLiteral("An argument belongs to another window than the value whose method is called.");
+    }
+  }
+  return why;
 }
 
 QString joinObjectArray(const std::vector<SharedPtr<Object>>& values, int level);
@@ -51,7 +81,7 @@ QString codeOf(const SharedPtr<Object>& value, int level) {
   if (value->isA(ArrayClass::registeredClass())) {
     return QStringLiteral("[%1]").arg(joinObjectArray(ArrayClass::unwrapObject(value), level + 1));
   }
-  const QString reference = referenceOf(value);
+  const QString reference = heldBy(value).reference;
   if (!reference.isEmpty()) {
     return reference;
   }
@@ -182,10 +212,11 @@ ValueResult JsObject::property(const QString& name) const {
 }
 
 ValueResult JsObject::call(const QString& method, const SharedPtr<Object>& arguments) const {
-  return retrieveJSObject(
-      component,
-      QStringLiteral("%1.%2(%3);")
-          .arg(reference, method, arguments ? joinObjectArray(ArrayClass::unwrapObject(arguments), 0) : QString()));
+  const auto values = arguments ? ArrayClass::unwrapObject(arguments) : std::vector<SharedPtr<Object>>();
+  const QString why = whyNotPass(component, values, 0);
+  return why.isEmpty() ? retrieveJSObject(
+                             component, QStringLiteral("%1.%2(%3);").arg(reference, method, joinObjectArray(values, 0)))
+                       : ValueResult::failure(why);
 }
 
 ValueResult retrieveJSObject(HTMLComponent* component, const QString& code) {

@@ -117,8 +117,9 @@ FunctionCallResult<HTML_Object*> HTML_XPathResult::snapshotItem(int index) {
 // Stands here, since only this room knows of XPath.
 FunctionCallResult<HTML_XPathResult*> HTML_Object::evaluateXPath(const QString& expression) {
   const QString global = nextDriverReference();
-  const JavaScriptAnswer answer = evaluateJS(
-      QStringLiteral("%1 = xpathDomEval( \"%2\", %3 );true;").arg(global, escapeQuotes(expression), reference));
+  const JavaScriptAnswer answer =
+      evaluateJS(QStringLiteral("%1 = xpathDomEval( \"%2\", %3 );true;")
+                     .arg(global, escapeObjectNameForUseAsStringLiteral(expression), reference));
   return answer.succeeded() ? FunctionCallResult<HTML_XPathResult*>::success(new HTML_XPathResult(global, component))
                             : FunctionCallResult<HTML_XPathResult*>::failure(
                                   QStringLiteral("Error evaluating xpath '%1': %2").arg(expression, answer.text));

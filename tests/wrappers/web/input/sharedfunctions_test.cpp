@@ -35,6 +35,9 @@ TEST_F(SharedFunctions, ClickLinkTakesLinksOnly) {
             QString("Element of type 'HTML_Button' can't be clicked. Must be of type HTML_Anchor"));
   EXPECT_EQ(errorOf(sharedClickLinkByObjectFn(), {wrapObject(nullptr)}), QString("Cannot click null object."));
   EXPECT_EQ(errorOf(sharedClickLinkByNameFn(), {text("{a='1'}")}), QString("Invalid object name '{a='1'}'"));
+  EXPECT_EQ(errorOf(sharedClickLinkByNameFn(), {text(":Lost")}),
+            QString("Invalid object name ':Lost'. The symbolic name ':Lost' is not in the object map. Add it there, or "
+                    "use a real name."));
   EXPECT_EQ(sharedClickLinkByNameFn()->deprecation(),
             QString("The clickLink function has been deprecated, please consider using mouseClick instead."));
 }

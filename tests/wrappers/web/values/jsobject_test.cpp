@@ -85,6 +85,11 @@ TEST_F(JsObjects, WrongCallsHaveSentencesOfTheirOwn) {
             QString("JsObject::call: Requires a string as first argument, got: 1"));
   EXPECT_EQ(cls->whyNotCall("call", {text("f"), number(1)}),
             QString("JsObject::call: Requires a list as second argument, got: 1"));
+  EXPECT_EQ(cls->whyNotCall("call", {text("f"), nullptr}),
+            QString("JsObject::call: Requires a list as second argument, got: null"));
+  EXPECT_EQ(cls->whyNotCall("property", {text("f")}), QString());
+  EXPECT_EQ(cls->whyNotCall("call", {text("f")}), QString());
+  EXPECT_EQ(cls->whyNotCall("call", {text("f"), ArrayClass::wrapObject({})}), QString());
 }
 
 TEST_F(JsObjects, WithoutEvalAnExpressionIsAskedForItself) {
@@ -98,9 +103,23 @@ TEST_F(JsObjects, WithoutEvalAnExpressionIsAskedForItself) {
 
 TEST_F(JsObjects, HandlesDieWithTheirPage) {
   const SharedPtr<Object> object = handle();
+  const SharedPtr<Object> element = wrapped<HTML_Object>();
   clearReferences(&page);
   const std::size_t asked = page.calls.size();
   call(object, "property", {text("x")});
   EXPECT_EQ(scriptError(), QString("The value belongs to a page that is gone. Get it again with retrieveJSObject."));
   EXPECT_EQ(page.calls.size(), asked);
+
+  const SharedPtr<Object> second = handle();
+  const std::size_t askedBefore = page.calls.size();
+  call(second, "call", {text("f"), ArrayClass::wrapObject({number(1), ArrayClass::wrapObject({object})})});
+  EXPECT_EQ(scriptError(), QString("The value belongs to a page that is gone. Get it again with retrieveJSObject."));
+  call(second, "call", {text("f"), ArrayClass::wrapObject({element})});
+  EXPECT_EQ(scriptError(), deadObjectReferenceError());
+  FakeComponent otherPage;
+  const SharedPtr<Object> foreign =
+      wrapAndTransferOwnership(new JsObject(QStringLiteral("4"), &otherPage), QStringLiteral("JsObject"));
+  call(second, "call", {text("f"), ArrayClass::wrapObject({foreign})});
+  EXPECT_EQ(scriptError(), QString("An argument belongs to another window than the value whose method is called."));
+  EXPECT_EQ(page.calls.size(), askedBefore);
 }

@@ -26,6 +26,8 @@ protected:
 TEST_F(XPathResults, ExpressionsArriveUnchanged) {
   page.answer(R"( = xpathDomEval( "//a[. = \"x\\y\"]", ref );true;)", "true");
   EXPECT_TRUE(call(object, "evaluateXPath", {text(R"(//a[. = "x\y"])")}));
+  page.answer(R"( = xpathDomEval( "//a\n| //b\r\n", ref );true;)", "true");
+  EXPECT_TRUE(call(object, "evaluateXPath", {text("//a\n| //b\r\n")}));
   page.fail("xpathDomEval", "no such axis");
   call(object, "evaluateXPath", {text("up::a")});
   EXPECT_EQ(scriptError(), QString("Error evaluating xpath 'up::a': no such axis"));
