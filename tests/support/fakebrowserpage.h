@@ -24,6 +24,8 @@ public:
     Q_EMIT navigated(url);
     return QString();
   }
+  QString reload(int) override { return QString(); }
+  QString goThroughHistory(int, int) override { return QString(); }
   QString addStartScript(const QString& text) override {
     startScripts << text;
     return QString();

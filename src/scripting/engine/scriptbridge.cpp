@@ -9,6 +9,7 @@
 #include "corvexhook/hostservices.h"
 #include "corvexhook/inspector.h"
 #include "scripting/engine/evaluation.h"
+#include "scripting/objects/valuecomparison.h"
 #include "scripting/objects/valuetext.h"
 
 namespace Corvex::Scripting {
@@ -54,11 +55,14 @@ ScriptBridge::ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCall
       m_listener(listener),
       m_files(files),
       m_functions(host, {calls, &m_values.liveObjects()}),
-      m_checks(m_values, listener, result) {
+      m_checks(m_values, listener, result),
+      m_waits(m_values) {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
-QString ScriptBridge::errorText(const QJSValue& thrown) const { return m_errors.textOf(thrown, m_functions.names()); }
+QString ScriptBridge::errorText(const QJSValue& thrown) const {
+  return m_errors.textOf(thrown, m_functions.names() + Waits::names());
+}
 
 void ScriptBridge::setWrappers(const QJSValue& wrap, const QJSValue& handleOf) { m_values.setWrappers(wrap, handleOf); }
 
@@ -174,8 +178,14 @@ QJSValue ScriptBridge::callFunction(const QString& name, const QJSValue& argumen
   const ObjectResult first = list.failed() ? m_values.fromScript(arguments.property(0)) : ObjectResult();
   const ObjectResult result =
       list.failed() ? unusableArguments(name, first.value, list.error) : m_functions.call(name, list.value);
-  m_listener->step(stepText(name, arguments), timer.elapsed());
+  tellStep(name, arguments, timer.elapsed());
   return finished(result);
+}
+
+void ScriptBridge::tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs) {
+  if (m_waiting == 0) {
+    m_listener->step(stepText(name, arguments), durationMs);
+  }
 }
 
 QJSValue ScriptBridge::checkNames() const { return scriptArray(Checks::names()); }
@@ -186,6 +196,35 @@ QJSValue ScriptBridge::callCheck(const QString& name, const QJSValue& arguments,
     m_engine->throwError(answer.error);
   }
   return answer.value;
+}
+
+void ScriptBridge::checkWait(const QString& name, const QJSValue& arguments) {
+  const QString error = m_waits.whyNot(name, entriesOf(arguments));
+  if (!error.isEmpty()) {
+    m_engine->throwError(error);
+  }
+}
+
+QJSValue ScriptBridge::wait(const QString& name, const QJSValue& arguments, const QJSValue& attempt) {
+  QElapsedTimer timer;
+  timer.start();
+  ++m_waiting;
+  const Waits::Answer answer =
+      m_waits.wait(name, entriesOf(arguments), attempt, [this](const QJSValue& thrown) { return errorText(thrown); });
+  --m_waiting;
+  tellStep(name, arguments, timer.elapsed());
+  if (answer.failed()) {
+    m_engine->throwError(answer.error);
+  }
+  return answer.value;
+}
+
+bool ScriptBridge::areEqual(const QJSValue& a, const QJSValue& b) {
+  const FunctionCallResult<bool> equal = equalValues(m_values, a, b);
+  if (equal.failed()) {
+    m_engine->throwError(equal.error);
+  }
+  return equal.value;
 }
 
 QJSValue ScriptBridge::source(const QString& path, const QString& stack) {

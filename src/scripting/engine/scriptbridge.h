@@ -7,6 +7,7 @@
 #include "scripting/engine/scriptfiles.h"
 #include "scripting/functions/checks.h"
 #include "scripting/functions/globalfunctions.h"
+#include "scripting/functions/waits.h"
 #include "scripting/objects/membercalls.h"
 #include "scripting/objects/values.h"
 #include "scripting/scriptfunction.h"
@@ -52,6 +53,11 @@ public:
   Q_INVOKABLE QJSValue callFunction(const QString& name, const QJSValue& arguments);
   Q_INVOKABLE QJSValue checkNames() const;
   Q_INVOKABLE QJSValue callCheck(const QString& name, const QJSValue& arguments, const QString& stack);
+  /// Throws what is wrong with the arguments of a function that waits.
+  Q_INVOKABLE void checkWait(const QString& name, const QJSValue& arguments);
+  /// See `Waits::wait`. The steps of the attempts are not told.
+  Q_INVOKABLE QJSValue wait(const QString& name, const QJSValue& arguments, const QJSValue& attempt);
+  Q_INVOKABLE bool areEqual(const QJSValue& a, const QJSValue& b);
   /// Runs another script file in the same scope. Answers an object: whether it
   /// `failed`, and the `error` that it threw.
   Q_INVOKABLE QJSValue source(const QString& path, const QString& stack);
@@ -59,6 +65,7 @@ public:
 private:
   QJSValue scriptArray(const QStringList& texts) const;
   QJSValue finished(const ObjectResult& result);
+  void tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs);
   QString stepText(const QString& name, const QJSValue& arguments) const;
 
   QJSEngine* m_engine;
@@ -69,6 +76,8 @@ private:
   ScriptErrors m_errors;
   GlobalFunctions m_functions;
   Checks m_checks;
+  Waits m_waits;
+  int m_waiting = 0;
 };
 
 }  // namespace Corvex::Scripting

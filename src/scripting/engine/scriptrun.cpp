@@ -10,7 +10,7 @@ namespace Corvex::Scripting {
 namespace {
 
 // In the order in which they run. Each is a function of the bridge and the global object.
-const char* const preludeFiles[] = {"objects.js", "guards.js", "json.js", "classes.js", "functions.js"};
+const char* const preludeFiles[] = {"objects.js", "guards.js", "json.js", "classes.js", "functions.js", "waiting.js"};
 
 }  // namespace
 

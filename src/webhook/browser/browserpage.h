@@ -34,6 +34,11 @@ public:
   /// Loads `url` and waits for its load event. A question of the old page whether to leave it is answered with yes.
   virtual QString navigate(const QString& url, int timeoutMs = 0) = 0;
 
+  /// The same for the page that is there once more, and for one of the pages before and after it: `steps` is how many
+  /// pages to go on, or below 0, to go back.
+  virtual QString reload(int timeoutMs = 0) = 0;
+  virtual QString goThroughHistory(int steps, int timeoutMs = 0) = 0;
+
   /// Has `text` run at document start of every top document from the next one on, before the page's own scripts and
   /// after those that were added before. It runs in the global scope, and in no frame.
   virtual QString addStartScript(const QString& text) = 0;

@@ -24,6 +24,11 @@ QString refused(const QString& browsersWords);
 /// `errorCode` in the browser's words, such as "net::ERR_CONNECTION_REFUSED" or "NS_ERROR_CONNECTION_REFUSED".
 QString notLoaded(const QString& url, const QString& errorCode);
 QString notLoadedWithin(const QString& url, int milliseconds);
+/// The browser showed a page of its own in its place, and did not tell why.
+QString errorPageLoaded(const QString& url);
+/// `steps` are those of BrowserPage::goThroughHistory().
+QString noSuchHistory(int steps);
+QString notReachedWithin(int steps, int milliseconds);
 
 /// Why a file of this machine cannot be given to a page, "" when it can.
 QString whyNotUpload(const QString& path);

@@ -34,6 +34,22 @@ QString ProtocolPage::whyUnavailable() const {
 }
 
 QString ProtocolPage::navigate(const QString& url, int timeoutMs) {
+  return go({Destination::Address, url, 0}, timeoutMs);
+}
+
+QString ProtocolPage::reload(int timeoutMs) { return go({Destination::SamePage, m_url, 0}, timeoutMs); }
+
+QString ProtocolPage::goThroughHistory(int steps, int timeoutMs) {
+  const QPointer<ProtocolPage> self(this);
+  const QString error = go({Destination::History, m_url, steps}, timeoutMs);
+  if (!self || !error.isEmpty() || !isStartPage()) {
+    return error;
+  }
+  go({Destination::History, m_url, -steps}, timeoutMs);
+  return PageErrors::noSuchHistory(steps);
+}
+
+QString ProtocolPage::go(const Destination& destination, int timeoutMs) {
   if (!m_whyClosed.isEmpty()) {
     return m_whyClosed;
   }
@@ -45,7 +61,7 @@ QString ProtocolPage::navigate(const QString& url, int timeoutMs) {
   const QPointer<ProtocolPage> self(this);
   const auto loading = std::make_shared<PageLoading>();
   m_loadings.push_back(loading);
-  const Reply reply = loadAndWait(call, url, *loading);
+  const Reply reply = loadAndWait(call, destination, *loading);
   if (self) {
     m_loadings.erase(std::find(m_loadings.begin(), m_loadings.end(), loading));
   }
@@ -53,12 +69,14 @@ QString ProtocolPage::navigate(const QString& url, int timeoutMs) {
     if (self) {
       stopLoading();
     }
-    return PageErrors::notLoadedWithin(url, call.milliseconds());
+    return destination.kind == Destination::History
+               ? PageErrors::notReachedWithin(destination.steps, call.milliseconds())
+               : PageErrors::notLoadedWithin(destination.url, call.milliseconds());
   }
   if (!loading->error().isEmpty()) {
     return loading->error();
   }
-  return reply.status == Reply::Refused ? PageErrors::notLoaded(url, reply.error) : call.errorOf(reply);
+  return reply.status == Reply::Refused ? PageErrors::notLoaded(destination.url, reply.error) : call.errorOf(reply);
 }
 
 QString ProtocolPage::setFiles(const QString& referenceExpression, const QStringList& paths) {

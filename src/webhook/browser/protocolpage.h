@@ -11,6 +11,15 @@ namespace Corvex::Webhook {
 
 class BrowserSession;
 
+/// Where a page is to go.
+struct Destination {
+  enum Kind { Address, SamePage, History };
+
+  Kind kind = Address;
+  QString url;    ///< Of an address; of the other kinds the page that is left.
+  int steps = 0;  ///< In the history: forward, or back if below 0.
+};
+
 /// What pages have in common whose browser is driven by requests and events of a channel: the dialog that is open, the
 /// loads and calls under way, and how they end.
 class ProtocolPage : public BrowserPage {
@@ -20,6 +29,8 @@ public:
   ~ProtocolPage() override;
 
   QString navigate(const QString& url, int timeoutMs) override;
+  QString reload(int timeoutMs) override;
+  QString goThroughHistory(int steps, int timeoutMs) override;
   QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
   QString perform(const InputSteps& steps) override;
   std::optional<Dialog> openDialog() const override { return m_dialog; }
@@ -37,9 +48,12 @@ protected:
   /// Channel and session outlive the page. `address` is what the channel knows the page by.
   ProtocolPage(Channel& channel, const BrowserSession& session, const QString& address, const QString& url);
 
-  /// Asks the browser to load `url` and waits for it. A load that the browser refused gives Reply::Refused and the
+  /// Asks the browser to go there and waits for it. A load that the browser refused gives Reply::Refused and the
   /// browser's code for the reason. The page may be gone when it returns.
-  virtual Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) = 0;
+  virtual Reply loadAndWait(PageCall& call, const Destination& destination, PageLoading& loading) = 0;
+  /// Whether it shows what the browser's window began with, which no script knows of. To be told by back ends whose
+  /// browsers go back to that page.
+  virtual bool isStartPage() const { return false; }
   /// The load that was asked for took too long.
   virtual void stopLoading() = 0;
   /// Otherwise the paths are those of the browser's machine, and only the browser can look at them.
@@ -65,6 +79,8 @@ protected:
   const std::vector<std::shared_ptr<PageLoading>>& loadings() const { return m_loadings; }
 
 private:
+  QString go(const Destination& destination, int timeoutMs);
+
   Channel& m_channel;
   const BrowserSession& m_session;
   const QString m_address;

@@ -213,6 +213,22 @@ Command navigate(const QString& page, const QString& url) {
 
 QString readNavigation(const QJsonObject& answer) { return textAt(answer, "navigation"); }
 
+Command reload(const QString& page) {
+  return ofPage("browsingContext.reload", page, {{QStringLiteral("wait"), QStringLiteral("none")}});
+}
+
+Command goThroughHistory(const QString& page, int steps) {
+  return ofPage("browsingContext.traverseHistory", page, {{QStringLiteral("delta"), steps}});
+}
+
+bool isHistoryMissing(const QString& refusal) { return refusal.startsWith(QLatin1String("no such history entry")); }
+
+bool isStartPage(const QString& url) {
+  static const QStringList addresses{QStringLiteral("about:blank"), QStringLiteral("data:,"),
+                                     QStringLiteral("data:text/html,")};
+  return addresses.contains(url);
+}
+
 QString readNavigationError(const QString& refusal) {
   const bool isAddressWrong = refusal.startsWith(QLatin1String("invalid argument"));
   return isAddressWrong ? QStringLiteral("Cannot navigate to invalid URL") : refusal;

@@ -52,6 +52,12 @@ Command addStartScript(const QString& page, const QString& script);
 /// Answered as soon as the document takes the place of the old one.
 Command navigate(const QString& page, const QString& url);
 QString readNavigation(const QJsonObject& answer);
+Command reload(const QString& page);
+/// Answered at once, whatever becomes of it.
+Command goThroughHistory(const QString& page, int steps);
+bool isHistoryMissing(const QString& refusal);
+/// Whether it is what a browser's first window shows before it is told what to show.
+bool isStartPage(const QString& url);
 /// Why a refused navigation did not come about, in short.
 QString readNavigationError(const QString& refusal);
 

@@ -130,6 +130,28 @@ Command addStartScript(const QString& script) { return startScript(StartScript::
 
 Command navigate(const QString& url) { return command("Page.navigate", {{QStringLiteral("url"), url}}); }
 
+Command reload() { return command("Page.reload"); }
+
+Command listHistory() { return command("Page.getNavigationHistory"); }
+
+std::optional<HistoryEntry> readHistory(const QJsonObject& answer, int steps) {
+  const QJsonArray entries = answer.value(QLatin1String("entries")).toArray();
+  const int index = answer.value(QLatin1String("currentIndex")).toInt() + steps;
+  if (index < 0 || index >= entries.size()) {
+    return {};
+  }
+  const QJsonObject entry = entries.at(index).toObject();
+  const QString url = textAt(entry, "url");
+  if (index == 0 && url == QLatin1String("about:blank")) {
+    return {};
+  }
+  return HistoryEntry{entry.value(QLatin1String("id")).toInt(), url};
+}
+
+Command goToHistory(const HistoryEntry& entry) {
+  return command("Page.navigateToHistoryEntry", {{QStringLiteral("entryId"), entry.id}});
+}
+
 Command stopLoading() { return command("Page.stopLoading"); }
 
 Navigation readNavigation(const QJsonObject& answer) {
@@ -141,7 +163,8 @@ std::optional<NewDocument> readNewDocument(const QJsonObject& event) {
   if (frame.contains(QLatin1String("parentId"))) {
     return {};
   }
-  return NewDocument{textAt(frame, "loaderId"), textAt(frame, "url") + textAt(frame, "urlFragment")};
+  return NewDocument{textAt(frame, "loaderId"), textAt(frame, "url") + textAt(frame, "urlFragment"),
+                     frame.contains(QLatin1String("unreachableUrl"))};
 }
 
 Command evaluate(const QString& code, const QString& group, int timeoutMs) {

@@ -40,6 +40,16 @@ Command resumePage();
 /// `script` runs at document start of every new top document, in the global scope.
 Command addStartScript(const QString& script);
 Command navigate(const QString& url);
+Command reload();
+Command listHistory();
+/// The page that is `steps` pages after the one that is shown, from the answer to listHistory(). Nothing when there is
+/// none; the page that a window without an opener begins with counts as none.
+struct HistoryEntry {
+  int id = 0;
+  QString url;
+};
+std::optional<HistoryEntry> readHistory(const QJsonObject& answer, int steps);
+Command goToHistory(const HistoryEntry& entry);
 Command stopLoading();
 
 struct Navigation {
@@ -52,6 +62,7 @@ Navigation readNavigation(const QJsonObject& answer);
 struct NewDocument {
   QString document;
   QString url;
+  bool isErrorPage = false;  ///< The browser's own, in place of one that could not be loaded.
 };
 std::optional<NewDocument> readNewDocument(const QJsonObject& event);
 

@@ -33,9 +33,35 @@ QString BrowserControl::startBrowser(const QString& address) {
     closeBrowser();
     return error;
   }
-  const QString loadError = m_windows->current()->navigate(resolveAddress(address));
-  m_loadIsHeld = !loadError.isEmpty() && m_windows->current() && m_windows->current()->openDialog();
-  return m_loadIsHeld ? QString() : loadError;
+  return openUrl(address);
+}
+
+QString BrowserControl::openUrl(const QString& address) {
+  const QString url = resolveAddress(address);
+  return load([&url](Connection& window) { return window.navigate(url); });
+}
+
+QString BrowserControl::reload() {
+  return load([](Connection& window) { return window.reload(); });
+}
+
+QString BrowserControl::goThroughHistory(int steps) {
+  return load([steps](Connection& window) { return window.goThroughHistory(steps); });
+}
+
+QString BrowserControl::load(const std::function<QString(Connection&)>& go) {
+  const QString noWindow = whyNoWindow();
+  if (!noWindow.isEmpty()) {
+    return noWindow;
+  }
+  // A page that crashed cannot be asked, but leaves for another one all the same.
+  const QString dialog = m_dialogs->whyNotAskPage(*m_windows->current());
+  if (!dialog.isEmpty()) {
+    return dialog;
+  }
+  const QString error = go(*m_windows->current());
+  m_loadIsHeld = !error.isEmpty() && m_windows && m_windows->current() && m_windows->current()->openDialog();
+  return m_loadIsHeld ? QString() : error;
 }
 
 void BrowserControl::finishLoad() {

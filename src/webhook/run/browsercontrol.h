@@ -12,6 +12,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace Corvex::Webhook {
@@ -25,7 +26,12 @@ public:
   /// Starts a browser, in place of one that runs, and opens a page in it. A dialog of the page that keeps it from being
   /// loaded is no error: the script is to answer it.
   QString startBrowser(const QString& address);
-  /// Lets the page of `startBrowser` load to its end if a dialog held it, as far as its next dialog.
+  /// Has the current window go to a page; the rest is as with `startBrowser`.
+  QString openUrl(const QString& address);
+  QString reload();
+  /// See `BrowserPage::goThroughHistory`.
+  QString goThroughHistory(int steps);
+  /// Lets the page of the last of these load to its end if a dialog held it, as far as its next dialog.
   void finishLoad();
   /// Closes the current window.
   QString closeWindow();
@@ -58,6 +64,7 @@ public:
 
 private:
   QString openSession();
+  QString load(const std::function<QString(Connection&)>& go);
   QString resolveAddress(const QString& address) const;
 
   SessionOptions m_options;

@@ -8,6 +8,7 @@
 #include "webhook/pages/contexts.h"
 #include "webhook/run/browsercontrol.h"
 #include "webhook/run/inputfunctions.h"
+#include "webhook/run/navigationfunctions.h"
 #include "webhook/run/pictures.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 #include "wrappers/web/values/jsobject.h"
@@ -161,8 +162,8 @@ Scripting::ScriptHost browserFunctions(BrowserControl& control) {
         {QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments, row.maxArguments,
          [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }, row.takesNull});
   }
-  for (const Scripting::ScriptFunction& function : inputFunctions(control)) {
-    host.functions.push_back(function);
+  for (const auto& family : {inputFunctions(control), navigationFunctions(control)}) {
+    host.functions.insert(host.functions.end(), family.begin(), family.end());
   }
   return host;
 }

@@ -7,10 +7,21 @@
 #include "webhook/protocol/devtools.h"
 #include "webhook/protocol/startscript.h"
 
+#include <algorithm>
+
 namespace Corvex::Webhook {
 
+namespace {
+
+constexpr int historyIntervalMs = 50;
+
+}  // namespace
+
 BidiPage::BidiPage(Channel& channel, BidiSession& session, const Bidi::Context& context)
-    : ProtocolPage(channel, session, context.id, context.url), m_bidiSession(session), m_context(context.id) {
+    : ProtocolPage(channel, session, context.id, context.url),
+      m_bidiSession(session),
+      m_context(context.id),
+      m_hasOpener(!context.opener.isEmpty()) {
   channel.subscribe(m_context, this,
                     [this](const QString& method, const QJsonObject& parameters) { takeEvent(method, parameters); });
   m_devTools = channel.start({}, Bidi::devToolsSession(m_context));
@@ -68,8 +79,12 @@ void BidiPage::endRunningCode() {
   start(Bidi::throughDevTools(devTools, DevTools::evaluate(QStringLiteral("0"), {}, 1000)));
 }
 
-Reply BidiPage::loadAndWait(PageCall& call, const QString& url, PageLoading& loading) {
-  Reply reply = call.ask(Bidi::navigate(m_context, url));
+Reply BidiPage::loadAndWait(PageCall& call, const Destination& destination, PageLoading& loading) {
+  if (destination.kind == Destination::History) {
+    return goThroughHistoryAndWait(call, destination.steps, loading);
+  }
+  const bool isAddress = destination.kind == Destination::Address;
+  Reply reply = call.ask(isAddress ? Bidi::navigate(m_context, destination.url) : Bidi::reload(m_context));
   if (reply.status == Reply::Refused) {
     reply.error = Bidi::readNavigationError(reply.error);
   }
@@ -81,6 +96,42 @@ Reply BidiPage::loadAndWait(PageCall& call, const QString& url, PageLoading& loa
     reply.status = Reply::TimeOver;
   }
   return reply;
+}
+
+Reply BidiPage::goThroughHistoryAndWait(PageCall& call, int steps, PageLoading& loading) {
+  loading.expectAny([](const QString&) { return true; });
+  Reply reply = call.ask(Bidi::goThroughHistory(m_context, steps));
+  if (reply.status == Reply::Refused && Bidi::isHistoryMissing(reply.error)) {
+    loading.fail(PageErrors::noSuchHistory(steps));
+  }
+  if (!reply.isAnswered()) {
+    return reply;
+  }
+  const QPointer<BidiPage> self(this);
+  while (!loading.isComplete() && !call.deadline().hasExpired()) {
+    waitFor(loading, QDeadlineTimer(std::min(call.remainingMilliseconds(), historyIntervalMs)));
+    if (self && !loading.isComplete()) {
+      lookForWayWithinDocument(call);
+    }
+  }
+  if (!loading.isComplete()) {
+    reply.status = Reply::TimeOver;
+  }
+  return reply;
+}
+
+void BidiPage::lookForWayWithinDocument(PageCall& call) {
+  const QPointer<BidiPage> self(this);
+  const QString before = url();
+  const Reply reply = call.ask(Bidi::evaluate({m_context, m_realm}, QStringLiteral("location.href")));
+  const Bidi::Outcome address = Bidi::readOutcome(reply.result);
+  if (!self || !reply.isAnswered() || address.thrown || address.text == before || url() != before) {
+    return;
+  }
+  takeUrl(address.text);
+  for (const auto& loading : loadings()) {
+    loading->noteSameDocument(address.text);
+  }
 }
 
 void BidiPage::stopLoading() {
@@ -219,6 +270,9 @@ void BidiPage::onNavigationCommitted(const QJsonObject& parameters) {
 void BidiPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
   const Bidi::Document document = Bidi::readDocument(parameters);
   takeUrl(document.url);
+  for (const auto& loading : loadings()) {
+    loading->noteSameDocument(document.url);
+  }
   if (document.navigation.isEmpty()) {
     return;
   }

@@ -38,7 +38,11 @@ public:
 
 private:
   PlaceNow placeNow();
-  Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
+  Reply loadAndWait(PageCall& call, const Destination& destination, PageLoading& loading) override;
+  Reply goThroughHistoryAndWait(PageCall& call, int steps, PageLoading& loading);
+  /// Firefox does not tell when it goes to another part of the document that is there. Looks whether it has done so.
+  void lookForWayWithinDocument(PageCall& call);
+  bool isStartPage() const override { return !m_hasOpener && Bidi::isStartPage(url()); }
   void stopLoading() override;
   QString giveInput(PageCall& call, const InputSteps& steps) override;
   Command dialogAnswer(bool accept, const QString& text) const override;
@@ -60,6 +64,7 @@ private:
 
   BidiSession& m_bidiSession;
   const QString m_context;
+  const bool m_hasOpener;
   QString m_realm;  ///< Of the document that is there, if it is known.
   std::shared_ptr<Pending> m_realmThere = std::make_shared<Pending>();
   QString m_document;  ///< The navigation that brought it.

@@ -6,6 +6,17 @@
 
 namespace Corvex::Webhook {
 
+namespace {
+
+Reply await(PageCall& call, PageLoading& loading, Reply reply) {
+  if (waitFor(loading, call.deadline()) != WaitResult::Complete) {
+    reply.status = Reply::TimeOver;
+  }
+  return reply;
+}
+
+}  // namespace
+
 DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
                            const QStringList& startScripts)
     : ProtocolPage(channel, session, target.session, target.url), m_sessionId(target.session), m_target(target.id) {
@@ -29,12 +40,39 @@ JavaScriptAnswer DevToolsPage::evaluate(const QString& code, int timeoutMs) {
   return evaluateCode(call, code);
 }
 
-Reply DevToolsPage::loadAndWait(PageCall& call, const QString& url, PageLoading& loading) {
+Reply DevToolsPage::loadAndWait(PageCall& call, const Destination& destination, PageLoading& loading) {
   // A young page may take the next document in before it takes in what is to be watched.
   const std::shared_ptr<Request> watched = m_watched;
   if (waitFor(*watched, call.deadline()) != WaitResult::Complete) {
     return {Reply::TimeOver, {}, {}};
   }
+  if (destination.kind == Destination::Address) {
+    return navigateAndWait(call, destination.url, loading);
+  }
+  if (destination.kind == Destination::History) {
+    return goThroughHistoryAndWait(call, destination.steps, loading);
+  }
+  loading.expectAny();
+  const Reply reply = call.ask(DevTools::reload());
+  return reply.isAnswered() ? await(call, loading, reply) : reply;
+}
+
+Reply DevToolsPage::goThroughHistoryAndWait(PageCall& call, int steps, PageLoading& loading) {
+  const Reply history = call.ask(DevTools::listHistory());
+  if (!history.isAnswered()) {
+    return history;
+  }
+  const std::optional<DevTools::HistoryEntry> entry = DevTools::readHistory(history.result, steps);
+  if (!entry) {
+    loading.fail(PageErrors::noSuchHistory(steps));
+    return history;
+  }
+  loading.expectAny([&entry](const QString& url) { return url == entry->url; });
+  const Reply reply = call.ask(DevTools::goToHistory(*entry));
+  return reply.isAnswered() ? await(call, loading, reply) : reply;
+}
+
+Reply DevToolsPage::navigateAndWait(PageCall& call, const QString& url, PageLoading& loading) {
   Reply reply = call.ask(DevTools::navigate(url));
   if (!reply.isAnswered()) {
     return reply;
@@ -132,6 +170,11 @@ void DevToolsPage::onFrameNavigated(const QJsonObject& parameters) {
   if (!document) {
     return;
   }
+  for (const auto& loading : loadings()) {
+    if (document->isErrorPage && loading->expectsAny()) {
+      loading->fail(PageErrors::errorPageLoaded(document->url));
+    }
+  }
   takeDocument(document->document, document->url);
 }
 
@@ -142,7 +185,7 @@ void DevToolsPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
   }
   takeUrl(parameters.value(QLatin1String("url")).toString());
   for (const auto& loading : loadings()) {
-    loading->noteSameDocument();
+    loading->noteSameDocument(url());
   }
 }
 

@@ -24,7 +24,9 @@ public:
   const QString& sessionId() const { return m_sessionId; }
 
 private:
-  Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
+  Reply loadAndWait(PageCall& call, const Destination& destination, PageLoading& loading) override;
+  Reply navigateAndWait(PageCall& call, const QString& url, PageLoading& loading);
+  Reply goThroughHistoryAndWait(PageCall& call, int steps, PageLoading& loading);
   void stopLoading() override { start(DevTools::stopLoading()); }
   Command dialogAnswer(bool accept, const QString& text) const override { return DevTools::answerDialog(accept, text); }
   QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) override;
