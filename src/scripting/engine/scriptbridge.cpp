@@ -4,6 +4,10 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QJSEngine>
+#include <QJSValueIterator>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QQmlEngine>
 
 #include "corvexhook/hostservices.h"
@@ -56,7 +60,8 @@ ScriptBridge::ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCall
       m_files(files),
       m_functions(host, {calls, &m_values.liveObjects()}),
       m_checks(m_values, listener, result),
-      m_waits(m_values) {
+      m_waits(m_values),
+      m_takeNews(host.takeNews) {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
@@ -174,12 +179,58 @@ QJSValue ScriptBridge::functionNames() const { return scriptArray(m_functions.na
 QJSValue ScriptBridge::callFunction(const QString& name, const QJSValue& arguments) {
   QElapsedTimer timer;
   timer.start();
-  const FunctionCallResult<ObjectList> list = m_values.listFromScript(arguments);
+  const ScriptFunction* const function = m_functions.find(name);
+  const FunctionCallResult<ObjectList> list = argumentsFor(function, arguments);
   const ObjectResult first = list.failed() ? m_values.fromScript(arguments.property(0)) : ObjectResult();
   const ObjectResult result =
       list.failed() ? unusableArguments(name, first.value, list.error) : m_functions.call(name, list.value);
   tellStep(name, arguments, timer.elapsed());
-  return finished(result);
+  if (result.failed() || !function || !function->givesJson || !result.value) {
+    return finished(result);
+  }
+  const QJsonDocument json = QJsonDocument::fromJson(result.value->toString().toUtf8());
+  return json.isArray() ? m_engine->toScriptValue(json.array()) : m_engine->toScriptValue(json.object());
+}
+
+FunctionCallResult<ObjectList> ScriptBridge::argumentsFor(const ScriptFunction* function, const QJSValue& arguments) {
+  const quint32 count = Values::lengthOf(arguments);
+  const QJSValue last = count > 0 ? arguments.property(count - 1) : QJSValue();
+  const bool isPlain =
+      last.isObject() && !last.isArray() && !last.isCallable() && !last.isDate() && !m_values.objectOf(last);
+  if (!function || !function->takesOptions || !isPlain) {
+    return m_values.listFromScript(arguments);
+  }
+  QJsonObject options;
+  for (QJSValueIterator each(last); each.next();) {
+    const QJSValue value = each.value();
+    if (value.isString() || value.isNumber() || value.isBool()) {
+      options.insert(each.name(), QJsonValue::fromVariant(value.toVariant()));
+    }
+  }
+  QJSValue rewritten = m_engine->newArray(count);
+  for (quint32 i = 0; i + 1 < count; ++i) {
+    rewritten.setProperty(i, arguments.property(i));
+  }
+  rewritten.setProperty(count - 1, QString::fromUtf8(QJsonDocument(options).toJson(QJsonDocument::Compact)));
+  return m_values.listFromScript(rewritten);
+}
+
+bool ScriptBridge::hasNews() {
+  if (m_takeNews) {
+    const std::vector<HostNews> news = m_takeNews();
+    m_news.insert(m_news.end(), news.begin(), news.end());
+  }
+  return !m_news.empty();
+}
+
+void ScriptBridge::tellNews(const QString& stack) {
+  for (const HostNews& news : std::exchange(m_news, {})) {
+    if (news.isFailure) {
+      m_checks.fail(news.text, m_files->traceOf(stack));
+    } else {
+      m_listener->log(news.text);
+    }
+  }
 }
 
 void ScriptBridge::tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs) {

@@ -51,6 +51,9 @@ public:
 
   Q_INVOKABLE QJSValue functionNames() const;
   Q_INVOKABLE QJSValue callFunction(const QString& name, const QJSValue& arguments);
+  /// Whether something happened beside the script; tells it to the listener, as what came at this place.
+  Q_INVOKABLE bool hasNews();
+  Q_INVOKABLE void tellNews(const QString& stack);
   Q_INVOKABLE QJSValue checkNames() const;
   Q_INVOKABLE QJSValue callCheck(const QString& name, const QJSValue& arguments, const QString& stack);
   /// Throws what is wrong with the arguments of a function that waits.
@@ -64,6 +67,7 @@ public:
 
 private:
   QJSValue scriptArray(const QStringList& texts) const;
+  FunctionCallResult<ObjectList> argumentsFor(const ScriptFunction* function, const QJSValue& arguments);
   QJSValue finished(const ObjectResult& result);
   void tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs);
   QString stepText(const QString& name, const QJSValue& arguments) const;
@@ -77,6 +81,8 @@ private:
   GlobalFunctions m_functions;
   Checks m_checks;
   Waits m_waits;
+  std::function<std::vector<HostNews>()> m_takeNews;
+  std::vector<HostNews> m_news;
   int m_waiting = 0;
 };
 

@@ -26,6 +26,9 @@ void ScriptRun::run() {
     return;
   }
   const Evaluation evaluation = evaluateFile(m_engine, &m_files, m_files.absolutePath());
+  if (m_bridge.hasNews()) {
+    m_bridge.tellNews(QString());
+  }
   if (evaluation.failed) {
     const QJSValue stack = evaluation.thrown.property(QStringLiteral("stack"));
     fail(m_bridge.errorText(evaluation.thrown), m_files.traceOf(stack.toString()));

@@ -21,6 +21,8 @@ public:
 
   /// "test.verify" and so on.
   static QStringList names();
+  /// A check that fails without the script.
+  void fail(const QString& text, const ScriptTrace& trace) { checked(false, text, trace); }
   Answer call(const QString& name, const QJSValueList& arguments, const ScriptTrace& trace);
 
 private:

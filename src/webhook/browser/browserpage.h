@@ -2,6 +2,7 @@
 
 #include "shared/functioncallresult.h"
 #include "shared/javascriptanswer.h"
+#include "webhook/protocol/consolemessage.h"
 #include "webhook/protocol/dialog.h"
 #include "webhook/protocol/inputstep.h"
 
@@ -9,6 +10,7 @@
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 #include <optional>
 
 namespace Corvex::Webhook {
@@ -56,6 +58,10 @@ public:
   /// taken it. What the input leads to is no error: a dialog, another document, the page's end.
   virtual QString perform(const InputSteps& steps) = 0;
 
+  /// What the page wrote to its console and its uncaught errors, in all of its documents so far, the oldest first. Of
+  /// very many the last ones, of a very long text its beginning.
+  virtual QVector<ConsoleMessage> consoleMessages() const = 0;
+
   virtual std::optional<Dialog> openDialog() const = 0;
 
   /// Ends the open dialog. `text` goes into a prompt's field; a null text leaves what is there.
@@ -77,6 +83,7 @@ Q_SIGNALS:
   /// Another document took the place of the top document; whatever was known of the old one is void.
   void navigated(const QString& url);
   void dialogOpened();
+  void consoleWritten(const Corvex::Webhook::ConsoleMessage& message);
   /// The page is gone, by itself, by close(), or with its browser.
   void closed(const QString& reason);
   /// The page's process ended. The page stays and can be navigated again.

@@ -39,6 +39,7 @@ void PageLoading::fail(const QString& error) {
 
 void PageLoading::check() {
   if (isThere()) {
+    m_error = isComplete() ? m_error : m_errorOnceLoaded;
     complete();
   }
 }

@@ -24,6 +24,8 @@ public:
   void noteDocument(const QString& document);
   void noteLoaded(const QString& document);
 
+  /// The document that came is the browser's own, in place of the one that is waited for.
+  void noteErrorPage(const QString& error) { m_errorOnceLoaded = error; }
   /// Ends it without the document.
   void fail(const QString& error);
   QString error() const { return m_error; }
@@ -40,6 +42,7 @@ private:
   QStringList m_documents;
   QSet<QString> m_loaded;
   QString m_error;
+  QString m_errorOnceLoaded;
 };
 
 }  // namespace Corvex::Webhook

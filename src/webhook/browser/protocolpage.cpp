@@ -9,6 +9,20 @@
 
 namespace Corvex::Webhook {
 
+namespace {
+
+constexpr int consoleLimit = 1000;
+constexpr int consoleTextLimit = 10000;
+
+/// Whether this system's own scripts caused it: the start scripts end with an error where they are not to run, and the
+/// hook script tells what a page keeps it from.
+bool isOwn(const ConsoleMessage& message) {
+  return message.text.contains(QLatin1String("__corvex__topPageOnly")) ||
+         message.text.startsWith(QLatin1String("Ooops: "));
+}
+
+}  // namespace
+
 ProtocolPage::ProtocolPage(Channel& channel, const BrowserSession& session, const QString& address, const QString& url)
     : m_channel(channel), m_session(session), m_address(address), m_url(url) {}
 
@@ -189,6 +203,19 @@ void ProtocolPage::takeDialog(const Dialog& dialog) {
   ++m_dialogCount;
   endOpenCalls(PageErrors::dialogOpen(dialog));
   Q_EMIT dialogOpened();
+}
+
+void ProtocolPage::takeConsoleMessage(ConsoleMessage message) {
+  if (isOwn(message)) {
+    return;
+  }
+  message.text.truncate(consoleTextLimit);
+  message.url.truncate(consoleTextLimit);
+  if (m_console.size() >= consoleLimit) {
+    m_console.removeFirst();
+  }
+  m_console.append(message);
+  Q_EMIT consoleWritten(message);
 }
 
 void ProtocolPage::endOpenCalls(const QString& error) {

@@ -33,6 +33,7 @@ public:
   QString goThroughHistory(int steps, int timeoutMs) override;
   QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
   QString perform(const InputSteps& steps) override;
+  QVector<ConsoleMessage> consoleMessages() const override { return m_console; }
   std::optional<Dialog> openDialog() const override { return m_dialog; }
   QString answerDialog(bool accept, const QString& text) override;
   QString close() override;
@@ -75,6 +76,7 @@ protected:
   void takeDocument(const QString& document, const QString& url);
   /// A dialog opened; the question whether to leave a page that is being left is answered here.
   void takeDialog(const Dialog& dialog);
+  void takeConsoleMessage(ConsoleMessage message);
   void forgetDialog() { m_dialog.reset(); }
   const std::vector<std::shared_ptr<PageLoading>>& loadings() const { return m_loadings; }
 
@@ -91,6 +93,7 @@ private:
   std::optional<Dialog> m_dialog;
   int m_dialogCount = 0;
   std::vector<std::shared_ptr<PageLoading>> m_loadings;
+  QVector<ConsoleMessage> m_console;
   std::shared_ptr<Pending> m_closing = std::make_shared<Pending>();
 };
 

@@ -23,12 +23,15 @@ const QCommandLineOption junitOption(QStringLiteral("junit"), QStringLiteral("Wr
 const QCommandLineOption objectMapOption(QStringLiteral("object-map"),
                                          QStringLiteral("Take the symbolic names of objects from this file."),
                                          QStringLiteral("file"));
+const QCommandLineOption failOnPageErrorOption(QStringLiteral("fail-on-page-error"),
+                                               QStringLiteral("Count an uncaught error of a page as a failed check."));
 const QCommandLineOption verboseOption(QStringLiteral("verbose"), QStringLiteral("Show the calls of objects, too."));
 
 struct RunOptions {
   SessionOptions session;
   QStringList scripts;
   QString junitFile;
+  bool failOnPageError = false;
   bool verbose = false;
 };
 
@@ -51,6 +54,7 @@ QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
   }
   options->scripts = parser.positionalArguments();
   options->junitFile = parser.value(junitOption);
+  options->failOnPageError = parser.isSet(failOnPageErrorOption);
   options->verbose = parser.isSet(verboseOption);
   error = options->scripts.isEmpty() ? QStringLiteral("A script is missing.") : unreadable(options->scripts);
   return error.isEmpty() && parser.isSet(objectMapOption) ? ObjectMap::self()->load(parser.value(objectMapOption))
@@ -63,6 +67,7 @@ int runScripts(const RunOptions& options) {
                           options.verbose ? ConsoleReporter::Detail::ObjectCalls : ConsoleReporter::Detail::Steps);
   JUnitReporter junit(options.junitFile);
   BrowserControl browser(options.session);
+  browser.setFailOnPageError(options.failOnPageError);
   ListenerGroup listeners;
   listeners.add(&browser);
   listeners.add(&console);
@@ -97,7 +102,7 @@ int runScriptsCommand(const QStringList& arguments) {
                      "Exit code: 0 all passed, 1 a script failed or the results could not be written, 2 wrong usage,\n"
                      "3 the browser could not be started or was lost."));
   addBrowserOptions(parser);
-  parser.addOptions({junitOption, objectMapOption, verboseOption});
+  parser.addOptions({junitOption, objectMapOption, failOnPageErrorOption, verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."), QStringLiteral("The scripts, in JavaScript."));
   if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {
     return *exitCode;

@@ -74,7 +74,8 @@ WireMessage readEvent(const QJsonObject& object) {
   message.method = textAt(object, "method");
   message.content = objectAt(object, "params");
   if (!isOfBrowser(message.method)) {
-    message.session = textAt(message.content, "context");
+    const QString context = textAt(message.content, "context");
+    message.session = context.isEmpty() ? textAt(objectAt(message.content, "source"), "context") : context;
   }
   message.kind = message.method.isEmpty() ? WireMessage::Malformed : WireMessage::Event;
   return message;
@@ -237,6 +238,11 @@ QString readNavigationError(const QString& refusal) {
 Document readDocument(const QJsonObject& event) { return {textAt(event, "navigation"), textAt(event, "url")}; }
 
 bool isCrashNotice(const Document& document) { return document.url.startsWith(QLatin1String("about:tabcrashed")); }
+
+bool isErrorPage(const Document& document) {
+  return document.url.startsWith(QLatin1String("about:neterror")) ||
+         document.url.startsWith(QLatin1String("about:certerror"));
+}
 
 QString readNewRealm(const QJsonObject& event) {
   const bool isPlain = textAt(event, "type") == QLatin1String("window") && textAt(event, "sandbox").isEmpty();

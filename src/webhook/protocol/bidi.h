@@ -69,6 +69,8 @@ struct Document {
 Document readDocument(const QJsonObject& event);
 /// Whether it is what Firefox shows in place of a page whose process ended.
 bool isCrashNotice(const Document& document);
+/// Whether it is what Firefox shows in place of a page that it could not load.
+bool isErrorPage(const Document& document);
 
 // A page: evaluation.
 

@@ -163,8 +163,9 @@ std::optional<NewDocument> readNewDocument(const QJsonObject& event) {
   if (frame.contains(QLatin1String("parentId"))) {
     return {};
   }
-  return NewDocument{textAt(frame, "loaderId"), textAt(frame, "url") + textAt(frame, "urlFragment"),
-                     frame.contains(QLatin1String("unreachableUrl"))};
+  const QString unreachable = textAt(frame, "unreachableUrl");
+  const QString url = unreachable.isEmpty() ? textAt(frame, "url") : unreachable;
+  return NewDocument{textAt(frame, "loaderId"), url + textAt(frame, "urlFragment"), !unreachable.isEmpty()};
 }
 
 Command evaluate(const QString& code, const QString& group, int timeoutMs) {

@@ -14,6 +14,9 @@ namespace {
 
 const int loadIntervalMs = 20;
 
+// Between two calls of a script: a page may throw without end.
+const size_t mostNews = 100;
+
 }  // namespace
 
 BrowserControl::BrowserControl(const SessionOptions& options) : m_options(options), m_services(*this, m_model) {
@@ -97,7 +100,23 @@ QString BrowserControl::openSession() {
     m_lossReason = reason;
     m_browserFailure = true;
   });
+  watchConsole(m_session->firstPage());
+  QObject::connect(m_session.get(), &BrowserSession::pageOpened, m_windows.get(),
+                   [this](BrowserPage* page) { watchConsole(page); });
   return m_windows->open();
+}
+
+void BrowserControl::watchConsole(BrowserPage* page) {
+  QObject::connect(page, &BrowserPage::consoleWritten, m_windows.get(), [this](const ConsoleMessage& message) {
+    if (!message.isUncaught || m_news.size() >= mostNews) {
+      return;
+    }
+    const QString place = message.url.isEmpty()
+                              ? QStringLiteral("a place that is not known")
+                              : QStringLiteral("%1:%2").arg(message.url, QString::number(message.line));
+    m_news.push_back(
+        {QStringLiteral("Uncaught error of a page at %1: %2").arg(place, message.text), m_failsOnPageError});
+  });
 }
 
 QString BrowserControl::closeWindow() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scripting/scriptfunction.h"
 #include "scripting/scriptlistener.h"
 #include "webhook/browser/browsersession.h"
 #include "webhook/endpoint/endpoint.h"
@@ -49,6 +50,11 @@ public:
   /// Whether, at any time, a browser could not be started or was lost.
   bool hadBrowserFailure() const { return m_browserFailure; }
 
+  /// Whether an error that a page did not catch is a failed check of the script.
+  void setFailOnPageError(bool isWanted) { m_failsOnPageError = isWanted; }
+  /// The uncaught errors of pages since the last call.
+  std::vector<Scripting::HostNews> takeNews() { return std::exchange(m_news, {}); }
+
   /// Whether clicks and texts are made in the page, and not by the browser.
   bool wantsPageInput() const { return m_wantsPageInput; }
   void setPageInput(bool isWanted) { m_wantsPageInput = isWanted; }
@@ -64,6 +70,7 @@ public:
 
 private:
   QString openSession();
+  void watchConsole(BrowserPage* page);
   QString load(const std::function<QString(Connection&)>& go);
   QString resolveAddress(const QString& address) const;
 
@@ -80,6 +87,8 @@ private:
   QString m_lossReason;
   bool m_browserFailure = false;
   bool m_loadIsHeld = false;
+  bool m_failsOnPageError = false;
+  std::vector<Scripting::HostNews> m_news;
   bool m_wantsPageInput = false;
   bool m_wantsStrictNames = false;
 };

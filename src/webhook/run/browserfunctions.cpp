@@ -9,6 +9,7 @@
 #include "webhook/run/browsercontrol.h"
 #include "webhook/run/inputfunctions.h"
 #include "webhook/run/navigationfunctions.h"
+#include "webhook/run/pagefunctions.h"
 #include "webhook/run/pictures.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 #include "wrappers/web/values/jsobject.h"
@@ -162,9 +163,10 @@ Scripting::ScriptHost browserFunctions(BrowserControl& control) {
         {QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments, row.maxArguments,
          [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }, row.takesNull});
   }
-  for (const auto& family : {inputFunctions(control), navigationFunctions(control)}) {
+  for (const auto& family : {inputFunctions(control), navigationFunctions(control), pageFunctions(control)}) {
     host.functions.insert(host.functions.end(), family.begin(), family.end());
   }
+  host.takeNews = [&control] { return control.takeNews(); };
   return host;
 }
 

@@ -97,6 +97,16 @@ TEST_F(ScriptWaits, WaitForObjectGoneWaitsUntilNothingFits) {
             s("1: '{id='f'}' was still there after 60 ms, and visible."));
 }
 
+TEST_F(ScriptWaits, WhatHappensBesideTheScriptIsToldWhereItCame) {
+  std::vector<HostNews> news{{s("noise"), false}, {s("fault"), true}};
+  host.takeNews = [&news] { return std::exchange(news, {}); };
+  const ScriptResult result = run("\ncurrentUrl();\ntest.log('next');");
+  EXPECT_EQ(listener.lines,
+            QStringList({s("step currentUrl"), s("log noise"), s("failed fault line 2"), s("log next")}));
+  EXPECT_EQ(result.failedChecks.size(), 1u);
+  EXPECT_TRUE(result.error.isEmpty());
+}
+
 TEST_F(ScriptWaits, AnInterruptedScriptWaitsNoMore) {
   ScriptEngine engine(host, &listener);
   clock.onSleep = [&engine] { engine.interrupt(); };

@@ -3,6 +3,7 @@
 #include "webhook/backends/bidi/bidievaluation.h"
 #include "webhook/backends/bidi/bidisession.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/bidiconsole.h"
 #include "webhook/protocol/bidiinput.h"
 #include "webhook/protocol/devtools.h"
 #include "webhook/protocol/startscript.h"
@@ -31,7 +32,9 @@ BidiPage::~BidiPage() { m_realmThere->complete(); }
 
 void BidiPage::watchFrame(const QString& frame) {
   channel().subscribe(frame, this, [this](const QString& method, const QJsonObject& parameters) {
-    if (method.startsWith(QLatin1String("browsingContext.userPrompt"))) {
+    const bool isOfPage =
+        method.startsWith(QLatin1String("browsingContext.userPrompt")) || method.startsWith(QLatin1String("log."));
+    if (isOfPage) {
       takeEvent(method, parameters);
     }
   });
@@ -254,6 +257,8 @@ void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
   };
   if (const Handler handler = handlers.value(method)) {
     (this->*handler)(parameters);
+  } else if (const std::optional<ConsoleMessage> message = Bidi::readConsoleMessage(method, parameters)) {
+    takeConsoleMessage(*message);
   }
 }
 
@@ -263,6 +268,11 @@ void BidiPage::onNavigationCommitted(const QJsonObject& parameters) {
   if (Bidi::isCrashNotice(document)) {
     noteCrashed();
     return;
+  }
+  for (const auto& loading : loadings()) {
+    if (Bidi::isErrorPage(document) && loading->expectsAny()) {
+      loading->fail(PageErrors::errorPageLoaded(document.url));
+    }
   }
   takeDocument(document.navigation, document.url);
 }

@@ -29,7 +29,7 @@ public:
 
   const QString& contextId() const { return m_context; }
 
-  /// Has the dialogs of a frame reported here, too.
+  /// Has the dialogs and the console of a frame reported here, too.
   void watchFrame(const QString& frame);
 
   /// Whether the browser knows it by this DevTools session.

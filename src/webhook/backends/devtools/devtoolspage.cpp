@@ -3,6 +3,7 @@
 #include "webhook/backends/devtools/devtoolsevaluation.h"
 #include "webhook/browser/browsersession.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/devtoolsconsole.h"
 
 namespace Corvex::Webhook {
 
@@ -25,6 +26,7 @@ DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, cons
   for (const Command& command : DevTools::watchPage()) {
     m_watched = start(command);
   }
+  start(DevTools::watchConsole());
   for (const QString& script : startScripts) {
     m_watched = start(DevTools::addStartScript(script));
   }
@@ -162,6 +164,8 @@ void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameter
   };
   if (const Handler handler = handlers.value(method)) {
     (this->*handler)(parameters);
+  } else if (const std::optional<ConsoleMessage> message = DevTools::readConsoleMessage(method, parameters)) {
+    takeConsoleMessage(*message);
   }
 }
 
@@ -172,7 +176,7 @@ void DevToolsPage::onFrameNavigated(const QJsonObject& parameters) {
   }
   for (const auto& loading : loadings()) {
     if (document->isErrorPage && loading->expectsAny()) {
-      loading->fail(PageErrors::errorPageLoaded(document->url));
+      loading->noteErrorPage(PageErrors::errorPageLoaded(document->url));
     }
   }
   takeDocument(document->document, document->url);
