@@ -34,6 +34,10 @@ public:
   Corvex::FunctionCallResult<double> zoomFactor() override { return {1.0, {}}; }
   QString perform(const Corvex::Webhook::InputSteps&) override { return QString(); }
   QString setFiles(const QString&, const QStringList&) override { return QString(); }
+  Corvex::FunctionCallResult<QVector<Corvex::Webhook::Cookie>> cookies() override { return {}; }
+  QString setCookie(const Corvex::Webhook::Cookie&) override { return QString(); }
+  QString deleteCookies() override { return QString(); }
+  QString setViewport(const QSize&, double) override { return QString(); }
   QVector<Corvex::Webhook::ConsoleMessage> consoleMessages() const override { return {}; }
   std::optional<Corvex::Webhook::Dialog> openDialog() const override { return dialog; }
   QString answerDialog(bool, const QString&) override { return QString(); }

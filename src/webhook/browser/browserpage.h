@@ -3,11 +3,13 @@
 #include "shared/functioncallresult.h"
 #include "shared/javascriptanswer.h"
 #include "webhook/protocol/consolemessage.h"
+#include "webhook/protocol/cookie.h"
 #include "webhook/protocol/dialog.h"
 #include "webhook/protocol/inputstep.h"
 
 #include <QImage>
 #include <QObject>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -61,6 +63,16 @@ public:
   /// What the page wrote to its console and its uncaught errors, in all of its documents so far, the oldest first. Of
   /// very many the last ones, of a very long text its beginning.
   virtual QVector<ConsoleMessage> consoleMessages() const = 0;
+
+  /// The cookies that the browser sends for the page's address, and how to give it another one. `deleteCookies` deletes
+  /// those that `cookies` gives.
+  virtual FunctionCallResult<QVector<Cookie>> cookies() = 0;
+  virtual QString setCookie(const Cookie& cookie) = 0;
+  virtual QString deleteCookies() = 0;
+
+  /// Makes the part of the page that is in view as large as this, in CSS pixels, each of `pixelRatio` screen pixels, of
+  /// as many as before with 0.
+  virtual QString setViewport(const QSize& size, double pixelRatio) = 0;
 
   virtual std::optional<Dialog> openDialog() const = 0;
 

@@ -133,4 +133,17 @@ QString filesRefused(const QStringList& paths, const QString& browsersWords) {
 
 QString noScreenshot() { return QStringLiteral("The browser sent no readable image of the page. Try again."); }
 
+QString noCookies(const QString& url) {
+  return QStringLiteral("The page '%1' has no host, so it can have no cookies. Open a page of a server first.")
+      .arg(url);
+}
+
+QString cookieRefused(const QString& name, const QString& browsersWords) {
+  const QString why = browsersWords.isEmpty() ? QString() : QStringLiteral(": ") + browsersWords;
+  return QStringLiteral(
+             "The browser refused the cookie '%1'%2. Check its name, domain and path, and that a secure one "
+             "is set on a page of https.")
+      .arg(name, why);
+}
+
 }  // namespace Corvex::Webhook::PageErrors

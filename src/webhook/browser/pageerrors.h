@@ -36,5 +36,8 @@ QString noFileInput(const QString& referenceExpression);
 /// `paths` are those of another machine.
 QString filesRefused(const QStringList& paths, const QString& browsersWords);
 QString noScreenshot();
+QString noCookies(const QString& url);
+/// `browsersWords` may be empty.
+QString cookieRefused(const QString& name, const QString& browsersWords);
 
 }  // namespace Corvex::Webhook::PageErrors

@@ -5,6 +5,7 @@
 #include "webhook/browser/pageerrors.h"
 
 #include <QFileInfo>
+#include <QUrl>
 #include <algorithm>
 
 namespace Corvex::Webhook {
@@ -15,10 +16,10 @@ constexpr int consoleLimit = 1000;
 constexpr int consoleTextLimit = 10000;
 
 /// Whether this system's own scripts caused it: the start scripts end with an error where they are not to run, and the
-/// hook script tells what a page keeps it from.
+/// hook script tells what a page keeps it from, or its policy does.
 bool isOwn(const ConsoleMessage& message) {
   return message.text.contains(QLatin1String("__corvex__topPageOnly")) ||
-         message.text.startsWith(QLatin1String("Ooops: "));
+         message.text.contains(QLatin1String("/?debuglog=")) || message.text.startsWith(QLatin1String("Ooops: "));
 }
 
 }  // namespace
@@ -108,6 +109,55 @@ QString ProtocolPage::setFiles(const QString& referenceExpression, const QString
   }
   PageCall call = makeCall(0);
   return putFiles(call, referenceExpression, fullPaths);
+}
+
+FunctionCallResult<QVector<Cookie>> ProtocolPage::cookies() {
+  if (!m_whyClosed.isEmpty()) {
+    return {{}, m_whyClosed};
+  }
+  PageCall call = makeCall(0);
+  const QPointer<ProtocolPage> self(this);
+  const Reply reply = call.ask(cookieList());
+  return self && reply.isAnswered() ? FunctionCallResult<QVector<Cookie>>::success(readCookies(reply.result))
+                                    : FunctionCallResult<QVector<Cookie>>::failure(call.errorOf(reply));
+}
+
+QString ProtocolPage::setCookie(const Cookie& cookie) {
+  if (!m_whyClosed.isEmpty()) {
+    return m_whyClosed;
+  }
+  Cookie whole = cookie;
+  whole.domain = cookie.domain.isEmpty() ? QUrl(m_url).host() : cookie.domain;
+  if (whole.domain.isEmpty()) {
+    return PageErrors::noCookies(m_url);
+  }
+  PageCall call = makeCall(0);
+  const QPointer<ProtocolPage> self(this);
+  const Reply reply = call.ask(cookieSetting(cookie.domain.isEmpty() ? whole : cookie));
+  const bool isRefused = reply.status == Reply::Refused || (self && reply.isAnswered() && !isCookieSet(reply.result));
+  return isRefused ? PageErrors::cookieRefused(cookie.name, reply.error) : call.errorOf(reply);
+}
+
+QString ProtocolPage::deleteCookies() {
+  const QPointer<ProtocolPage> self(this);
+  const FunctionCallResult<QVector<Cookie>> all = cookies();
+  QString error = all.error;
+  for (const Cookie& cookie : all.value) {
+    if (self && error.isEmpty()) {
+      PageCall call = makeCall(0);
+      error = call.errorOf(call.ask(cookieDeletion(cookie)));
+    }
+  }
+  return error;
+}
+
+QString ProtocolPage::setViewport(const QSize& size, double pixelRatio) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return obstacle;
+  }
+  PageCall call = makeCall(0);
+  return call.errorOf(call.ask(viewportSetting(size, pixelRatio)));
 }
 
 QString ProtocolPage::perform(const InputSteps& steps) {

@@ -33,6 +33,10 @@ public:
   QString goThroughHistory(int steps, int timeoutMs) override;
   QString setFiles(const QString& referenceExpression, const QStringList& paths) override;
   QString perform(const InputSteps& steps) override;
+  FunctionCallResult<QVector<Cookie>> cookies() override;
+  QString setCookie(const Cookie& cookie) override;
+  QString deleteCookies() override;
+  QString setViewport(const QSize& size, double pixelRatio) override;
   QVector<ConsoleMessage> consoleMessages() const override { return m_console; }
   std::optional<Dialog> openDialog() const override { return m_dialog; }
   QString answerDialog(bool accept, const QString& text) override;
@@ -61,6 +65,12 @@ protected:
   virtual bool takesFilesOfThisMachine() const { return true; }
   virtual QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) = 0;
   virtual QString giveInput(PageCall& call, const InputSteps& steps) = 0;
+  virtual Command cookieList() const = 0;
+  virtual QVector<Cookie> readCookies(const QJsonObject& answer) const = 0;
+  virtual Command cookieSetting(const Cookie& cookie) const = 0;
+  virtual bool isCookieSet(const QJsonObject&) const { return true; }
+  virtual Command cookieDeletion(const Cookie& cookie) const = 0;
+  virtual Command viewportSetting(const QSize& size, double pixelRatio) = 0;
   virtual Command dialogAnswer(bool accept, const QString& text) const = 0;
   virtual Command closing() const = 0;
   virtual void prepareClosing(PageCall&) {}

@@ -305,6 +305,15 @@ std::optional<QJsonObject> readRefusedException(const QString& refusal) {
                      {QStringLiteral("exceptionDetails"), QJsonObject{{QStringLiteral("exception"), exception}}}};
 }
 
+Command setViewport(const QString& page, const QSize& size, double pixelRatio) {
+  const QJsonObject viewport{{QStringLiteral("width"), size.width()}, {QStringLiteral("height"), size.height()}};
+  QJsonObject parameters{{QStringLiteral("viewport"), viewport}};
+  if (pixelRatio > 0) {
+    parameters.insert(QStringLiteral("devicePixelRatio"), pixelRatio);
+  }
+  return ofPage("browsingContext.setViewport", page, parameters);
+}
+
 Command screenshot(const QString& page, bool wholePage) {
   return ofPage("browsingContext.captureScreenshot", page,
                 {{QStringLiteral("origin"), wholePage ? QStringLiteral("document") : QStringLiteral("viewport")}});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QStringList>
 #include <optional>
 
@@ -107,6 +108,8 @@ std::optional<QJsonObject> readRefusedException(const QString& refusal);
 
 // A page: the other verbs.
 
+/// A ratio of 0 leaves it as it is.
+Command setViewport(const QString& page, const QSize& size, double pixelRatio);
 Command screenshot(const QString& page, bool wholePage);
 QByteArray readScreenshot(const QJsonObject& answer);
 Command setFiles(const QString& pageOrFrame, const QString& sharedId, const QStringList& paths);

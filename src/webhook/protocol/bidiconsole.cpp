@@ -51,7 +51,9 @@ std::optional<ConsoleMessage> readConsoleMessage(const QString& method, const QJ
   ConsoleMessage message;
   message.level = textAt(entry, "level");
   const bool isOfScript = textAt(entry, "type") == QLatin1String("javascript");
-  message.isUncaught = isOfScript && message.level == QLatin1String("error");
+  // Firefox tells what a policy kept from the page in this way, too.
+  const bool isOfPolicy = textAt(entry, "text").startsWith(QLatin1String("Content-Security-Policy"));
+  message.isUncaught = isOfScript && !isOfPolicy && message.level == QLatin1String("error");
   message.text = isOfScript ? textAt(entry, "text").section(QLatin1Char('\n'), 0, 0) : textOf(entry);
   for (const char* lead : {"uncaught exception: ", "Uncaught (in promise) ", "Uncaught "}) {
     if (message.isUncaught && message.text.startsWith(QLatin1String(lead))) {

@@ -206,6 +206,13 @@ Outcome readOutcome(const QJsonObject& answer) {
 
 Command metrics() { return command("Page.getLayoutMetrics"); }
 
+Command setViewport(const QSize& size, double pixelRatio) {
+  return command("Emulation.setDeviceMetricsOverride", {{QStringLiteral("width"), size.width()},
+                                                        {QStringLiteral("height"), size.height()},
+                                                        {QStringLiteral("deviceScaleFactor"), pixelRatio},
+                                                        {QStringLiteral("mobile"), false}});
+}
+
 double readZoom(const QJsonObject& answer) {
   return objectAt(answer, "cssVisualViewport").value(QLatin1String("zoom")).toDouble(1.0);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QStringList>
 #include <optional>
 
@@ -87,6 +88,8 @@ Outcome readOutcome(const QJsonObject& answer);
 // A page: the other verbs.
 
 Command metrics();
+/// A ratio of 0 is the screen's.
+Command setViewport(const QSize& size, double pixelRatio);
 /// Zoom that the user or the driver set, from the answer to metrics().
 double readZoom(const QJsonObject& answer);
 /// `contents`: the answer to metrics() for the whole page, nothing for the part that is in view.

@@ -8,6 +8,7 @@
 #include "webhook/protocol/devtools.h"
 #include "webhook/protocol/startscript.h"
 
+#include <QUrl>
 #include <algorithm>
 
 namespace Corvex::Webhook {
@@ -15,6 +16,16 @@ namespace Corvex::Webhook {
 namespace {
 
 constexpr int historyIntervalMs = 50;
+
+/// Whether the browser sends the cookie for the address.
+bool isFor(const Cookie& cookie, const QUrl& url) {
+  const QString host = QLatin1Char('.') + url.host();
+  const bool hostFits =
+      cookie.domain.startsWith(QLatin1Char('.')) ? host.endsWith(cookie.domain) : url.host() == cookie.domain;
+  const QString path = url.path().isEmpty() ? QStringLiteral("/") : url.path();
+  const QString folder = cookie.path.endsWith(QLatin1Char('/')) ? cookie.path : cookie.path + QLatin1Char('/');
+  return hostFits && (path == cookie.path || path.startsWith(folder));
+}
 
 }  // namespace
 
@@ -230,6 +241,23 @@ QString BidiPage::giveInput(PageCall& call, const InputSteps& steps) {
   }
   giveActions();
   return error;
+}
+
+QVector<Cookie> BidiPage::readCookies(const QJsonObject& answer) const {
+  QVector<Cookie> ofPage;
+  for (const Cookie& cookie : Bidi::readCookies(answer)) {
+    if (isFor(cookie, QUrl(url()))) {
+      ofPage.append(cookie);
+    }
+  }
+  return ofPage;
+}
+
+Command BidiPage::viewportSetting(const QSize& size, double pixelRatio) {
+  if (pixelRatio > 0) {
+    m_plainPixelRatio = pixelRatio;
+  }
+  return Bidi::setViewport(m_context, size, pixelRatio);
 }
 
 Command BidiPage::dialogAnswer(bool accept, const QString& text) const {

@@ -3,6 +3,7 @@
 #include "webhook/backends/bidi/bidievaluation.h"
 #include "webhook/browser/protocolpage.h"
 #include "webhook/protocol/bidi.h"
+#include "webhook/protocol/bidicookies.h"
 
 namespace Corvex::Webhook {
 
@@ -45,6 +46,11 @@ private:
   bool isStartPage() const override { return !m_hasOpener && Bidi::isStartPage(url()); }
   void stopLoading() override;
   QString giveInput(PageCall& call, const InputSteps& steps) override;
+  Command cookieList() const override { return Bidi::listCookies(m_context); }
+  QVector<Cookie> readCookies(const QJsonObject& answer) const override;
+  Command cookieSetting(const Cookie& cookie) const override { return Bidi::setCookie(m_context, cookie); }
+  Command cookieDeletion(const Cookie& cookie) const override { return Bidi::deleteCookie(m_context, cookie); }
+  Command viewportSetting(const QSize& size, double pixelRatio) override;
   Command dialogAnswer(bool accept, const QString& text) const override;
   bool takesFilesOfThisMachine() const override;
   QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) override;

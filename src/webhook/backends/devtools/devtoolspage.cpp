@@ -5,6 +5,8 @@
 #include "webhook/browser/pageerrors.h"
 #include "webhook/protocol/devtoolsconsole.h"
 
+#include <QUrl>
+
 namespace Corvex::Webhook {
 
 namespace {
@@ -150,6 +152,15 @@ QString DevToolsPage::giveInput(PageCall& call, const InputSteps& steps) {
     }
   }
   return {};
+}
+
+Command DevToolsPage::cookieSetting(const Cookie& cookie) const {
+  // With a domain the browser makes it one for the hosts below, too.
+  Cookie named = cookie;
+  named.domain = cookie.domain.startsWith(QLatin1Char('.')) ? cookie.domain : QString();
+  const bool isOfPage = cookie.domain == QUrl(url()).host();
+  const QString address = isOfPage ? url() : QStringLiteral("http://") + cookie.domain;
+  return DevTools::setCookie(named.domain.isEmpty() ? address : url(), named);
 }
 
 void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameters) {
