@@ -26,6 +26,17 @@ struct ScriptFunction {
   bool takesNull = false;
   /// Whether the standard function of this name is to run in its place for these arguments; never without it.
   std::function<bool(const ObjectList&)> yields = {};
+  /// The result is a text of JSON, and the script gets what it says.
+  bool givesJson = false;
+  /// The last argument may be a plain object, and arrives as a text of JSON. Of its values, texts, numbers, true and
+  /// false arrive.
+  bool takesOptions = false;
+};
+
+/// What happened beside the script.
+struct HostNews {
+  QString text;
+  bool isFailure = false;  ///< It counts as a failed check.
 };
 
 /// What the process that embeds the engine offers to scripts.
@@ -35,6 +46,8 @@ struct ScriptHost {
   std::function<FunctionCallResult<QImage>(const SharedPtr<Object>&)> pictureOf = {};
   /// What scripts were started with, by the names.
   QMap<QString, QString> arguments = {};
+  /// What is new since it was asked last. Asked after each call of a function, and at the script's end.
+  std::function<std::vector<HostNews>()> takeNews = {};
 };
 
 }  // namespace Corvex::Scripting

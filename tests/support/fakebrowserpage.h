@@ -24,6 +24,8 @@ public:
     Q_EMIT navigated(url);
     return QString();
   }
+  QString reload(int) override { return QString(); }
+  QString goThroughHistory(int, int) override { return QString(); }
   QString addStartScript(const QString& text) override {
     startScripts << text;
     return QString();
@@ -33,6 +35,11 @@ public:
   QString perform(const Corvex::Webhook::InputSteps&) override { return QString(); }
   void awaitNavigation() override {}
   QString setFiles(const QString&, const QStringList&) override { return QString(); }
+  Corvex::FunctionCallResult<QVector<Corvex::Webhook::Cookie>> cookies() override { return {}; }
+  QString setCookie(const Corvex::Webhook::Cookie&) override { return QString(); }
+  QString deleteCookies() override { return QString(); }
+  QString setViewport(const QSize&, double) override { return QString(); }
+  QVector<Corvex::Webhook::ConsoleMessage> consoleMessages() const override { return {}; }
   std::optional<Corvex::Webhook::Dialog> openDialog() const override { return dialog; }
   QString answerDialog(bool, const QString&) override { return QString(); }
   QString close() override { return QString(); }

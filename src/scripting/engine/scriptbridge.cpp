@@ -4,12 +4,18 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QJSEngine>
+#include <QJSValueIterator>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcessEnvironment>
 #include <QQmlEngine>
 
 #include "corvexhook/hostservices.h"
 #include "corvexhook/inspector.h"
+#include "scripting/engine/evaluation.h"
 #include "scripting/functions/tablereader.h"
+#include "scripting/objects/valuecomparison.h"
 #include "scripting/objects/valuetext.h"
 
 namespace Corvex::Scripting {
@@ -57,13 +63,20 @@ ScriptBridge::ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCall
       m_interruption(interruption),
       m_arguments(host.arguments),
       m_functions(host, {calls, &m_values.liveObjects()}),
-      m_checks({m_values, {calls, &m_values.liveObjects()}, listener, files->folder(), host.pictureOf, [interruption] {
-                  interruption->endCode();
-                }}) {
+      m_checks({m_values,
+                {calls, &m_values.liveObjects()},
+                listener,
+                files->folder(),
+                host.pictureOf,
+                [interruption] { interruption->endCode(); }}),
+      m_waits(m_values),
+      m_takeNews(host.takeNews) {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
-QString ScriptBridge::errorText(const QJSValue& thrown) const { return m_errors.textOf(thrown, m_functions.names()); }
+QString ScriptBridge::errorText(const QJSValue& thrown) const {
+  return m_errors.textOf(thrown, m_functions.names() + Waits::names());
+}
 
 void ScriptBridge::setWrappers(const QJSValue& wrap, const QJSValue& handleOf) { m_values.setWrappers(wrap, handleOf); }
 
@@ -204,16 +217,68 @@ QJSValue ScriptBridge::functionNames() const { return scriptArray(m_functions.na
 QJSValue ScriptBridge::callFunction(const QString& name, const QJSValue& arguments) {
   QElapsedTimer timer;
   timer.start();
-  const FunctionCallResult<ObjectList> list = m_values.listFromScript(arguments);
+  const ScriptFunction* const function = m_functions.find(name);
+  const FunctionCallResult<ObjectList> list = argumentsFor(function, arguments);
   const ObjectResult first = list.failed() ? m_values.fromScript(arguments.property(0)) : ObjectResult();
   const ObjectResult result =
       list.failed() ? unusableArguments(name, first.value, list.error) : m_functions.call(name, list.value);
-  m_listener->step(stepText(name, arguments), timer.elapsed());
+  tellStep(name, arguments, timer.elapsed());
   if (m_interruption->isScriptEnded() && m_stackOfEnd.isEmpty()) {
     const QJSValue here = m_engine->newErrorObject(QJSValue::GenericError);
     m_stackOfEnd = here.property(QStringLiteral("stack")).toString();
   }
-  return finished(result);
+  if (result.failed() || !function || !function->givesJson || !result.value) {
+    return finished(result);
+  }
+  const QJsonDocument json = QJsonDocument::fromJson(result.value->toString().toUtf8());
+  return json.isArray() ? m_engine->toScriptValue(json.array()) : m_engine->toScriptValue(json.object());
+}
+
+FunctionCallResult<ObjectList> ScriptBridge::argumentsFor(const ScriptFunction* function, const QJSValue& arguments) {
+  const quint32 count = Values::lengthOf(arguments);
+  const QJSValue last = count > 0 ? arguments.property(count - 1) : QJSValue();
+  const bool isPlain =
+      last.isObject() && !last.isArray() && !last.isCallable() && !last.isDate() && !m_values.objectOf(last);
+  if (!function || !function->takesOptions || !isPlain) {
+    return m_values.listFromScript(arguments);
+  }
+  QJsonObject options;
+  for (QJSValueIterator each(last); each.next();) {
+    const QJSValue value = each.value();
+    if (value.isString() || value.isNumber() || value.isBool()) {
+      options.insert(each.name(), QJsonValue::fromVariant(value.toVariant()));
+    }
+  }
+  QJSValue rewritten = m_engine->newArray(count);
+  for (quint32 i = 0; i + 1 < count; ++i) {
+    rewritten.setProperty(i, arguments.property(i));
+  }
+  rewritten.setProperty(count - 1, QString::fromUtf8(QJsonDocument(options).toJson(QJsonDocument::Compact)));
+  return m_values.listFromScript(rewritten);
+}
+
+bool ScriptBridge::hasNews() {
+  if (m_takeNews) {
+    const std::vector<HostNews> news = m_takeNews();
+    m_news.insert(m_news.end(), news.begin(), news.end());
+  }
+  return !m_news.empty();
+}
+
+void ScriptBridge::tellNews(const QString& stack) {
+  for (const HostNews& news : std::exchange(m_news, {})) {
+    if (news.isFailure) {
+      m_checks.fail(news.text, m_files->traceOf(stack));
+    } else {
+      m_listener->log(news.text);
+    }
+  }
+}
+
+void ScriptBridge::tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs) {
+  if (m_waiting == 0) {
+    m_listener->step(stepText(name, arguments), durationMs);
+  }
 }
 
 QJSValue ScriptBridge::checkNames() const { return scriptArray(Checks::names()); }
@@ -271,6 +336,35 @@ QJSValue ScriptBridge::readTable(const QString& path) {
     rows.setProperty(static_cast<quint32>(i), row);
   }
   return rows;
+}
+
+void ScriptBridge::checkWait(const QString& name, const QJSValue& arguments) {
+  const QString error = m_waits.whyNot(name, entriesOf(arguments));
+  if (!error.isEmpty()) {
+    m_engine->throwError(error);
+  }
+}
+
+QJSValue ScriptBridge::wait(const QString& name, const QJSValue& arguments, const QJSValue& attempt) {
+  QElapsedTimer timer;
+  timer.start();
+  ++m_waiting;
+  const Waits::Answer answer =
+      m_waits.wait(name, entriesOf(arguments), attempt, [this](const QJSValue& thrown) { return errorText(thrown); });
+  --m_waiting;
+  tellStep(name, arguments, timer.elapsed());
+  if (answer.failed()) {
+    m_engine->throwError(answer.error);
+  }
+  return answer.value;
+}
+
+bool ScriptBridge::areEqual(const QJSValue& a, const QJSValue& b) {
+  const FunctionCallResult<Difference> difference = firstDifference(m_values, a, b);
+  if (difference.failed()) {
+    m_engine->throwError(difference.error);
+  }
+  return !difference.failed() && difference.value.isNone;
 }
 
 QJSValue ScriptBridge::source(const QString& path, const QString& stack) {

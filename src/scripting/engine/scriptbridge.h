@@ -9,6 +9,7 @@
 #include "scripting/engine/scriptfiles.h"
 #include "scripting/functions/checks.h"
 #include "scripting/functions/globalfunctions.h"
+#include "scripting/functions/waits.h"
 #include "scripting/objects/membercalls.h"
 #include "scripting/objects/values.h"
 #include "scripting/scriptfunction.h"
@@ -64,6 +65,9 @@ public:
 
   Q_INVOKABLE QJSValue functionNames() const;
   Q_INVOKABLE QJSValue callFunction(const QString& name, const QJSValue& arguments);
+  /// Whether something happened beside the script; tells it to the listener, as what came at this place.
+  Q_INVOKABLE bool hasNews();
+  Q_INVOKABLE void tellNews(const QString& stack);
   Q_INVOKABLE QJSValue checkNames() const;
   Q_INVOKABLE QJSValue callCheck(const QString& name, const QJSValue& arguments, const QString& stack);
   /// Counts a check that the prelude has made.
@@ -75,6 +79,11 @@ public:
   Q_INVOKABLE QJSValue environment() const;
   /// The rows of a table, as an array of objects; of a JSON file its text.
   Q_INVOKABLE QJSValue readTable(const QString& path);
+  /// Throws what is wrong with the arguments of a function that waits.
+  Q_INVOKABLE void checkWait(const QString& name, const QJSValue& arguments);
+  /// See `Waits::wait`. The steps of the attempts are not told.
+  Q_INVOKABLE QJSValue wait(const QString& name, const QJSValue& arguments, const QJSValue& attempt);
+  Q_INVOKABLE bool areEqual(const QJSValue& a, const QJSValue& b);
   /// Runs another script file in the same scope. Answers an object: whether it
   /// `failed`, and the `error` that it threw.
   Q_INVOKABLE QJSValue source(const QString& path, const QString& stack);
@@ -82,7 +91,9 @@ public:
 private:
   QJSValue scriptArray(const QStringList& texts) const;
   QJSValue scriptObject(const QMap<QString, QString>& texts) const;
+  FunctionCallResult<ObjectList> argumentsFor(const ScriptFunction* function, const QJSValue& arguments);
   QJSValue finished(const ObjectResult& result);
+  void tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs);
   QString stepText(const QString& name, const QJSValue& arguments) const;
 
   QJSEngine* m_engine;
@@ -98,6 +109,10 @@ private:
   ScriptErrors m_errors;
   GlobalFunctions m_functions;
   Checks m_checks;
+  Waits m_waits;
+  std::function<std::vector<HostNews>()> m_takeNews;
+  std::vector<HostNews> m_news;
+  int m_waiting = 0;
 };
 
 }  // namespace Corvex::Scripting

@@ -14,8 +14,8 @@ namespace Corvex::Scripting {
 namespace {
 
 // In the order in which they run. Each is a function of the bridge and the global object.
-const char* const preludeFiles[] = {"objects.js",   "guards.js", "json.js",        "classes.js",
-                                    "functions.js", "checks.js", "environment.js", "testfunctions.js"};
+const char* const preludeFiles[] = {"objects.js", "guards.js",      "json.js",          "classes.js", "functions.js",
+                                    "checks.js",  "environment.js", "testfunctions.js", "waiting.js"};
 
 const QString setUpFunction = QStringLiteral("setUp");
 const QString tearDownFunction = QStringLiteral("tearDown");
@@ -127,6 +127,9 @@ bool ScriptRun::call(const QString& name, Outcome* outcome) {
 
 bool ScriptRun::noteEnd(const Evaluation& evaluation, Outcome* outcome) {
   m_interruption->resume();
+  if (m_bridge.hasNews()) {
+    m_bridge.tellNews(QString());
+  }
   m_bridge.checks().closeGroups();
   if (m_bridge.checks().takeSkip() || !evaluation.failed) {
     return !evaluation.failed;

@@ -37,6 +37,8 @@ public:
 
   /// "test.verify" and so on.
   static QStringList names();
+  /// A check that fails without the script.
+  void fail(const QString& text, const ScriptTrace& trace) { note(false, text, trace); }
   Answer call(const QString& name, const QJSValueList& arguments, const ScriptTrace& trace);
   /// Counts a check; answers whether it has passed.
   bool note(bool passed, const QString& text, const ScriptTrace& trace);

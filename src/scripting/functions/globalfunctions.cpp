@@ -66,6 +66,11 @@ const ScriptFunction& GlobalFunctions::functionFor(const ScriptFunction& functio
   return function.yields && replaced != m_replaced.constEnd() && function.yields(arguments) ? *replaced : function;
 }
 
+const ScriptFunction* GlobalFunctions::find(const QString& name) const {
+  const auto found = m_functions.constFind(name);
+  return found == m_functions.constEnd() ? nullptr : &*found;
+}
+
 ObjectResult GlobalFunctions::call(const QString& name, const ObjectList& arguments) const {
   const auto found = m_functions.constFind(name);
   if (found == m_functions.constEnd()) {

@@ -19,6 +19,8 @@ public:
   GlobalFunctions(const ScriptHost& host, const FunctionContext& context);
 
   const QStringList& names() const { return m_names; }
+  /// Null for a global method of the object model.
+  const ScriptFunction* find(const QString& name) const;
   /// A name that is not among `names` is an error.
   ObjectResult call(const QString& name, const ObjectList& arguments) const;
 

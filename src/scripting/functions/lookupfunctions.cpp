@@ -1,5 +1,3 @@
-#include <limits>
-
 #include "corvexhook/arrayclass.h"
 #include "corvexhook/inspector.h"
 #include "scripting/functions/targets.h"
@@ -22,17 +20,9 @@ ObjectResult waitForObject(const FunctionCall& call) {
   if (!isText(call.arguments[0])) {
     return nameError(call);
   }
-  int timeoutMs = Inspector::self()->defaultTimeout();
-  if (call.arguments.size() > 1) {
-    const SharedPtr<Object> time = call.arguments[1];
-    if (!isNumber(time) || time->toDouble() < 0 || time->toDouble() > std::numeric_limits<int>::max()) {
-      return ObjectResult::failure(
-          QStringLiteral("waitForObject: the time to wait must be a number of milliseconds, but got %1.")
-              .arg(describeValue(time)));
-    }
-    timeoutMs = static_cast<int>(time->toDouble());
-  }
-  return look(call, call.arguments[0]->toString(), timeoutMs);
+  const FunctionCallResult<int> timeoutMs = timeToWait(call, 1);
+  return timeoutMs.failed() ? ObjectResult::failure(timeoutMs.error)
+                            : look(call, call.arguments[0]->toString(), timeoutMs.value);
 }
 
 ObjectResult findAllObjects(const FunctionCall& call) {

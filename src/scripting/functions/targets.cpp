@@ -1,6 +1,7 @@
 #include "scripting/functions/targets.h"
 
 #include <QVariant>
+#include <limits>
 
 #include "corvexhook/inspector.h"
 #include "corvexhook/primitives.h"
@@ -36,6 +37,19 @@ ObjectResult outcome(const SharedPtr<Object>& value) {
 }
 
 bool isText(const SharedPtr<Object>& value) { return primitiveValue(value).type() == QVariant::String; }
+
+FunctionCallResult<int> timeToWait(const FunctionCall& call, int index) {
+  using Result = FunctionCallResult<int>;
+  const SharedPtr<Object> time = index < call.arguments.size() ? call.arguments[index] : nullptr;
+  if (!time) {
+    return Result::success(Inspector::self()->defaultTimeout());
+  }
+  if (!isNumber(time) || time->toDouble() < 0 || time->toDouble() > std::numeric_limits<int>::max()) {
+    return Result::failure(QStringLiteral("%1: the time to wait must be a number of milliseconds, but got %2.")
+                               .arg(QLatin1String(call.function), describeValue(time)));
+  }
+  return Result::success(static_cast<int>(time->toDouble()));
+}
 
 bool isNumber(const SharedPtr<Object>& value) {
   const QVariant::Type type = primitiveValue(value).type();

@@ -27,6 +27,9 @@ Target awaitedTarget(const FunctionCall& call, const SharedPtr<Object>& argument
 /// The same for what needs no input: looks once, where hidden objects count, too.
 Target presentTarget(const FunctionCall& call, const SharedPtr<Object>& argument);
 
+/// The milliseconds that the argument at this place gives, if there is one, else the default time.
+FunctionCallResult<int> timeToWait(const FunctionCall& call, int index);
+
 /// Calls a method of a target, which has to have it.
 ObjectResult callOn(const FunctionCall& call, const char* method, const Target& target, const ObjectList& arguments);
 /// Calls a method of the awaited first argument with the others.

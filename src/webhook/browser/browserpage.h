@@ -2,13 +2,17 @@
 
 #include "shared/functioncallresult.h"
 #include "shared/javascriptanswer.h"
+#include "webhook/protocol/consolemessage.h"
+#include "webhook/protocol/cookie.h"
 #include "webhook/protocol/dialog.h"
 #include "webhook/protocol/inputstep.h"
 
 #include <QImage>
 #include <QObject>
+#include <QSize>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 #include <optional>
 
 namespace Corvex::Webhook {
@@ -34,6 +38,11 @@ public:
   /// Loads `url` and waits for its load event. A question of the old page whether to leave it is answered with yes.
   virtual QString navigate(const QString& url, int timeoutMs = 0) = 0;
 
+  /// The same for the page that is there once more, and for one of the pages before and after it: `steps` is how many
+  /// pages to go on, or below 0, to go back.
+  virtual QString reload(int timeoutMs = 0) = 0;
+  virtual QString goThroughHistory(int steps, int timeoutMs = 0) = 0;
+
   /// Has `text` run at document start of every top document from the next one on, before the page's own scripts and
   /// after those that were added before. It runs in the global scope, and in no frame.
   virtual QString addStartScript(const QString& text) = 0;
@@ -51,9 +60,23 @@ public:
   /// taken it. What the input leads to is no error: a dialog, another document, the page's end.
   virtual QString perform(const InputSteps& steps) = 0;
 
-  /// Where the page is on its way to another document, waits until that is there or does not come; but not for ever,
-  /// since not all browsers tell of the latter.
+  /// Where the page is on its way to another document, waits until that is there, its scripts have run, or it does not
+  /// come; but not for ever, since not all browsers tell of the latter.
   virtual void awaitNavigation() = 0;
+
+  /// What the page wrote to its console and its uncaught errors, in all of its documents so far, the oldest first. Of
+  /// very many the last ones, of a very long text its beginning.
+  virtual QVector<ConsoleMessage> consoleMessages() const = 0;
+
+  /// The cookies that the browser sends for the page's address, and how to give it another one. `deleteCookies` deletes
+  /// those that `cookies` gives.
+  virtual FunctionCallResult<QVector<Cookie>> cookies() = 0;
+  virtual QString setCookie(const Cookie& cookie) = 0;
+  virtual QString deleteCookies() = 0;
+
+  /// Makes the part of the page that is in view as large as this, in CSS pixels, each of `pixelRatio` screen pixels, of
+  /// as many as before with 0.
+  virtual QString setViewport(const QSize& size, double pixelRatio) = 0;
 
   virtual std::optional<Dialog> openDialog() const = 0;
 
@@ -76,6 +99,7 @@ Q_SIGNALS:
   /// Another document took the place of the top document; whatever was known of the old one is void.
   void navigated(const QString& url);
   void dialogOpened();
+  void consoleWritten(const Corvex::Webhook::ConsoleMessage& message);
   /// The page is gone, by itself, by close(), or with its browser.
   void closed(const QString& reason);
   /// The page's process ended. The page stays and can be navigated again.

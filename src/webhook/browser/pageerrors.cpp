@@ -96,6 +96,21 @@ QString notLoadedWithin(const QString& url, int milliseconds) {
       .arg(url, QString::number(milliseconds));
 }
 
+QString errorPageLoaded(const QString& url) {
+  return QStringLiteral("The page '%1' could not be loaded: the browser shows an error page. Check the server.")
+      .arg(url);
+}
+
+QString noSuchHistory(int steps) {
+  return steps < 0 ? QStringLiteral("There is no page to go back to: this is the first one of its window.")
+                   : QStringLiteral("There is no page to go forward to: this is the last one of its window.");
+}
+
+QString notReachedWithin(int steps, int milliseconds) {
+  return QStringLiteral("The page %1 this one was not loaded within %2 ms. Check the server or allow more time.")
+      .arg(steps < 0 ? QStringLiteral("before") : QStringLiteral("after"), QString::number(milliseconds));
+}
+
 QString whyNotUpload(const QString& path) {
   const QFileInfo file(path);
   const QString why = !file.exists()       ? QStringLiteral("there is no such file. Give a path that exists.")
@@ -117,5 +132,18 @@ QString filesRefused(const QStringList& paths, const QString& browsersWords) {
 }
 
 QString noScreenshot() { return QStringLiteral("The browser sent no readable image of the page. Try again."); }
+
+QString noCookies(const QString& url) {
+  return QStringLiteral("The page '%1' has no host, so it can have no cookies. Open a page of a server first.")
+      .arg(url);
+}
+
+QString cookieRefused(const QString& name, const QString& browsersWords) {
+  const QString why = browsersWords.isEmpty() ? QString() : QStringLiteral(": ") + browsersWords;
+  return QStringLiteral(
+             "The browser refused the cookie '%1'%2. Check its name, domain and path, and that a secure one "
+             "is set on a page of https.")
+      .arg(name, why);
+}
 
 }  // namespace Corvex::Webhook::PageErrors

@@ -24,6 +24,11 @@ QString refused(const QString& browsersWords);
 /// `errorCode` in the browser's words, such as "net::ERR_CONNECTION_REFUSED" or "NS_ERROR_CONNECTION_REFUSED".
 QString notLoaded(const QString& url, const QString& errorCode);
 QString notLoadedWithin(const QString& url, int milliseconds);
+/// The browser showed a page of its own in its place, and did not tell why.
+QString errorPageLoaded(const QString& url);
+/// `steps` are those of BrowserPage::goThroughHistory().
+QString noSuchHistory(int steps);
+QString notReachedWithin(int steps, int milliseconds);
 
 /// Why a file of this machine cannot be given to a page, "" when it can.
 QString whyNotUpload(const QString& path);
@@ -31,5 +36,8 @@ QString noFileInput(const QString& referenceExpression);
 /// `paths` are those of another machine.
 QString filesRefused(const QStringList& paths, const QString& browsersWords);
 QString noScreenshot();
+QString noCookies(const QString& url);
+/// `browsersWords` may be empty.
+QString cookieRefused(const QString& name, const QString& browsersWords);
 
 }  // namespace Corvex::Webhook::PageErrors

@@ -7,8 +7,15 @@ void PageLoading::expect(const QString& document) {
   check();
 }
 
-void PageLoading::noteSameDocument() {
+void PageLoading::expectAny(const std::function<bool(const QString& url)>& isMeantWithinDocument) {
+  m_expectsAny = true;
+  m_isMeantWithinDocument = isMeantWithinDocument;
+  check();
+}
+
+void PageLoading::noteSameDocument(const QString& url) {
   m_sameDocument = true;
+  m_isMeant = m_isMeant || (m_isMeantWithinDocument && m_isMeantWithinDocument(url));
   check();
 }
 
@@ -31,14 +38,21 @@ void PageLoading::fail(const QString& error) {
 }
 
 void PageLoading::check() {
-  if (!m_expected) {
-    return;
-  }
-  const bool there = m_expected->isEmpty() ? m_sameDocument
-                                           : m_documents.contains(*m_expected) && m_loaded.contains(m_documents.last());
-  if (there) {
+  if (isThere()) {
+    m_error = isComplete() ? m_error : m_errorOnceLoaded;
     complete();
   }
+}
+
+bool PageLoading::isThere() const {
+  const bool isLoaded = !m_documents.isEmpty() && m_loaded.contains(m_documents.last());
+  if (m_expectsAny) {
+    return isLoaded || m_isMeant;
+  }
+  if (!m_expected) {
+    return false;
+  }
+  return m_expected->isEmpty() ? m_sameDocument : isLoaded && m_documents.contains(*m_expected);
 }
 
 }  // namespace Corvex::Webhook

@@ -5,13 +5,23 @@
 #include "webhook/browser/pageerrors.h"
 
 #include <QFileInfo>
+#include <QUrl>
 #include <algorithm>
 
 namespace Corvex::Webhook {
 
 namespace {
 
-const int longestNavigationMs = 5000;
+constexpr int longestNavigationMs = 5000;
+constexpr int consoleLimit = 1000;
+constexpr int consoleTextLimit = 10000;
+
+/// Whether this system's own scripts caused it: the start scripts end with an error where they are not to run, and the
+/// hook script tells what a page keeps it from, or its policy does.
+bool isOwn(const ConsoleMessage& message) {
+  return message.text.contains(QLatin1String("__corvex__topPageOnly")) ||
+         message.text.contains(QLatin1String("/?debuglog=")) || message.text.startsWith(QLatin1String("Ooops: "));
+}
 
 }  // namespace
 
@@ -42,6 +52,22 @@ QString ProtocolPage::whyUnavailable() const {
 }
 
 QString ProtocolPage::navigate(const QString& url, int timeoutMs) {
+  return go({Destination::Address, url, 0}, timeoutMs);
+}
+
+QString ProtocolPage::reload(int timeoutMs) { return go({Destination::SamePage, m_url, 0}, timeoutMs); }
+
+QString ProtocolPage::goThroughHistory(int steps, int timeoutMs) {
+  const QPointer<ProtocolPage> self(this);
+  const QString error = go({Destination::History, m_url, steps}, timeoutMs);
+  if (!self || !error.isEmpty() || !isStartPage()) {
+    return error;
+  }
+  go({Destination::History, m_url, -steps}, timeoutMs);
+  return PageErrors::noSuchHistory(steps);
+}
+
+QString ProtocolPage::go(const Destination& destination, int timeoutMs) {
   if (!m_whyClosed.isEmpty()) {
     return m_whyClosed;
   }
@@ -53,7 +79,7 @@ QString ProtocolPage::navigate(const QString& url, int timeoutMs) {
   const QPointer<ProtocolPage> self(this);
   const auto loading = std::make_shared<PageLoading>();
   m_loadings.push_back(loading);
-  const Reply reply = loadAndWait(call, url, *loading);
+  const Reply reply = loadAndWait(call, destination, *loading);
   if (self) {
     m_loadings.erase(std::find(m_loadings.begin(), m_loadings.end(), loading));
   }
@@ -61,12 +87,14 @@ QString ProtocolPage::navigate(const QString& url, int timeoutMs) {
     if (self) {
       stopLoading();
     }
-    return PageErrors::notLoadedWithin(url, call.milliseconds());
+    return destination.kind == Destination::History
+               ? PageErrors::notReachedWithin(destination.steps, call.milliseconds())
+               : PageErrors::notLoadedWithin(destination.url, call.milliseconds());
   }
   if (!loading->error().isEmpty()) {
     return loading->error();
   }
-  return reply.status == Reply::Refused ? PageErrors::notLoaded(url, reply.error) : call.errorOf(reply);
+  return reply.status == Reply::Refused ? PageErrors::notLoaded(destination.url, reply.error) : call.errorOf(reply);
 }
 
 QString ProtocolPage::setFiles(const QString& referenceExpression, const QStringList& paths) {
@@ -84,6 +112,55 @@ QString ProtocolPage::setFiles(const QString& referenceExpression, const QString
   }
   PageCall call = makeCall(0);
   return putFiles(call, referenceExpression, fullPaths);
+}
+
+FunctionCallResult<QVector<Cookie>> ProtocolPage::cookies() {
+  if (!m_whyClosed.isEmpty()) {
+    return {{}, m_whyClosed};
+  }
+  PageCall call = makeCall(0);
+  const QPointer<ProtocolPage> self(this);
+  const Reply reply = call.ask(cookieList());
+  return self && reply.isAnswered() ? FunctionCallResult<QVector<Cookie>>::success(readCookies(reply.result))
+                                    : FunctionCallResult<QVector<Cookie>>::failure(call.errorOf(reply));
+}
+
+QString ProtocolPage::setCookie(const Cookie& cookie) {
+  if (!m_whyClosed.isEmpty()) {
+    return m_whyClosed;
+  }
+  Cookie whole = cookie;
+  whole.domain = cookie.domain.isEmpty() ? QUrl(m_url).host() : cookie.domain;
+  if (whole.domain.isEmpty()) {
+    return PageErrors::noCookies(m_url);
+  }
+  PageCall call = makeCall(0);
+  const QPointer<ProtocolPage> self(this);
+  const Reply reply = call.ask(cookieSetting(cookie.domain.isEmpty() ? whole : cookie));
+  const bool isRefused = reply.status == Reply::Refused || (self && reply.isAnswered() && !isCookieSet(reply.result));
+  return isRefused ? PageErrors::cookieRefused(cookie.name, reply.error) : call.errorOf(reply);
+}
+
+QString ProtocolPage::deleteCookies() {
+  const QPointer<ProtocolPage> self(this);
+  const FunctionCallResult<QVector<Cookie>> all = cookies();
+  QString error = all.error;
+  for (const Cookie& cookie : all.value) {
+    if (self && error.isEmpty()) {
+      PageCall call = makeCall(0);
+      error = call.errorOf(call.ask(cookieDeletion(cookie)));
+    }
+  }
+  return error;
+}
+
+QString ProtocolPage::setViewport(const QSize& size, double pixelRatio) {
+  const QString obstacle = whyUnavailable();
+  if (!obstacle.isEmpty()) {
+    return obstacle;
+  }
+  PageCall call = makeCall(0);
+  return call.errorOf(call.ask(viewportSetting(size, pixelRatio)));
 }
 
 QString ProtocolPage::perform(const InputSteps& steps) {
@@ -177,7 +254,6 @@ void ProtocolPage::noteCrashed() {
 void ProtocolPage::takeDocument(const QString& document, const QString& url) {
   m_url = url;
   m_crashed = false;
-  noteNavigationEnded();
   for (const auto& loading : m_loadings) {
     loading->noteDocument(document);
   }
@@ -193,6 +269,19 @@ void ProtocolPage::takeDialog(const Dialog& dialog) {
   ++m_dialogCount;
   endOpenCalls(PageErrors::dialogOpen(dialog));
   Q_EMIT dialogOpened();
+}
+
+void ProtocolPage::takeConsoleMessage(ConsoleMessage message) {
+  if (isOwn(message)) {
+    return;
+  }
+  message.text.truncate(consoleTextLimit);
+  message.url.truncate(consoleTextLimit);
+  if (m_console.size() >= consoleLimit) {
+    m_console.removeFirst();
+  }
+  m_console.append(message);
+  Q_EMIT consoleWritten(message);
 }
 
 void ProtocolPage::endOpenCalls(const QString& error) {

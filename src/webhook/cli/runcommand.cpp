@@ -26,6 +26,8 @@ const QCommandLineOption junitOption(QStringLiteral("junit"), QStringLiteral("Wr
 const QCommandLineOption objectMapOption(QStringLiteral("object-map"),
                                          QStringLiteral("Take the symbolic names of objects from this file."),
                                          QStringLiteral("file"));
+const QCommandLineOption failOnPageErrorOption(QStringLiteral("fail-on-page-error"),
+                                               QStringLiteral("Count an uncaught error of a page as a failed check."));
 const QCommandLineOption verboseOption(QStringLiteral("verbose"), QStringLiteral("Show the calls of objects, too."));
 
 const QCommandLineOption inputOption(
@@ -53,6 +55,7 @@ struct RunOptions {
   int scriptTimeoutMs = 0;
   QString junitFile;
   InputSettings input;
+  bool failOnPageError = false;
   bool verbose = false;
 };
 
@@ -93,6 +96,7 @@ QString readInput(const QCommandLineParser& parser, InputSettings* input) {
 QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
   QString error = readBrowserOptions(parser, &options->session);
   options->junitFile = parser.value(junitOption);
+  options->failOnPageError = parser.isSet(failOnPageErrorOption);
   options->verbose = parser.isSet(verboseOption);
   if (error.isEmpty() && parser.isSet(scriptTimeoutOption)) {
     error = readSeconds(parser, scriptTimeoutOption, &options->scriptTimeoutMs);
@@ -116,6 +120,7 @@ int runScripts(const RunOptions& options) {
                           options.verbose ? ConsoleReporter::Detail::ObjectCalls : ConsoleReporter::Detail::Steps);
   JUnitReporter junit(options.junitFile);
   BrowserControl browser(options.session, options.input);
+  browser.setFailOnPageError(options.failOnPageError);
   ListenerGroup listeners;
   listeners.add(&browser);
   listeners.add(&console);
@@ -155,8 +160,8 @@ int runScriptsCommand(const QStringList& arguments) {
       "Exit code: 0 all passed or skipped, 1 a script failed or the results could not be written, 2 wrong usage,\n"
       "3 the browser could not be started or was lost."));
   addBrowserOptions(parser);
-  parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, argumentOption, filterOption,
-                     scriptTimeoutOption, verboseOption});
+  parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, failOnPageErrorOption, argumentOption,
+                     filterOption, scriptTimeoutOption, verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."),
                                QStringLiteral("The scripts, in JavaScript, or folders of them."));
   if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {

@@ -89,12 +89,24 @@ QString Connection::greetDocument() {
 }
 
 QString Connection::navigate(const QString& url, int timeoutMs) {
+  return go(url, [&](BrowserPage& page) { return page.navigate(url, timeoutMs); });
+}
+
+QString Connection::reload() {
+  return go(address(), [](BrowserPage& page) { return page.reload(); });
+}
+
+QString Connection::goThroughHistory(int steps) {
+  return go(QString(), [steps](BrowserPage& page) { return page.goThroughHistory(steps); });
+}
+
+QString Connection::go(const QString& url, const std::function<QString(BrowserPage&)>& leave) {
   if (!m_page) {
     return closedPage();
   }
   m_contextName.clear();
   Q_EMIT navigating(url);
-  const QString error = m_page->navigate(url, timeoutMs);
+  const QString error = leave(*m_page);
   if (!error.isEmpty()) {
     return error;
   }
@@ -108,7 +120,7 @@ QString Connection::navigate(const QString& url, int timeoutMs) {
   }
   return why.isEmpty() || m_greeted
              ? QString()
-             : QStringLiteral("The page '%1' was loaded, but its scripts could not be reached: %2").arg(url, why);
+             : QStringLiteral("The page '%1' was loaded, but its scripts could not be reached: %2").arg(address(), why);
 }
 
 bool Connection::setContext(const QString& name) {

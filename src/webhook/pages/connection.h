@@ -27,6 +27,9 @@ public:
   QString install();
   /// Loads a page and sees to it that it is hooked.
   QString navigate(const QString& url, int timeoutMs = 0);
+  /// The same for the page that is there, and for those before and after it; see `BrowserPage`.
+  QString reload();
+  QString goThroughHistory(int steps);
   /// Closes the page.
   QString close();
   bool isOpen() const;
@@ -78,6 +81,8 @@ Q_SIGNALS:
   void navigating(const QString& url);
 
 private:
+  /// Has the page go elsewhere by `leave`, which answers why it could not, and sees to it that it is hooked there.
+  QString go(const QString& url, const std::function<QString(BrowserPage&)>& leave);
   JavaScriptAnswer ask(const QString& code, unsigned int timeoutMs);
   /// Makes a document that was not asked anything yet ready for questions. Answers why it is not, or an empty text.
   QString greetDocument();

@@ -17,6 +17,7 @@ const char* const events[] = {
     "browsingContext.navigationCommitted",
     "browsingContext.navigationFailed",
     "browsingContext.downloadWillBegin",
+    "browsingContext.domContentLoaded",
     "browsingContext.fragmentNavigated",
     "browsingContext.historyUpdated",
     "browsingContext.load",
@@ -77,7 +78,8 @@ WireMessage readEvent(const QJsonObject& object) {
   message.method = textAt(object, "method");
   message.content = objectAt(object, "params");
   if (!isOfBrowser(message.method)) {
-    message.session = textAt(message.content, "context");
+    const QString context = textAt(message.content, "context");
+    message.session = context.isEmpty() ? textAt(objectAt(message.content, "source"), "context") : context;
   }
   message.kind = message.method.isEmpty() ? WireMessage::Malformed : WireMessage::Event;
   return message;
@@ -216,6 +218,22 @@ Command navigate(const QString& page, const QString& url) {
 
 QString readNavigation(const QJsonObject& answer) { return textAt(answer, "navigation"); }
 
+Command reload(const QString& page) {
+  return ofPage("browsingContext.reload", page, {{QStringLiteral("wait"), QStringLiteral("none")}});
+}
+
+Command goThroughHistory(const QString& page, int steps) {
+  return ofPage("browsingContext.traverseHistory", page, {{QStringLiteral("delta"), steps}});
+}
+
+bool isHistoryMissing(const QString& refusal) { return refusal.startsWith(QLatin1String("no such history entry")); }
+
+bool isStartPage(const QString& url) {
+  static const QStringList addresses{QStringLiteral("about:blank"), QStringLiteral("data:,"),
+                                     QStringLiteral("data:text/html,")};
+  return addresses.contains(url);
+}
+
 QString readNavigationError(const QString& refusal) {
   const bool isAddressWrong = refusal.startsWith(QLatin1String("invalid argument"));
   return isAddressWrong ? QStringLiteral("Cannot navigate to invalid URL") : refusal;
@@ -224,6 +242,11 @@ QString readNavigationError(const QString& refusal) {
 Document readDocument(const QJsonObject& event) { return {textAt(event, "navigation"), textAt(event, "url")}; }
 
 bool isCrashNotice(const Document& document) { return document.url.startsWith(QLatin1String("about:tabcrashed")); }
+
+bool isErrorPage(const Document& document) {
+  return document.url.startsWith(QLatin1String("about:neterror")) ||
+         document.url.startsWith(QLatin1String("about:certerror"));
+}
 
 QString readNewRealm(const QJsonObject& event) {
   const bool isPlain = textAt(event, "type") == QLatin1String("window") && textAt(event, "sandbox").isEmpty();
@@ -284,6 +307,15 @@ std::optional<QJsonObject> readRefusedException(const QString& refusal) {
                               {QStringLiteral("value"), refusal.mid(words.size())}};
   return QJsonObject{{QStringLiteral("type"), QStringLiteral("exception")},
                      {QStringLiteral("exceptionDetails"), QJsonObject{{QStringLiteral("exception"), exception}}}};
+}
+
+Command setViewport(const QString& page, const QSize& size, double pixelRatio) {
+  const QJsonObject viewport{{QStringLiteral("width"), size.width()}, {QStringLiteral("height"), size.height()}};
+  QJsonObject parameters{{QStringLiteral("viewport"), viewport}};
+  if (pixelRatio > 0) {
+    parameters.insert(QStringLiteral("devicePixelRatio"), pixelRatio);
+  }
+  return ofPage("browsingContext.setViewport", page, parameters);
 }
 
 Command screenshot(const QString& page, bool wholePage) {

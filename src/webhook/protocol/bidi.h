@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QStringList>
 #include <optional>
 
@@ -52,6 +53,12 @@ Command addStartScript(const QString& page, const QString& script);
 /// Answered as soon as the document takes the place of the old one.
 Command navigate(const QString& page, const QString& url);
 QString readNavigation(const QJsonObject& answer);
+Command reload(const QString& page);
+/// Answered at once, whatever becomes of it.
+Command goThroughHistory(const QString& page, int steps);
+bool isHistoryMissing(const QString& refusal);
+/// Whether it is what a browser's first window shows before it is told what to show.
+bool isStartPage(const QString& url);
 /// Why a refused navigation did not come about, in short.
 QString readNavigationError(const QString& refusal);
 
@@ -63,6 +70,8 @@ struct Document {
 Document readDocument(const QJsonObject& event);
 /// Whether it is what Firefox shows in place of a page whose process ended.
 bool isCrashNotice(const Document& document);
+/// Whether it is what Firefox shows in place of a page that it could not load.
+bool isErrorPage(const Document& document);
 
 // A page: evaluation.
 
@@ -99,6 +108,8 @@ std::optional<QJsonObject> readRefusedException(const QString& refusal);
 
 // A page: the other verbs.
 
+/// A ratio of 0 leaves it as it is.
+Command setViewport(const QString& page, const QSize& size, double pixelRatio);
 Command screenshot(const QString& page, bool wholePage);
 QByteArray readScreenshot(const QJsonObject& answer);
 Command setFiles(const QString& pageOrFrame, const QString& sharedId, const QStringList& paths);

@@ -130,6 +130,28 @@ Command addStartScript(const QString& script) { return startScript(StartScript::
 
 Command navigate(const QString& url) { return command("Page.navigate", {{QStringLiteral("url"), url}}); }
 
+Command reload() { return command("Page.reload"); }
+
+Command listHistory() { return command("Page.getNavigationHistory"); }
+
+std::optional<HistoryEntry> readHistory(const QJsonObject& answer, int steps) {
+  const QJsonArray entries = answer.value(QLatin1String("entries")).toArray();
+  const int index = answer.value(QLatin1String("currentIndex")).toInt() + steps;
+  if (index < 0 || index >= entries.size()) {
+    return {};
+  }
+  const QJsonObject entry = entries.at(index).toObject();
+  const QString url = textAt(entry, "url");
+  if (index == 0 && url == QLatin1String("about:blank")) {
+    return {};
+  }
+  return HistoryEntry{entry.value(QLatin1String("id")).toInt(), url};
+}
+
+Command goToHistory(const HistoryEntry& entry) {
+  return command("Page.navigateToHistoryEntry", {{QStringLiteral("entryId"), entry.id}});
+}
+
 Command stopLoading() { return command("Page.stopLoading"); }
 
 Navigation readNavigation(const QJsonObject& answer) {
@@ -141,7 +163,9 @@ std::optional<NewDocument> readNewDocument(const QJsonObject& event) {
   if (frame.contains(QLatin1String("parentId"))) {
     return {};
   }
-  return NewDocument{textAt(frame, "loaderId"), textAt(frame, "url") + textAt(frame, "urlFragment")};
+  const QString unreachable = textAt(frame, "unreachableUrl");
+  const QString url = unreachable.isEmpty() ? textAt(frame, "url") : unreachable;
+  return NewDocument{textAt(frame, "loaderId"), url + textAt(frame, "urlFragment"), !unreachable.isEmpty()};
 }
 
 bool leavesDocument(const QJsonObject& event, const QString& page) {
@@ -185,6 +209,13 @@ Outcome readOutcome(const QJsonObject& answer) {
 }
 
 Command metrics() { return command("Page.getLayoutMetrics"); }
+
+Command setViewport(const QSize& size, double pixelRatio) {
+  return command("Emulation.setDeviceMetricsOverride", {{QStringLiteral("width"), size.width()},
+                                                        {QStringLiteral("height"), size.height()},
+                                                        {QStringLiteral("deviceScaleFactor"), pixelRatio},
+                                                        {QStringLiteral("mobile"), false}});
+}
 
 double readZoom(const QJsonObject& answer) {
   return objectAt(answer, "cssVisualViewport").value(QLatin1String("zoom")).toDouble(1.0);

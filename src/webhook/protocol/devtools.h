@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QStringList>
 #include <optional>
 
@@ -40,6 +41,16 @@ Command resumePage();
 /// `script` runs at document start of every new top document, in the global scope.
 Command addStartScript(const QString& script);
 Command navigate(const QString& url);
+Command reload();
+Command listHistory();
+/// The page that is `steps` pages after the one that is shown, from the answer to listHistory(). Nothing when there is
+/// none; the page that a window without an opener begins with counts as none.
+struct HistoryEntry {
+  int id = 0;
+  QString url;
+};
+std::optional<HistoryEntry> readHistory(const QJsonObject& answer, int steps);
+Command goToHistory(const HistoryEntry& entry);
 Command stopLoading();
 
 struct Navigation {
@@ -52,6 +63,7 @@ Navigation readNavigation(const QJsonObject& answer);
 struct NewDocument {
   QString document;
   QString url;
+  bool isErrorPage = false;  ///< The browser's own, in place of one that could not be loaded.
 };
 std::optional<NewDocument> readNewDocument(const QJsonObject& event);
 
@@ -79,6 +91,8 @@ Outcome readOutcome(const QJsonObject& answer);
 // A page: the other verbs.
 
 Command metrics();
+/// A ratio of 0 is the screen's.
+Command setViewport(const QSize& size, double pixelRatio);
 /// Zoom that the user or the driver set, from the answer to metrics().
 double readZoom(const QJsonObject& answer);
 /// `contents`: the answer to metrics() for the whole page, nothing for the part that is in view.

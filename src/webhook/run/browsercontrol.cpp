@@ -15,6 +15,9 @@ namespace {
 
 const int loadIntervalMs = 20;
 
+// Between two calls of a script: a page may throw without end.
+const size_t mostNews = 100;
+
 }  // namespace
 
 BrowserControl::BrowserControl(const SessionOptions& options, const InputSettings& input)
@@ -43,9 +46,35 @@ QString BrowserControl::startBrowser(const QString& address) {
     closeBrowser();
     return error;
   }
-  const QString loadError = m_windows->current()->navigate(resolveAddress(address));
-  m_loadIsHeld = !loadError.isEmpty() && m_windows->current() && m_windows->current()->openDialog();
-  return m_loadIsHeld ? QString() : loadError;
+  return openUrl(address);
+}
+
+QString BrowserControl::openUrl(const QString& address) {
+  const QString url = resolveAddress(address);
+  return load([&url](Connection& window) { return window.navigate(url); });
+}
+
+QString BrowserControl::reload() {
+  return load([](Connection& window) { return window.reload(); });
+}
+
+QString BrowserControl::goThroughHistory(int steps) {
+  return load([steps](Connection& window) { return window.goThroughHistory(steps); });
+}
+
+QString BrowserControl::load(const std::function<QString(Connection&)>& go) {
+  const QString noWindow = whyNoWindow();
+  if (!noWindow.isEmpty()) {
+    return noWindow;
+  }
+  // A page that crashed cannot be asked, but leaves for another one all the same.
+  const QString dialog = m_dialogs->whyNotAskPage(*m_windows->current());
+  if (!dialog.isEmpty()) {
+    return dialog;
+  }
+  const QString error = go(*m_windows->current());
+  m_loadIsHeld = !error.isEmpty() && m_windows && m_windows->current() && m_windows->current()->openDialog();
+  return m_loadIsHeld ? QString() : error;
 }
 
 void BrowserControl::finishLoad() {
@@ -81,7 +110,23 @@ QString BrowserControl::openSession() {
     m_lossReason = reason;
     m_browserFailure = true;
   });
+  watchConsole(m_session->firstPage());
+  QObject::connect(m_session.get(), &BrowserSession::pageOpened, m_windows.get(),
+                   [this](BrowserPage* page) { watchConsole(page); });
   return m_windows->open();
+}
+
+void BrowserControl::watchConsole(BrowserPage* page) {
+  QObject::connect(page, &BrowserPage::consoleWritten, m_windows.get(), [this](const ConsoleMessage& message) {
+    if (!message.isUncaught || m_news.size() >= mostNews) {
+      return;
+    }
+    const QString place = message.url.isEmpty()
+                              ? QStringLiteral("a place that is not known")
+                              : QStringLiteral("%1:%2").arg(message.url, QString::number(message.line));
+    m_news.push_back(
+        {QStringLiteral("Uncaught error of a page at %1: %2").arg(place, message.text), m_failsOnPageError});
+  });
 }
 
 QString BrowserControl::closeWindow() {

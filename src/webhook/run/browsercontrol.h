@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scripting/scriptfunction.h"
 #include "scripting/scriptlistener.h"
 #include "webhook/browser/browsersession.h"
 #include "webhook/endpoint/endpoint.h"
@@ -14,6 +15,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace Corvex::Webhook {
@@ -27,7 +29,12 @@ public:
   /// Starts a browser, in place of one that runs, and opens a page in it. A dialog of the page that keeps it from being
   /// loaded is no error: the script is to answer it.
   QString startBrowser(const QString& address);
-  /// Lets the page of `startBrowser` load to its end if a dialog held it, as far as its next dialog.
+  /// Has the current window go to a page; the rest is as with `startBrowser`.
+  QString openUrl(const QString& address);
+  QString reload();
+  /// See `BrowserPage::goThroughHistory`.
+  QString goThroughHistory(int steps);
+  /// Lets the page of the last of these load to its end if a dialog held it, as far as its next dialog.
   void finishLoad();
   /// Closes the current window.
   QString closeWindow();
@@ -50,6 +57,11 @@ public:
   /// For the running script; the next one begins with those of the run.
   InputSettings& input() { return m_input; }
 
+  /// Whether an error that a page did not catch is a failed check of the script.
+  void setFailOnPageError(bool isWanted) { m_failsOnPageError = isWanted; }
+  /// The uncaught errors of pages since the last call.
+  std::vector<Scripting::HostNews> takeNews() { return std::exchange(m_news, {}); }
+
   /// A path as the running script means it: relative to its own folder.
   QString resolvePath(const QString& path) const;
 
@@ -58,6 +70,8 @@ public:
 
 private:
   QString openSession();
+  void watchConsole(BrowserPage* page);
+  QString load(const std::function<QString(Connection&)>& go);
   QString resolveAddress(const QString& address) const;
 
   SessionOptions m_options;
@@ -76,6 +90,8 @@ private:
   bool m_loadIsHeld = false;
   InputSettings m_inputOfRun;
   InputSettings m_input;
+  bool m_failsOnPageError = false;
+  std::vector<Scripting::HostNews> m_news;
 };
 
 }  // namespace Corvex::Webhook

@@ -8,6 +8,8 @@
 #include "webhook/run/filedialog.h"
 #include "webhook/run/inputfunctions.h"
 #include "webhook/run/nativefunctions.h"
+#include "webhook/run/navigationfunctions.h"
+#include "webhook/run/pagefunctions.h"
 #include "webhook/run/pageobject.h"
 #include "webhook/run/pictures.h"
 #include "wrappers/web/values/jsobject.h"
@@ -171,10 +173,11 @@ Scripting::ScriptHost browserFunctions(BrowserControl& control) {
         {QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments, row.maxArguments,
          [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }, row.takesNull});
   }
-  for (const Scripting::ScriptFunction& function : inputFunctions(control)) {
-    host.functions.push_back(function);
+  for (const auto& family : {inputFunctions(control), navigationFunctions(control), pageFunctions(control)}) {
+    host.functions.insert(host.functions.end(), family.begin(), family.end());
   }
   host.pictureOf = [&control](const SharedPtr<Object>& object) { return objectPicture(control, object); };
+  host.takeNews = [&control] { return control.takeNews(); };
   return host;
 }
 

@@ -21,7 +21,11 @@
 
   bridge.functionNames().forEach(function (name) {
     install(name, function () {
-      return bridge.callFunction(name, list(arguments));
+      var result = bridge.callFunction(name, list(arguments));
+      if (bridge.hasNews()) {
+        bridge.tellNews(stack());
+      }
+      return result;
     });
   });
 

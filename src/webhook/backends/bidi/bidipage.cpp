@@ -3,14 +3,37 @@
 #include "webhook/backends/bidi/bidievaluation.h"
 #include "webhook/backends/bidi/bidisession.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/bidiconsole.h"
 #include "webhook/protocol/bidiinput.h"
 #include "webhook/protocol/devtools.h"
 #include "webhook/protocol/startscript.h"
 
+#include <QUrl>
+#include <algorithm>
+
 namespace Corvex::Webhook {
 
+namespace {
+
+constexpr int historyIntervalMs = 50;
+
+/// Whether the browser sends the cookie for the address.
+bool isFor(const Cookie& cookie, const QUrl& url) {
+  const QString host = QLatin1Char('.') + url.host();
+  const bool hostFits =
+      cookie.domain.startsWith(QLatin1Char('.')) ? host.endsWith(cookie.domain) : url.host() == cookie.domain;
+  const QString path = url.path().isEmpty() ? QStringLiteral("/") : url.path();
+  const QString folder = cookie.path.endsWith(QLatin1Char('/')) ? cookie.path : cookie.path + QLatin1Char('/');
+  return hostFits && (path == cookie.path || path.startsWith(folder));
+}
+
+}  // namespace
+
 BidiPage::BidiPage(Channel& channel, BidiSession& session, const Bidi::Context& context)
-    : ProtocolPage(channel, session, context.id, context.url), m_bidiSession(session), m_context(context.id) {
+    : ProtocolPage(channel, session, context.id, context.url),
+      m_bidiSession(session),
+      m_context(context.id),
+      m_hasOpener(!context.opener.isEmpty()) {
   channel.subscribe(m_context, this,
                     [this](const QString& method, const QJsonObject& parameters) { takeEvent(method, parameters); });
   m_devTools = channel.start({}, Bidi::devToolsSession(m_context));
@@ -20,7 +43,9 @@ BidiPage::~BidiPage() { m_realmThere->complete(); }
 
 void BidiPage::watchFrame(const QString& frame) {
   channel().subscribe(frame, this, [this](const QString& method, const QJsonObject& parameters) {
-    if (method.startsWith(QLatin1String("browsingContext.userPrompt"))) {
+    const bool isOfPage =
+        method.startsWith(QLatin1String("browsingContext.userPrompt")) || method.startsWith(QLatin1String("log."));
+    if (isOfPage) {
       takeEvent(method, parameters);
     }
   });
@@ -68,8 +93,12 @@ void BidiPage::endRunningCode() {
   start(Bidi::throughDevTools(devTools, DevTools::evaluate(QStringLiteral("0"), {}, 1000)));
 }
 
-Reply BidiPage::loadAndWait(PageCall& call, const QString& url, PageLoading& loading) {
-  Reply reply = call.ask(Bidi::navigate(m_context, url));
+Reply BidiPage::loadAndWait(PageCall& call, const Destination& destination, PageLoading& loading) {
+  if (destination.kind == Destination::History) {
+    return goThroughHistoryAndWait(call, destination.steps, loading);
+  }
+  const bool isAddress = destination.kind == Destination::Address;
+  Reply reply = call.ask(isAddress ? Bidi::navigate(m_context, destination.url) : Bidi::reload(m_context));
   if (reply.status == Reply::Refused) {
     reply.error = Bidi::readNavigationError(reply.error);
   }
@@ -81,6 +110,42 @@ Reply BidiPage::loadAndWait(PageCall& call, const QString& url, PageLoading& loa
     reply.status = Reply::TimeOver;
   }
   return reply;
+}
+
+Reply BidiPage::goThroughHistoryAndWait(PageCall& call, int steps, PageLoading& loading) {
+  loading.expectAny([](const QString&) { return true; });
+  Reply reply = call.ask(Bidi::goThroughHistory(m_context, steps));
+  if (reply.status == Reply::Refused && Bidi::isHistoryMissing(reply.error)) {
+    loading.fail(PageErrors::noSuchHistory(steps));
+  }
+  if (!reply.isAnswered()) {
+    return reply;
+  }
+  const QPointer<BidiPage> self(this);
+  while (!loading.isComplete() && !call.deadline().hasExpired()) {
+    waitFor(loading, QDeadlineTimer(std::min(call.remainingMilliseconds(), historyIntervalMs)));
+    if (self && !loading.isComplete()) {
+      lookForWayWithinDocument(call);
+    }
+  }
+  if (!loading.isComplete()) {
+    reply.status = Reply::TimeOver;
+  }
+  return reply;
+}
+
+void BidiPage::lookForWayWithinDocument(PageCall& call) {
+  const QPointer<BidiPage> self(this);
+  const QString before = url();
+  const Reply reply = call.ask(Bidi::evaluate({m_context, m_realm}, QStringLiteral("location.href")));
+  const Bidi::Outcome address = Bidi::readOutcome(reply.result);
+  if (!self || !reply.isAnswered() || address.thrown || address.text == before || url() != before) {
+    return;
+  }
+  takeUrl(address.text);
+  for (const auto& loading : loadings()) {
+    loading->noteSameDocument(address.text);
+  }
 }
 
 void BidiPage::stopLoading() {
@@ -178,6 +243,23 @@ QString BidiPage::giveInput(PageCall& call, const InputSteps& steps) {
   return error;
 }
 
+QVector<Cookie> BidiPage::readCookies(const QJsonObject& answer) const {
+  QVector<Cookie> ofPage;
+  for (const Cookie& cookie : Bidi::readCookies(answer)) {
+    if (isFor(cookie, QUrl(url()))) {
+      ofPage.append(cookie);
+    }
+  }
+  return ofPage;
+}
+
+Command BidiPage::viewportSetting(const QSize& size, double pixelRatio) {
+  if (pixelRatio > 0) {
+    m_plainPixelRatio = pixelRatio;
+  }
+  return Bidi::setViewport(m_context, size, pixelRatio);
+}
+
 Command BidiPage::dialogAnswer(bool accept, const QString& text) const {
   const std::optional<Dialog> dialog = openDialog();
   const bool isPrompt = dialog && dialog->kind == QLatin1String("prompt");
@@ -197,6 +279,7 @@ void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
       {QStringLiteral("browsingContext.navigationStarted"), &BidiPage::onNavigationStarted},
       {QStringLiteral("browsingContext.navigationFailed"), &BidiPage::onNavigationEnded},
       {QStringLiteral("browsingContext.downloadWillBegin"), &BidiPage::onNavigationEnded},
+      {QStringLiteral("browsingContext.domContentLoaded"), &BidiPage::onNavigationEnded},
       {QStringLiteral("browsingContext.fragmentNavigated"), &BidiPage::onNavigatedWithinDocument},
       {QStringLiteral("browsingContext.historyUpdated"), &BidiPage::onNavigatedWithinDocument},
       {QStringLiteral("browsingContext.load"), &BidiPage::onLoad},
@@ -206,6 +289,8 @@ void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
   };
   if (const Handler handler = handlers.value(method)) {
     (this->*handler)(parameters);
+  } else if (const std::optional<ConsoleMessage> message = Bidi::readConsoleMessage(method, parameters)) {
+    takeConsoleMessage(*message);
   }
 }
 
@@ -215,6 +300,11 @@ void BidiPage::onNavigationCommitted(const QJsonObject& parameters) {
   if (Bidi::isCrashNotice(document)) {
     noteCrashed();
     return;
+  }
+  for (const auto& loading : loadings()) {
+    if (Bidi::isErrorPage(document) && loading->expectsAny()) {
+      loading->fail(PageErrors::errorPageLoaded(document.url));
+    }
   }
   takeDocument(document.navigation, document.url);
 }
@@ -226,6 +316,9 @@ void BidiPage::onNavigationEnded(const QJsonObject&) { noteNavigationEnded(); }
 void BidiPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
   const Bidi::Document document = Bidi::readDocument(parameters);
   takeUrl(document.url);
+  for (const auto& loading : loadings()) {
+    loading->noteSameDocument(document.url);
+  }
   if (document.navigation.isEmpty()) {
     return;
   }

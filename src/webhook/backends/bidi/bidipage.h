@@ -3,6 +3,7 @@
 #include "webhook/backends/bidi/bidievaluation.h"
 #include "webhook/browser/protocolpage.h"
 #include "webhook/protocol/bidi.h"
+#include "webhook/protocol/bidicookies.h"
 
 namespace Corvex::Webhook {
 
@@ -29,7 +30,7 @@ public:
 
   const QString& contextId() const { return m_context; }
 
-  /// Has the dialogs of a frame reported here, too.
+  /// Has the dialogs and the console of a frame reported here, too.
   void watchFrame(const QString& frame);
 
   /// Whether the browser knows it by this DevTools session.
@@ -38,9 +39,18 @@ public:
 
 private:
   PlaceNow placeNow();
-  Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
+  Reply loadAndWait(PageCall& call, const Destination& destination, PageLoading& loading) override;
+  Reply goThroughHistoryAndWait(PageCall& call, int steps, PageLoading& loading);
+  /// Firefox does not tell when it goes to another part of the document that is there. Looks whether it has done so.
+  void lookForWayWithinDocument(PageCall& call);
+  bool isStartPage() const override { return !m_hasOpener && Bidi::isStartPage(url()); }
   void stopLoading() override;
   QString giveInput(PageCall& call, const InputSteps& steps) override;
+  Command cookieList() const override { return Bidi::listCookies(m_context); }
+  QVector<Cookie> readCookies(const QJsonObject& answer) const override;
+  Command cookieSetting(const Cookie& cookie) const override { return Bidi::setCookie(m_context, cookie); }
+  Command cookieDeletion(const Cookie& cookie) const override { return Bidi::deleteCookie(m_context, cookie); }
+  Command viewportSetting(const QSize& size, double pixelRatio) override;
   Command dialogAnswer(bool accept, const QString& text) const override;
   bool takesFilesOfThisMachine() const override;
   QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) override;
@@ -62,6 +72,7 @@ private:
 
   BidiSession& m_bidiSession;
   const QString m_context;
+  const bool m_hasOpener;
   QString m_realm;  ///< Of the document that is there, if it is known.
   std::shared_ptr<Pending> m_realmThere = std::make_shared<Pending>();
   QString m_document;  ///< The navigation that brought it.

@@ -5,6 +5,7 @@
 #include "webhook/backends/bidi/firefox.h"
 #include "webhook/backends/bidi/webdriver.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/bidiconsole.h"
 #include "webhook/protocol/startscript.h"
 #include "webhook/protocol/websockettransport.h"
 
@@ -83,6 +84,7 @@ QString BidiSession::open(const QJsonObject* capabilities, const QDeadlineTimer&
     return QStringLiteral("The browser cannot be driven: %1. Use a newer one.").arg(watched.error);
   }
   channel().start({}, Bidi::watchCrashes());
+  channel().start({}, Bidi::watchConsole());
   const Reply listed = channel().call({}, Bidi::listPages(), deadline);
   for (const Bidi::Context& context : Bidi::readPages(listed.result)) {
     takePage(context);

@@ -3,8 +3,22 @@
 #include "webhook/backends/devtools/devtoolsevaluation.h"
 #include "webhook/browser/browsersession.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/devtoolsconsole.h"
+
+#include <QUrl>
 
 namespace Corvex::Webhook {
+
+namespace {
+
+Reply await(PageCall& call, PageLoading& loading, Reply reply) {
+  if (waitFor(loading, call.deadline()) != WaitResult::Complete) {
+    reply.status = Reply::TimeOver;
+  }
+  return reply;
+}
+
+}  // namespace
 
 DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
                            const QStringList& startScripts)
@@ -14,6 +28,7 @@ DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, cons
   for (const Command& command : DevTools::watchPage()) {
     m_watched = start(command);
   }
+  start(DevTools::watchConsole());
   for (const QString& script : startScripts) {
     m_watched = start(DevTools::addStartScript(script));
   }
@@ -29,12 +44,39 @@ JavaScriptAnswer DevToolsPage::evaluate(const QString& code, int timeoutMs) {
   return evaluateCode(call, code);
 }
 
-Reply DevToolsPage::loadAndWait(PageCall& call, const QString& url, PageLoading& loading) {
+Reply DevToolsPage::loadAndWait(PageCall& call, const Destination& destination, PageLoading& loading) {
   // A young page may take the next document in before it takes in what is to be watched.
   const std::shared_ptr<Request> watched = m_watched;
   if (waitFor(*watched, call.deadline()) != WaitResult::Complete) {
     return {Reply::TimeOver, {}, {}};
   }
+  if (destination.kind == Destination::Address) {
+    return navigateAndWait(call, destination.url, loading);
+  }
+  if (destination.kind == Destination::History) {
+    return goThroughHistoryAndWait(call, destination.steps, loading);
+  }
+  loading.expectAny();
+  const Reply reply = call.ask(DevTools::reload());
+  return reply.isAnswered() ? await(call, loading, reply) : reply;
+}
+
+Reply DevToolsPage::goThroughHistoryAndWait(PageCall& call, int steps, PageLoading& loading) {
+  const Reply history = call.ask(DevTools::listHistory());
+  if (!history.isAnswered()) {
+    return history;
+  }
+  const std::optional<DevTools::HistoryEntry> entry = DevTools::readHistory(history.result, steps);
+  if (!entry) {
+    loading.fail(PageErrors::noSuchHistory(steps));
+    return history;
+  }
+  loading.expectAny([&entry](const QString& url) { return url == entry->url; });
+  const Reply reply = call.ask(DevTools::goToHistory(*entry));
+  return reply.isAnswered() ? await(call, loading, reply) : reply;
+}
+
+Reply DevToolsPage::navigateAndWait(PageCall& call, const QString& url, PageLoading& loading) {
   Reply reply = call.ask(DevTools::navigate(url));
   if (!reply.isAnswered()) {
     return reply;
@@ -112,6 +154,15 @@ QString DevToolsPage::giveInput(PageCall& call, const InputSteps& steps) {
   return {};
 }
 
+Command DevToolsPage::cookieSetting(const Cookie& cookie) const {
+  // With a domain the browser makes it one for the hosts below, too.
+  Cookie named = cookie;
+  named.domain = cookie.domain.startsWith(QLatin1Char('.')) ? cookie.domain : QString();
+  const bool isOfPage = cookie.domain == QUrl(url()).host();
+  const QString address = isOfPage ? url() : QStringLiteral("http://") + cookie.domain;
+  return DevTools::setCookie(named.domain.isEmpty() ? address : url(), named);
+}
+
 void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameters) {
   using Handler = void (DevToolsPage::*)(const QJsonObject&);
   static const QHash<QString, Handler> handlers{
@@ -126,6 +177,8 @@ void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameter
   };
   if (const Handler handler = handlers.value(method)) {
     (this->*handler)(parameters);
+  } else if (const std::optional<ConsoleMessage> message = DevTools::readConsoleMessage(method, parameters)) {
+    takeConsoleMessage(*message);
   }
 }
 
@@ -133,6 +186,11 @@ void DevToolsPage::onFrameNavigated(const QJsonObject& parameters) {
   const std::optional<DevTools::NewDocument> document = DevTools::readNewDocument(parameters);
   if (!document) {
     return;
+  }
+  for (const auto& loading : loadings()) {
+    if (document->isErrorPage && loading->expectsAny()) {
+      loading->noteErrorPage(PageErrors::errorPageLoaded(document->url));
+    }
   }
   takeDocument(document->document, document->url);
 }
@@ -144,7 +202,7 @@ void DevToolsPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
   }
   takeUrl(parameters.value(QLatin1String("url")).toString());
   for (const auto& loading : loadings()) {
-    loading->noteSameDocument();
+    loading->noteSameDocument(url());
   }
 }
 
@@ -161,6 +219,9 @@ void DevToolsPage::onStoppedLoading(const QJsonObject& parameters) {
 }
 
 void DevToolsPage::onLifecycleEvent(const QJsonObject& parameters) {
+  if (parameters.value(QLatin1String("name")).toString() == QLatin1String("DOMContentLoaded")) {
+    noteNavigationEnded();
+  }
   if (parameters.value(QLatin1String("name")).toString() != QLatin1String("load")) {
     return;
   }

@@ -2,6 +2,7 @@
 
 #include "webhook/browser/protocolpage.h"
 #include "webhook/protocol/devtools.h"
+#include "webhook/protocol/devtoolscookies.h"
 #include "webhook/protocol/devtoolsinput.h"
 
 namespace Corvex::Webhook {
@@ -24,8 +25,18 @@ public:
   const QString& sessionId() const { return m_sessionId; }
 
 private:
-  Reply loadAndWait(PageCall& call, const QString& url, PageLoading& loading) override;
+  Reply loadAndWait(PageCall& call, const Destination& destination, PageLoading& loading) override;
+  Reply navigateAndWait(PageCall& call, const QString& url, PageLoading& loading);
+  Reply goThroughHistoryAndWait(PageCall& call, int steps, PageLoading& loading);
   void stopLoading() override { start(DevTools::stopLoading()); }
+  Command cookieList() const override { return DevTools::listCookies(url()); }
+  QVector<Cookie> readCookies(const QJsonObject& answer) const override { return DevTools::readCookies(answer); }
+  Command cookieSetting(const Cookie& cookie) const override;
+  bool isCookieSet(const QJsonObject& answer) const override { return DevTools::isCookieSet(answer); }
+  Command cookieDeletion(const Cookie& cookie) const override { return DevTools::deleteCookie(cookie); }
+  Command viewportSetting(const QSize& size, double pixelRatio) override {
+    return DevTools::setViewport(size, pixelRatio);
+  }
   Command dialogAnswer(bool accept, const QString& text) const override { return DevTools::answerDialog(accept, text); }
   QString putFiles(PageCall& call, const QString& referenceExpression, const QStringList& paths) override;
   QString giveInput(PageCall& call, const InputSteps& steps) override;
