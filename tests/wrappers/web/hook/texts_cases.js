@@ -55,3 +55,12 @@ test("a meaning that the page gives to innerText counts, and so does an attribut
   Object.defineProperty(HTMLElement.prototype, "innerText", own);
   return found;
 }, ["0", "0", "0"]);
+
+test("rivals are few, short and in the order of nearness, on big pages too", {}, () => {
+  document.body.innerHTML = "<p title=one>" + "long ".repeat(1000) + "</p><p title=one name=Wanted>short</p>" +
+    "<p title=one>Short</p>" + "<p title=two>none</p>".repeat(10000);
+  const why = __corvex.explainFailedSearch("{tagName='P' title='one' innerText='SHORT' name='wanted'}");
+  return [why.count, why.rivals.map((rival) => [rival.path.replace(/.*\./, ""), rival.differs.map(
+    (differs) => [differs.property, differs.actual.length, differs.isOtherCase].join(" "))])];
+}, [10003, [["P2", ["innerText 5 true", "name 6 true"]], ["P3", ["innerText 5 true", "name 0 false"]],
+  ["P1", ["innerText 63 false", "name 0 false"]]]]);
