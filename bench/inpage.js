@@ -45,6 +45,8 @@ window.inPageBench = (function () {
     fiveThousandAlike: function () { fill(5000, function () { return element("input", { type: "text" }); }); },
     fiveThousandSpans: function () { fill(5000, function () { return element("span", {}, "like"); }); },
     controls: function () { fill(2000, input); },
+    list: function () { fill(10000, function (i) { return element("span", {}, "text " + i); }); },
+    blocks: function () { fill(1000, block); },
     texts: function () { fill(2000, function (i) { return element("span", {}, "text " + i); }); },
     forms: function () { fill(200, block); },
     twentyThousand: function () { fill(20000, input); }
@@ -65,6 +67,22 @@ window.inPageBench = (function () {
         found = all[i];
       }
     }
+  }
+
+  // With no more of the texts than the browser's innerText.
+  function withoutFactories(action) {
+    return function () {
+      var factories = window.__corvex__factoriesOfProperties;
+      window.__corvex__factoriesOfProperties = {};
+      action();
+      window.__corvex__factoriesOfProperties = factories;
+    };
+  }
+
+  // A search by text that finds nothing, with the texts of the extension and without.
+  function textRows(what, page, name) {
+    return [["search by text, " + what + ", innerText alone", page, withoutFactories(search(name)), 5, nothing],
+      ["the same with both texts", page, search(name), 5, nothing]];
   }
 
   function nameLast() {
@@ -128,11 +146,19 @@ window.inPageBench = (function () {
     ["name and find the last of 5,000 like spans", "fiveThousandSpans", nameLast, 1, last, 250],
     ["name and find all of 2,000 inputs", "controls", nameAll, 1, last, 5000],
     ["name and find all of 2,000 spans", "texts", nameAll, 1, last, 5000],
+    ["name and find all of 2,000 spans, innerText alone", "texts", withoutFactories(nameAll), 1, last],
     ["name and find all of 2,000 elements of forms", "forms", nameAll, 1, last, 5000],
     ["objectTreeInformation, 10,000 objects, with its JSON", "inputs", list, 1, last, 300],
     ["objectTreeInformation, 20,000 objects, with its JSON", "twentyThousand", list, 1, last, 600],
     ["child list of 10,000 children", "inputs", childList, 1, last]
-  ];
+  ].concat(
+    textRows("exact", "list", "{tagName='SPAN' simplifiedInnerText='text 1999x'}"),
+    textRows("exact innerText", "list", "{tagName='SPAN' innerText='text 1999x'}"),
+    textRows("pattern", "list", "{tagName='SPAN' innerText?='text 1999?x*'}"),
+    textRows("regular expression", "list", "{tagName='SPAN' innerText~='^text [0-9]+x'}"),
+    textRows("visible", "list", "{visible='true' tagName='SPAN' simplifiedInnerText='text 1999x'}"),
+    textRows("blocks", "blocks", "{tagName='DIV' simplifiedInnerText='Label 17 Link x'}"),
+    textRows("pattern of blocks", "blocks", "{tagName='DIV' innerText?='*Label 17 x*'}"));
 
   function sample(run, repeats) {
     var start = performance.now();

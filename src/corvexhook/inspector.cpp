@@ -79,9 +79,13 @@ void Inspector::removeUnmatchedProperties(const QString& objectName) { m_unmatch
 SharedPtr<Object> Inspector::waitForObject(const QString& name) { return findObject(name, m_defaultTimeout); }
 
 SharedPtr<Object> Inspector::findObject(const QString& name, int timeoutMs) {
+  const qint64 begin = Clock::current().now();
   const SharedPtr<Object> found = timeoutMs > 0 ? waitUntilReady(name, timeoutMs) : lookup(name);
   if (!found && !hasScriptError()) {
-    reportScriptError(notFoundError(name));
+    // An explanation takes its time, too.
+    const qint64 waitedMs = Clock::current().now() - begin;
+    const QString waited = timeoutMs > 0 ? QStringLiteral(" It was waited for during %1 ms.").arg(waitedMs) : QString();
+    reportScriptError(notFoundError(name) + waited);
   }
   return found;
 }

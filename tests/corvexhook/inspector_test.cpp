@@ -160,7 +160,7 @@ TEST_F(InspectorTest, ANameThatCanNeverBeFoundIsRefusedAtOnce) {
   EXPECT_EQ(m_inspector->takeScriptError(), error);
   services.timesAsked = 0;
   EXPECT_FALSE(m_inspector->findObject(text("{a='good'}"), 1000));
-  EXPECT_EQ(m_inspector->takeScriptError(), text("Object '{a='good'}' not found."));
+  EXPECT_EQ(m_inspector->takeScriptError(), text("Object '{a='good'}' not found. It was waited for during 1000 ms."));
   EXPECT_EQ(services.timesAsked, 1) << "waiting asks once";
 }
 

@@ -2,6 +2,7 @@
 
 #include "corvexhook/delegate.h"
 #include "corvexhook/inspector.h"
+#include "shared/visibletext.h"
 #include "webhook/pages/browserwindows.h"
 #include "webhook/pages/windownames.h"
 #include "wrappers/web/lookup/containers.h"
@@ -14,6 +15,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <utility>
@@ -56,6 +58,81 @@ WebWrapper::JavaScriptAnswer askPage(WebWrapper::HTMLComponent& page, const char
       QStringLiteral("JSON.stringify(window.top.__corvex.%1(\"%2\"%3) || {})")
           .arg(QLatin1String(function), WebWrapper::escapeObjectNameForUseAsStringLiteral(name), below);
   return page.evaluateJS(code, explanationTimeoutMs);
+}
+
+QString inQuotes(const QString& text) {
+  const int most = 80;
+  const QString kept = text.size() > most ? text.left(most) + QLatin1String("...") : text;
+  return QLatin1Char('\'') + visibleText(kept, LineBreaks::Shown) + QLatin1Char('\'');
+}
+
+QString wantedValue(const PropertyValue& value) {
+  const char* const pattern = value.modifiers() == PropertyValue::RegExp     ? "the regular expression "
+                              : value.modifiers() == PropertyValue::Wildcard ? "the pattern "
+                                                                             : "";
+  return QLatin1String(pattern) + inQuotes(value.value());
+}
+
+QString difference(const QJsonObject& differs, const ObjectName& name) {
+  const QString property = differs.value(QLatin1String("property")).toString();
+  const bool isOtherCase = differs.value(QLatin1String("isOtherCase")).toBool();
+  return QStringLiteral("%1 is %2, not %3%4")
+      .arg(visibleText(property), inQuotes(differs.value(QLatin1String("actual")).toString()),
+           wantedValue(name.property(property)),
+           isOtherCase ? QStringLiteral(" (only upper and lower case differ)") : QString());
+}
+
+/// The elements that come nearest, and in what they differ.
+QString explainRivals(const QJsonArray& rivals, const ObjectName& name) {
+  QStringList sentences;
+  for (const QJsonValue& rival : rivals) {
+    QStringList differences;
+    for (const QJsonValue& differs : rival.toObject().value(QLatin1String("differs")).toArray()) {
+      differences << difference(differs.toObject(), name);
+    }
+    const QString path = visibleText(rival.toObject().value(QLatin1String("path")).toString(), LineBreaks::Shown);
+    sentences << QStringLiteral("of %1, %2").arg(path, differences.join(QLatin1String(" and ")));
+  }
+  return sentences.isEmpty() ? QString()
+                             : QStringLiteral(" Nearest come: %1.").arg(sentences.join(QLatin1String("; ")));
+}
+
+QString explainClosedFrames(const QJsonArray& frames) {
+  QStringList addresses;
+  for (const QJsonValue& address : frames) {
+    addresses << visibleText(address.toString(), LineBreaks::Shown);
+  }
+  return addresses.isEmpty() ? QString()
+                             : QStringLiteral(" Frames of another origin cannot be searched; the page has: %1.")
+                                   .arg(addresses.join(QLatin1String(", ")));
+}
+
+struct Language {
+  const char* name;
+  const char* looks;
+  const char* advice;
+};
+
+// What other tools take for names.
+const Language languages[] = {
+    {"XPath", "^\\.?//?[\\w*]|\\[@\\w+", ", or ask an object with evaluateXPath"},
+    {"CSS",
+     "^[#.][A-Za-z_][^ ]*|^[\\w-]+\\[[\\w-]+([~|^$*]?=.*)?\\]| > |"
+     "^(a|button|div|form|input|label|li|p|select|span|table|td|tr|ul)[.#:][\\w-]",
+     ""},
+};
+
+/// For a name that reads as a text of another language that selects elements.
+QString explainLanguage(const QString& name) {
+  for (const Language& language : languages) {
+    if (QRegularExpression(QLatin1String(language.looks)).match(name).hasMatch()) {
+      return QStringLiteral(
+                 "It reads as %1, which is no name here. Name the object by its properties in braces, as in "
+                 "{tagName='DIV' id='main'}%2.")
+          .arg(QLatin1String(language.name), QLatin1String(language.advice));
+    }
+  }
+  return QString();
 }
 
 /// What is known of the elements of the tag that were seen; `where` tells where they were looked for.
@@ -109,7 +186,9 @@ QString explainFailedStep(WebWrapper::HTMLComponent& page, const ObjectName& nam
     return QString();
   }
   const QString where = context.isEmpty() ? QString() : QStringLiteral(" in its context");
-  return explainElements(why, name, reference.isEmpty() ? where : QStringLiteral(" in its container"));
+  return explainElements(why, name, reference.isEmpty() ? where : QStringLiteral(" in its container")) +
+         explainRivals(why.value(QLatin1String("rivals")).toArray(), name) +
+         explainClosedFrames(why.value(QLatin1String("frames")).toArray());
 }
 
 QString missingContainer(const QString& container) {
@@ -152,7 +231,7 @@ QString contextOfPath(const QString& path) {
 QString explainPath(const QString& name) {
   const QStringList steps = name.split(QLatin1Char('.'));
   if (!steps.first().startsWith(treeRoot)) {
-    return QString();
+    return explainLanguage(name);
   }
   QString path = steps.first();
   if (!lookUp(path)) {

@@ -63,7 +63,7 @@ TEST_F(ScriptEvents, WrongCallsSayWhatIsWrong) {
       {"'ping'",
        "sendEvent takes 2 to 6 argument(s), but got 1. Use it as sendEvent(event, object[, x, y[, state, button]])."},
       {"'ping', 5, 1, 2", "sendEvent needs an object or its name, but got 5."},
-      {"'ping', \"{id='n'}\", 1, 2", "Object '{id='n'}' not found."},
+      {"'ping', \"{id='n'}\", 1, 2", "Object '{id='n'}' not found. It was waited for during 20000 ms."},
       {"'ping', f, 1, 2, 3", "Event ping(x: int, y: int) got 3 argument(s) after the object."},
       {"'ping', f, 1, '2'", "Event ping(x: int, y: int): argument 'y' must be of type int, but got '2'."},
       {"'ping', \"{id='w'}\", 1, 2", "Widget takes no events."},

@@ -71,7 +71,8 @@ TEST_F(ScriptFunctions, WaitForObjectWaitsUntilFoundAndReady) {
 }
 
 TEST_F(ScriptFunctions, WaitForObjectEndsWhenTheTimeIsOver) {
-  EXPECT_EQ(errorOf("waitForObject(\"{id='none'}\", 300);"), s("1: Object '{id='none'}' not found."));
+  EXPECT_EQ(errorOf("waitForObject(\"{id='none'}\", 300);"),
+            s("1: Object '{id='none'}' not found. It was waited for during 300 ms."));
   EXPECT_GE(clock.nowMs, 300);
   EXPECT_LT(clock.nowMs, 400);
 

@@ -158,8 +158,8 @@ function __corvex__otherPropertyMatches(o, prop, value) {
   return prop.indexOf(".") !== -1 && __corvex__readValueMatches(value, __corvex__valueAtPath(o, prop));
 }
 
-// A function that tells whether an element has this value of this property.
-function __corvex__testOfProperty(prop, value) {
+// As if there were no factories for the property alone.
+function __corvex__plainTestOfProperty(prop, value) {
   if (__corvex__natives.has(__corvex__propertyTests, prop)) {
     var test = __corvex__propertyTests[prop];
     return function (o) {
@@ -171,6 +171,24 @@ function __corvex__testOfProperty(prop, value) {
   };
 }
 
+function __corvex__matcherOfProperty(prop, value, name) {
+  var factoriesOf = window.__corvex__factoriesOfProperties;
+  var factories = __corvex__natives.has(factoriesOf, prop) ? factoriesOf[prop] : [];
+  var matcher;
+  for (var i = 0; i < factories.length && !matcher; ++i) {
+    matcher = factories[i](prop, value, name);
+  }
+  return matcher;
+}
+
+// A function that tells whether an element has this value of this property.
+function __corvex__testOfProperty(prop, value, name) {
+  var matcher = __corvex__matcherOfProperty(prop, value, name);
+  return !matcher ? __corvex__plainTestOfProperty(prop, value) : function (o) {
+    return matcher.matchObject(o);
+  };
+}
+
 function __corvex__matchObject(o, prop, value, name) {
   var hooks = window.__corvex__matchObject__hooks;
   for (var i = 0; i < hooks.length; ++i) {
@@ -179,7 +197,7 @@ function __corvex__matchObject(o, prop, value, name) {
       return accepted;
     }
   }
-  var matches = __corvex__testOfProperty(prop, value)(o);
+  var matches = __corvex__testOfProperty(prop, value, name)(o);
   if (!matches) {
     __corvex__addUnmatchedProperty(name, prop);
   }

@@ -15,6 +15,7 @@ struct ExtensionScript {
 };
 
 /// The files "*.js" of the directory "lib/extensions/web" below `CORVEX_PREFIX` in name order, read anew at each call.
+/// A setting of "webwrapper.ini", "name = false" in the group "Extensions", leaves the file "name.js" out.
 /// One that cannot be read is reported on the standard error stream and counts as empty.
 CORVEX_WEBWRAPPER_EXPORT std::vector<ExtensionScript> extensionScripts();
 

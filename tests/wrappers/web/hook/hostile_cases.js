@@ -206,7 +206,8 @@ test("a function of the page's own that fails where the browser's cannot be aske
   const fails = () => { throw new Error("of the page"); };
   const told = (container) => __corvex.explainFailedSearch("{tagName='P' id='x'}", container);
   return [told({ getElementsByTagName: fails }), told(document.body)];
-}, [{ tag: "P", count: 0, missing: ["id"], replaced: "getElementsByTagName" }, { tag: "P", count: 1, missing: ["id"] }]);
+}, [{ tag: "P", count: 0, missing: ["id"], frames: [], rivals: [], replaced: "getElementsByTagName" },
+  { tag: "P", count: 1, missing: ["id"], frames: [], rivals: [] }]);
 
 // The last one, since nothing puts this page right again.
 test("a page that broke a function of the language for good is told so", { page: '<p title="t"></p>' }, () => {

@@ -42,6 +42,15 @@ test("a hook can accept and cannot refuse", { page: '<p id="a" title="t"></p>' }
   return [["made", "up"], ["made", "no"], ["title", "t"]].map(([property, text]) => matches(el("a"), property, text));
 }, [true, false, true]);
 
+test("a factory for some properties makes their matchers where no other does", {
+  page: '<p id="a" title="t"></p>'
+}, ({ el }) => {
+  Corvex.addPropertyMatcherFactory((property, value, name) => ({
+    matchObject: (o) => o.title + value.value + name === "tupnm"
+  }), ["made"]);
+  return [["made", "up"], ["made", "no"], ["title", "t"]].map(([property, text]) => matches(el("a"), property, text));
+}, [true, false, true]);
+
 test("values: attributes for reserved words and hyphens, empty for what is missing, null as text, the base of SVG", {
   page: '<label id="a" class="c" for="f" aria-checked="mixed">x</label><svg><text id="t" class="big">x</text></svg>'
 }, ({ el }) => ["class", "for", "aria-checked", "nothing", "offsetParent.nothing.more", "style.cssText", "onclick",

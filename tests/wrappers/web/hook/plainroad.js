@@ -116,7 +116,7 @@ window.plainRoad = (function () {
         VALUES.forEach(function (text) {
           [[text, 0], [new RegExp(text), 1]].forEach(function (made) {
             var value = new __corvex__PropValue(made[0], made[1]);
-            var quick = __corvex__testOfProperty(prop, value);
+            var quick = __corvex__plainTestOfProperty(prop, value);
             differences = differences.concat(compareEach(elements, function (o) { return !!quick(o); },
               function (o) { return !!matches(o, prop, value); }));
           });

@@ -81,6 +81,8 @@ window.__corvex__pickableObjectHooks = [];
 window.__corvex__typeOf__hooks = [];
 window.__corvex__eventToStr__hooks = [];
 window.__corvex__matchObject__hooks = [];
+// By property, lists of the factories that are for it alone.
+window.__corvex__factoriesOfProperties = {};
 window.__corvex__propertyMatcherFactories = [
   function (propName, propValue, objectName) {
     return new window.top.__corvex.StandardPropertyMatcher(propName, propValue, objectName);

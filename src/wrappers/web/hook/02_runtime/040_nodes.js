@@ -32,7 +32,7 @@ var __corvex__nodeReader = (function () {
     }
   }
   addReaders("Node", ["nodeType", "nodeName", "parentNode", "ownerDocument", "firstChild", "lastChild", "nextSibling",
-    "previousSibling", "childNodes"]);
+    "previousSibling", "childNodes", "textContent"]);
   addReaders("Element", ["tagName", "id", "className", "shadowRoot"]);
   addReaders("HTMLElement", ["offsetParent", "onclick", "onmousedown"]);
   addReaders("Document", ["links"]);

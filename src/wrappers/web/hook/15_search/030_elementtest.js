@@ -22,7 +22,7 @@ function __corvex__quickElementTest(matchers) {
   var isReported = [];
   var dear = -1;
   for (var i = 0; i < matchers.length; ++i) {
-    tests.push(__corvex__testOfProperty(matchers[i].propName, matchers[i].propValue));
+    tests.push(__corvex__testOfProperty(matchers[i].propName, matchers[i].propValue, matchers[i].objectName));
     isReported.push(!__corvex__wouldReport(matchers[i].objectName, matchers[i].propName));
     dear = matchers[i].propName === "visible" ? i : dear;
   }

@@ -1,6 +1,6 @@
 // Gives: why a name finds nothing: how many elements have its tag, and which of its properties none of them has.
 // Needs: runtime/nodes, runtime/framewalk, runtime/contexts, matching, search/name, search/candidates,
-//   search/properties.
+//   search/properties, search/rivals.
 
 // What is wrong with a name, whatever there is in the page, as the fault of a record; undefined where nothing is.
 window.top.__corvex.faultOfName = function (nm) {
@@ -18,18 +18,22 @@ window.top.__corvex.faultOfName = function (nm) {
 };
 
 function __corvex__newSurvey(map, nm) {
-  return { matchers: __corvex__matchersFor(map, nm), seen: [], errors: [], count: 0, most: 0 };
+  return { matchers: __corvex__matchersFor(map, nm), seen: [], errors: [], count: 0, most: 0, rivals: [],
+    frames: [] };
 }
 
-// Which matchers accept an element at all, and what went wrong where they did not.
+// Which matchers accept an element at all, what went wrong where they did not, and the elements that come near.
 function __corvex__askMatchers(element, survey) {
+  var accepted = [];
   for (var k = 0; k < survey.matchers.length; ++k) {
     try {
-      survey.seen[k] = survey.seen[k] || !!survey.matchers[k].matchObject(element);
+      accepted[k] = !!survey.matchers[k].matchObject(element);
+      survey.seen[k] = survey.seen[k] || accepted[k];
     } catch (e) {
       survey.errors[k] = String(e.message);
     }
   }
+  __corvex__addRival(survey.rivals, element, survey.matchers, accepted);
 }
 
 // How many hits there are for an occurrence to count; 0 where the search fails.
@@ -51,6 +55,9 @@ function __corvex__surveyContainer(container, nm, tagName, survey) {
   for (var i = 0; i < elements.length; ++i) {
     __corvex__askMatchers(elements[i], survey);
   }
+  if (__corvex__isDocumentNode(container)) {
+    __corvex__addClosedFrames(container, survey.frames);
+  }
   survey.count += elements.length;
   survey.most = Math.max(survey.most, __corvex__countHits(container, nm));
 }
@@ -67,7 +74,8 @@ function __corvex__surveyOne(container, nm, tagName, survey) {
 }
 
 function __corvex__surveyAsRecord(survey, map) {
-  var record = { tag: String(map.tagName.value), count: survey.count, missing: [] };
+  var record = { tag: String(map.tagName.value), count: survey.count, missing: [], frames: survey.frames,
+    rivals: __corvex__rivalRecords(survey.rivals, survey.matchers) };
   for (var k = 0; k < survey.matchers.length; ++k) {
     if (!survey.seen[k]) {
       record.missing.push(survey.matchers[k].propName);
@@ -85,8 +93,9 @@ function __corvex__surveyAsRecord(survey, map) {
 
 // A record of: context, the name of one that does not exist; or tag, count (elements of that tag below container, in the
 // context or in all documents), missing (the properties that none of these has), error (why one of these could not be
-// compared), replaced (a function that the page put in place of the browser's, where it failed) and, if an occurrence asks
-// for more, most (the hits there are to count). undefined for a name that has no list of properties, or a fault.
+// compared), rivals (the elements that come nearest), frames (the addresses of those that nobody can look into), replaced
+// (a function that the page put in place of the browser's, where it failed) and, if an occurrence asks for more, most (the
+// hits there are to count). undefined for a name that has no list of properties, or a fault.
 window.top.__corvex.explainFailedSearch = function (nm, container) {
   var map;
   try {

@@ -1,5 +1,5 @@
 // Gives: the functions of Corvex with which an extension registers its hooks, and the list of toolkits.
-// Needs: runtime/state, input/mouseevents, api/objectname, api/forwarders.
+// Needs: runtime/natives, runtime/state, input/mouseevents, api/objectname, api/forwarders.
 
 Corvex.toolkitExtensions = [];
 Corvex.toolkitExtensions.Backbase = { enabled: false };
@@ -38,8 +38,18 @@ Corvex.addMatchObjectHook = function (f) {
   window.__corvex__matchObject__hooks.push(f);
 };
 
-Corvex.addPropertyMatcherFactory = function (f) {
-  window.top.__corvex__propertyMatcherFactories.unshift(f);
+// With a list of properties, f is asked for these alone, after all others: its matcher then takes the place of the standard
+// test. Its answers depend on nothing but the page, so that a search may keep them, and ask in any order.
+Corvex.addPropertyMatcherFactory = function (f, properties) {
+  if (!properties) {
+    window.top.__corvex__propertyMatcherFactories.unshift(f);
+    return;
+  }
+  var factoriesOf = window.__corvex__factoriesOfProperties;
+  for (var i = 0; i < properties.length; ++i) {
+    var others = __corvex__natives.has(factoriesOf, properties[i]) ? factoriesOf[properties[i]] : [];
+    factoriesOf[properties[i]] = [f].concat(others);
+  }
 };
 
 Corvex.addClickHook = function (f) {
