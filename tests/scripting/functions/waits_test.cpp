@@ -52,7 +52,7 @@ TEST_F(ScriptWaits, AWaitInVainTellsWhatItSawLast) {
             s("1: The function given to waitFor answered nothing that counts as true within 50 ms. The last attempt "
               "failed: Object '{id='none'}' not found."));
   EXPECT_EQ(errorOf("waitForValue([{ a: '%3' }], '0.a', '%1', 40);"),
-            s("1: The property '0.a' of [[object Object]] did not become '%1' within 40 ms; it was last '%3'."));
+            s("1: The property '0.a' of [{a: '%3'}] did not become '%1' within 40 ms; it was last '%3'."));
   EXPECT_EQ(errorOf("waitForUrl('x*', 40);"), s("1: The address did not fit 'x*' within 40 ms; it was last "
                                                 "'http://a/'."));
 }
