@@ -8,6 +8,7 @@
 #include "wrappers/web/object/wraphtmlobject.h"
 
 #include <QVariant>
+#include <cmath>
 
 namespace Corvex::Webhook {
 
@@ -23,10 +24,20 @@ struct ReasonRow {
 const ReasonRow reasonRows[] = {
     {"gone", "it is no longer in the page"},
     {"hidden", "it is hidden, or has no size"},
+    {"beyond", "the position is outside of it"},
     {"disabled", "it is disabled"},
     {"moving", "it keeps moving"},
     {"outside", "it cannot be scrolled into view"},
 };
+
+// In pixels; no page is that large.
+const double farthest = 1e6;
+
+/// A name as it stands in a sentence, however long a page makes it.
+QString shown(const QString& name) {
+  const int most = 500;
+  return name.size() <= most ? name : name.left(most) + QLatin1String("...");
+}
 
 }  // namespace
 
@@ -75,7 +86,7 @@ QString ActionTarget::whyNotUnique() const {
   for (int i = 0; i < all.size() && i < most; ++i) {
     const WebWrapper::HTML_Object* const element = WebWrapper::retrieveObject(all.at(i));
     const QString code = QStringLiteral("unescape(__corvex__nameOf(%1))");
-    names << (element ? element->evaluateJS(code.arg(element->reference)).text : QString());
+    names << (element ? shown(element->evaluateJS(code.arg(element->reference)).text) : QString());
   }
   return QStringLiteral("The name '%1' fits %2 objects, so that none was %3. Use the name of one:\n  %4%5")
       .arg(m_givenName, QString::number(all.size()), QLatin1String(m_action), names.join(QLatin1String("\n  ")),
@@ -116,9 +127,13 @@ QString ActionTarget::attempt(const std::optional<QPointF>& place, bool presses,
   }
   if (m_needsPage || words.size() != 3 || words[0] != QLatin1String("at")) {
     m_isDone = m_needsPage;
-    return m_needsPage ? QString() : isGone ? QStringLiteral("gone") : answer.text;
+    return m_needsPage ? QString() : isGone ? QStringLiteral("gone") : words[0];
   }
-  const QString error = act({words[1].toDouble(), words[2].toDouble()});
+  const QPointF point(words[1].toDouble(), words[2].toDouble());
+  if (!(std::abs(point.x()) < farthest && std::abs(point.y()) < farthest)) {
+    return QStringLiteral("outside");
+  }
+  const QString error = act(point);
   // Where the page went meanwhile, nobody can tell any more what was met.
   const bool isAvailable = error.isEmpty() && presses && connection().isAvailable();
   const bool isCovered =
@@ -130,14 +145,14 @@ QString ActionTarget::attempt(const std::optional<QPointF>& place, bool presses,
 
 QString ActionTarget::reasonFor(const QString& state) const {
   if (state == QLatin1String("covered")) {
-    return QStringLiteral("it is covered by '%1'").arg(ask(QStringLiteral("__corvex__coverName()")).text);
+    return QStringLiteral("it is covered by '%1'").arg(shown(ask(QStringLiteral("__corvex__coverName()")).text));
   }
   for (const ReasonRow& row : reasonRows) {
     if (state == QLatin1String(row.state)) {
       return QLatin1String(row.reason);
     }
   }
-  return state;
+  return QStringLiteral("its page does not tell where it is");
 }
 
 Connection& ActionTarget::connection() const { return *static_cast<Connection*>(m_element->component); }
@@ -149,7 +164,7 @@ JavaScriptAnswer ActionTarget::ask(const QString& code) const {
 QString ActionTarget::perform(const InputSteps& steps) const { return connection().perform(steps); }
 
 QString ActionTarget::name() const {
-  return m_givenName.isEmpty() ? ask(QStringLiteral("unescape(__corvex__nameOf(%1))")).text : m_givenName;
+  return shown(m_givenName.isEmpty() ? ask(QStringLiteral("unescape(__corvex__nameOf(%1))")).text : m_givenName);
 }
 
 QString ActionTarget::failure(const QString& why) const {

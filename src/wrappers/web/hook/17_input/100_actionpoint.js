@@ -120,6 +120,11 @@ var __corvex__actionPoint = (function () {
     return now - looked.since < frameMs && mayMove(o);
   }
 
+  function isInside(o, x, y) {
+    var box = __corvex__askNode.Element.getBoundingClientRect(o);
+    return x >= 0 && y >= 0 && x <= box.width && y <= box.height;
+  }
+
   function isDisabled(o) {
     try {
       return o.matches(":disabled");
@@ -128,7 +133,7 @@ var __corvex__actionPoint = (function () {
     }
   }
 
-  // "at X Y" in the top window's view, or why not: "gone", "hidden", "disabled", "moving", "covered", "outside"; and "page"
+  // "at X Y" in the top window's view, or why not: "gone", "hidden", "beyond", "disabled", "moving", "covered", "outside"; and "page"
   // for what the browser shows in a way of its own. x and y are from the element's corner, or null for a point of its own
   // choice. attempt counts from 0.
   return function (o, x, y, attempt) {
@@ -148,6 +153,9 @@ var __corvex__actionPoint = (function () {
     }
     if (!rectOf(o) || !__corvex__isVisibleByStyle(o)) {
       return "hidden";
+    }
+    if (x !== null && !isInside(o, x, y)) {
+      return "beyond";
     }
     if (isDisabled(o)) {
       return "disabled";
