@@ -116,7 +116,12 @@ QString mouseWheel(const Call& call) {
 
 QString dragTo(const Call& call) { return call.pointer().drag(call.object(), call.arguments[1]); }
 
-QString setChecked(const Call& call) { return call.pointer().setChecked(call.object(), call.arguments[1]->toBool()); }
+QString setChecked(const Call& call) {
+  if (primitiveValue(call.arguments[1]).type() != QVariant::Bool) {
+    return QStringLiteral("setChecked takes true or false as its second argument.");
+  }
+  return call.pointer().setChecked(call.object(), call.arguments[1]->toBool());
+}
 
 QString typeText(const Call& call) { return call.typing().typeText(call.object(), call.arguments[1]->toString()); }
 

@@ -29,6 +29,8 @@ retrieveJSObject("slide(); clearLog()");
 mouseClick(element("BUTTON", "b"));
 test.compare(retrieveJSObject("document.getElementById('b').getAnimations().length"), 0, "it waited for the animation");
 
+verifyFails(function () { mouseClick(element("BUTTON", "b"), 3, 500); }, "the position is outside of it.");
+
 retrieveJSObject("document.getElementById('b').disabled = true");
 verifyFails(function () { mouseClick(findObject(element("BUTTON", "b"))); }, "it is disabled.");
 retrieveJSObject("setTimeout(function () { document.getElementById('b').disabled = false; }, 200)");
