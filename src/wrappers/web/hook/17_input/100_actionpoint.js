@@ -134,8 +134,8 @@ var __corvex__actionPoint = (function () {
   }
 
   // "at X Y" in the top window's view, or why not: "gone", "hidden", "beyond", "disabled", "moving", "covered", "outside";
-  // and "page" for what the browser shows in a way of its own. x and y are from the element's corner, or null for a point of its own
-  // choice. attempt counts from 0.
+  // and "page" for what the browser shows in a way of its own. x and y are from the element's corner, or null for a point
+  // of its own choice. attempt counts from 0.
   return function (o, x, y, attempt) {
     if (!o || __corvex__nodeReader.nodeType(o) !== 1) {
       return "page";
