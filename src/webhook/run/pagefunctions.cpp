@@ -134,7 +134,7 @@ ScriptValue localStorageItem(BrowserControl& control, const ObjectList& argument
 }
 
 ScriptValue setLocalStorageItem(BrowserControl& control, const ObjectList& arguments) {
-  const SharedPtr<Object> value = arguments[1];
+  const SharedPtr<Object>& value = arguments[1];
   const QString name = quoted(arguments[0]->toString());
   const QString code = value ? QStringLiteral("Storage.prototype.setItem.call(window.localStorage, %1, %2)")
                                    .arg(name, quoted(value->toString()))
