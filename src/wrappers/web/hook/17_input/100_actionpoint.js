@@ -7,12 +7,14 @@ var __corvex__actionPoint = (function () {
   var scrollIntoView = __corvex__nativeFunction(window.Element && Element.prototype.scrollIntoView);
   var animationsOf = __corvex__nativeFunction(window.Document && Document.prototype.getAnimations);
   var frameMs = 17;
+  // After that the page is one for which the browser draws no frames.
+  var framelessMs = 300;
   // Centre first; then what a cover that is smaller than the element may leave.
   var places = [[0.5, 0.5], [0.25, 0.5], [0.75, 0.5], [0.5, 0.25], [0.5, 0.75], [0.1, 0.1], [0.9, 0.1], [0.1, 0.9],
     [0.9, 0.9]];
   // Pages keep headers at the top and bars at the bottom, so what is covered in one place may be free in another.
   var alignments = ["center", "end", "start"];
-  var looked = { object: null, rect: "", since: 0 };
+  var looked = { object: null, rect: "", since: 0, frame: 0 };
 
   function viewOf(o) {
     return __corvex__nodeReader.ownerDocument(o).defaultView;
@@ -84,16 +86,29 @@ var __corvex__actionPoint = (function () {
     }
   }
 
-  // What moves by itself does it by an animation of the browser, or by styles that the page writes.
-  function mayMove(o) {
+  function animationOf(o) {
     var doc = __corvex__nodeReader.ownerDocument(o);
     var animations = animationsOf ? animationsOf.call(doc) : [];
     for (var i = 0; i < animations.length; ++i) {
       var effect = animations[i].effect;
       if (animations[i].playState === "running" && effect && effect.target &&
           __corvex__hitTarget.isWithin(o, effect.target)) {
-        return true;
+        return animations[i];
       }
+    }
+    return null;
+  }
+
+  // In its first moments an animation has moved nothing yet.
+  function isBeginning(o) {
+    var animation = animationOf(o);
+    return !!animation && (animation.pending || !(animation.currentTime > 3 * frameMs));
+  }
+
+  // What moves by itself does it by an animation of the browser, or by styles that the page writes.
+  function mayMove(o) {
+    if (animationOf(o)) {
+      return true;
     }
     for (var e = o; e && e.nodeType !== 9; e = __corvex__hitTarget.parentOf(e)) {
       var style = e.style;
@@ -109,15 +124,22 @@ var __corvex__actionPoint = (function () {
     return [box.left, box.top, box.width, box.height].join(" ");
   }
 
+  // Changes with each frame; a busy browser may draw none for a while.
+  function frameTime(o) {
+    var timeline = __corvex__nodeReader.ownerDocument(o).timeline;
+    return timeline ? timeline.currentTime : __corvex__natives.milliseconds();
+  }
+
   // It stands still when a look at least a frame ago saw it in the same place.
   function isMoving(o) {
     var rect = rectText(o);
     var now = __corvex__natives.milliseconds();
     if (looked.object !== o || looked.rect !== rect) {
-      looked = { object: o, rect: rect, since: now };
+      looked = { object: o, rect: rect, since: now, frame: frameTime(o) };
       return mayMove(o);
     }
-    return now - looked.since < frameMs && mayMove(o);
+    var isSeen = now - looked.since >= frameMs && frameTime(o) !== looked.frame && !isBeginning(o);
+    return !isSeen && now - looked.since < framelessMs && mayMove(o);
   }
 
   function isInside(o, x, y) {
