@@ -12,6 +12,7 @@
 #include "webhook/run/pagefunctions.h"
 #include "webhook/run/pageobject.h"
 #include "webhook/run/pictures.h"
+#include "webhook/run/windowcall.h"
 #include "wrappers/web/values/jsobject.h"
 
 namespace Corvex::Webhook {
@@ -154,14 +155,8 @@ const Row rows[] = {
 };
 
 ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& arguments) {
-  const QString before = row.needsWindow ? control.whyNoWindow() : QString();
-  if (!before.isEmpty()) {
-    return nothing(before);
-  }
-  const ScriptValue result = row.call(control, arguments);
-  // A browser or window that went meanwhile says more than what then failed.
-  const QString after = row.needsWindow && result.failed() ? control.whyNoWindow() : QString();
-  return after.isEmpty() ? result : nothing(after);
+  const auto call = [&] { return row.call(control, arguments); };
+  return row.needsWindow ? withWindow(control, call) : call();
 }
 
 }  // namespace

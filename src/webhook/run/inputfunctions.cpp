@@ -2,9 +2,9 @@
 
 #include "corvexhook/inspector.h"
 #include "corvexhook/primitives.h"
-#include "webhook/run/browsercontrol.h"
 #include "webhook/run/pointeractions.h"
 #include "webhook/run/typing.h"
+#include "webhook/run/windowcall.h"
 #include "wrappers/web/object/wraphtmlobject.h"
 
 #include <QVariant>
@@ -181,19 +181,15 @@ const Row rows[] = {
 };
 
 ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& arguments) {
-  const QString before = row.road == Setting ? QString() : control.whyNoWindow();
-  if (!before.isEmpty()) {
-    return ScriptValue::failure(before);
-  }
-  if (row.road == OnlyByPerson && control.input().inPage) {
-    return ScriptValue::failure(QStringLiteral("%1 needs the browser's own input: call useInput(\"browser\") first, or "
-                                               "leave out --input page.")
-                                    .arg(QLatin1String(row.name)));
-  }
-  const QString error = row.run({control, row.name, arguments});
-  // A browser or window that went meanwhile says more than what then failed.
-  const QString after = error.isEmpty() ? QString() : control.whyNoWindow();
-  return {nullptr, after.isEmpty() ? error : after};
+  const auto call = [&]() -> ScriptValue {
+    if (row.road == OnlyByPerson && control.input().inPage) {
+      return ScriptValue::failure(QStringLiteral("%1 needs the browser's own input: call useInput(\"browser\") first, "
+                                                 "or leave out --input page.")
+                                      .arg(QLatin1String(row.name)));
+    }
+    return {nullptr, row.run({control, row.name, arguments})};
+  };
+  return row.road == Setting ? call() : withWindow(control, call);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include "corvexhook/inspector.h"
 #include "webhook/protocol/inpagetext.h"
-#include "webhook/run/browsercontrol.h"
+#include "webhook/run/windowcall.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -179,11 +179,7 @@ const Row rows[] = {
 };
 
 ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& arguments) {
-  const QString before = control.whyNoWindow();
-  const ScriptValue result = before.isEmpty() ? row.call(control, arguments) : nothing(before);
-  // A browser or window that went meanwhile says more than what then failed.
-  const QString after = result.failed() ? control.whyNoWindow() : QString();
-  return after.isEmpty() ? result : nothing(after);
+  return withWindow(control, [&] { return row.call(control, arguments); });
 }
 
 }  // namespace
