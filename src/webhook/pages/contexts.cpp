@@ -21,8 +21,13 @@ QStringList namesOf(Connection* connection) {
   return names.isEmpty() ? QStringList(pageOfAddress(connection->address())) : names;
 }
 
+const int mostListed = 20;
+
 QString join(const QStringList& names) {
-  return names.isEmpty() ? QStringLiteral("none") : QStringLiteral("'%1'").arg(names.join(QLatin1String("', '")));
+  const QString more =
+      names.size() > mostListed ? QStringLiteral(" and %1 more").arg(names.size() - mostListed) : QString();
+  const QString listed = names.mid(0, mostListed).join(QLatin1String("', '"));
+  return names.isEmpty() ? QStringLiteral("none") : QLatin1Char('\'') + listed + QLatin1Char('\'') + more;
 }
 
 }  // namespace
@@ -70,9 +75,11 @@ QString selectContext(BrowserWindows& windows, const QString& name) {
 
 QString whyNoContext(const BrowserWindows& windows, const QString& what) {
   const QString shown = windows.whatIsShown();
-  return QStringLiteral("%1 There are: %2.").arg(what, join(contextNames(windows))) +
+  return QStringLiteral("%1 There are: %2.").arg(what, listOfContexts(windows)) +
          (shown.isEmpty() ? QString() : QLatin1Char(' ') + shown);
 }
+
+QString listOfContexts(const BrowserWindows& windows) { return join(contextNames(windows)); }
 
 QString selectFrame(const BrowserWindows& windows, const QString& path) {
   const QString code = inPageText("frameselection.js").arg(WebWrapper::escapeQuoteWithBackslash(path));

@@ -33,6 +33,9 @@ QString selectContext(BrowserWindows& windows, const QString& name);
 /// nothing of its frames, so the dialog is part of it.
 QString whyNoContext(const BrowserWindows& windows, const QString& what);
 
+/// The names of all contexts for a sentence, in quotes; of many the first.
+QString listOfContexts(const BrowserWindows& windows);
+
 /// Selects a frame of the current page by its path of names, ids or "FRAME" and number, parted by dots.
 QString selectFrame(const BrowserWindows& windows, const QString& path);
 

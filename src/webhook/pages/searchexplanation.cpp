@@ -4,6 +4,7 @@
 #include "corvexhook/inspector.h"
 #include "shared/visibletext.h"
 #include "webhook/pages/browserwindows.h"
+#include "webhook/pages/contexts.h"
 #include "webhook/pages/windownames.h"
 #include "wrappers/web/lookup/containers.h"
 #include "wrappers/web/lookup/findallobjects.h"
@@ -48,7 +49,9 @@ QString missingProperties(const QJsonArray& missing) {
   return names.join(QLatin1String(" or "));
 }
 
-QString missingContext(const QString& context) { return QStringLiteral("There is no context '%1'.").arg(context); }
+QString missingContext(const BrowserWindows& windows, const QString& context) {
+  return whyNoContext(windows, QStringLiteral("There is no context '%1'.").arg(context));
+}
 
 /// Calls a function of the page with a name, and below an object where a reference of one is given.
 WebWrapper::JavaScriptAnswer askPage(WebWrapper::HTMLComponent& page, const char* function, const QString& name,
@@ -173,14 +176,14 @@ QString explainElements(const QJsonObject& why, const ObjectName& name, const QS
 }
 
 /// `localName` is what the page knows `name` by.
-QString explainFailedStep(WebWrapper::HTMLComponent& page, const ObjectName& name, const ObjectName& localName,
-                          const QString& reference) {
+QString explainFailedStep(const BrowserWindows& windows, WebWrapper::HTMLComponent& page, const ObjectName& name,
+                          const ObjectName& localName, const QString& reference) {
   const WebWrapper::JavaScriptAnswer answer =
       askPage(page, "explainFailedSearch", localName.qualifiedName(), reference);
   const QJsonObject why = QJsonDocument::fromJson(answer.text.toUtf8()).object();
   const QString context = name.property(contextProperty).value();
   if (why.contains(QLatin1String("context"))) {
-    return missingContext(context);
+    return missingContext(windows, context);
   }
   if (!answer.succeeded() || !why.contains(QLatin1String("tag"))) {
     return QString();
@@ -228,7 +231,7 @@ QString contextOfPath(const QString& path) {
 }
 
 /// For a name that is a place in the tree: the first step that leads nowhere.
-QString explainPath(const QString& name) {
+QString explainPath(const BrowserWindows& windows, const QString& name) {
   const QStringList steps = name.split(QLatin1Char('.'));
   if (!steps.first().startsWith(treeRoot)) {
     return explainLanguage(name);
@@ -236,7 +239,7 @@ QString explainPath(const QString& name) {
   QString path = steps.first();
   if (!lookUp(path)) {
     const QString context = contextOfPath(path);
-    return context.isEmpty() ? QString() : missingContext(context);
+    return context.isEmpty() ? QString() : missingContext(windows, context);
   }
   for (const QString& step : steps.mid(1)) {
     const QString parent = std::exchange(path, path + QLatin1Char('.') + step);
@@ -302,6 +305,12 @@ QString faultOfPart(WebWrapper::HTMLComponent& page, const ObjectName& part) {
 
 }  // namespace
 
+QString searchedContexts(const BrowserWindows& windows, const QString& name) {
+  const ObjectName outermost = WebWrapper::splitByContainer(ObjectName(name)).front();
+  const bool isAnywhere = !name.startsWith(treeRoot) && !outermost.hasProperty(contextProperty);
+  return isAnywhere ? QStringLiteral("Searched: %1.").arg(listOfContexts(windows)) : QString();
+}
+
 QString explainFailedSearch(BrowserWindows& windows, const QString& name) {
   // Looking a container up may make its window the current one.
   const CurrentWindow before(windows);
@@ -327,10 +336,10 @@ QString explainFailedSearch(BrowserWindows& windows, const QString& name) {
     reference = native->reference;
   }
   if (!last.isMultiProperty()) {
-    return explainPath(name);
+    return explainPath(windows, name);
   }
   const PlacedName placed = placeName(windows, searched, last);
-  return explainFailedStep(*placed.page, last, placed.name, reference);
+  return explainFailedStep(windows, *placed.page, last, placed.name, reference);
 }
 
 Connection* windowMeant(const BrowserWindows& windows, const QString& name) {

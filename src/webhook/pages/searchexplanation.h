@@ -18,6 +18,9 @@ class Connection;
 /// current window stays.
 QString explainFailedSearch(BrowserWindows& windows, const QString& name);
 
+/// Which contexts a look-up of the name went through, as a sentence; empty for a name that says its context.
+QString searchedContexts(const BrowserWindows& windows, const QString& name);
+
 /// The window of the context that a name begins with. Null for a name without one, or where no window has it; and
 /// while no window shows a dialog, as then it does not matter which is asked.
 Connection* windowMeant(const BrowserWindows& windows, const QString& name);

@@ -34,7 +34,12 @@ QString BrowserServices::whyNeverFound(const QString& name) const {
 }
 
 QString BrowserServices::whyNotFound(const QString& name) const {
-  return whyNotLookUp(name).isEmpty() ? explainFailedSearch(*m_control.windows(), name) : QString();
+  if (!whyNotLookUp(name).isEmpty()) {
+    return QString();
+  }
+  const QString why = explainFailedSearch(*m_control.windows(), name);
+  const QString where = searchedContexts(*m_control.windows(), name);
+  return why.isEmpty() || where.isEmpty() ? why + where : why + QLatin1Char(' ') + where;
 }
 
 SharedPtr<Object> BrowserServices::lookUpToUse(const std::function<SharedPtr<Object>()>& lookUp) const {

@@ -12,12 +12,15 @@ verifyFails(function () { waitForObject("{tagName='P' title='none'}", 300); }, "
 ["//div[1]", "/html/body", ".//a", "//*[@id='x']"].forEach(function (name) {
   verifyFails(function () { findObject(name); }, "It reads as XPath, which is no name here. ");
 });
-test.compare(failureOf(function () { findObject("No such words"); }), "Error: Object 'No such words' not found.");
+test.compare(failureOf(function () { findObject("No such words"); }), 
+  "Error: Object 'No such words' not found. Searched: 'color.html'.");
 startBrowser(SITE + "/texts.html");
 verifyFails(function () { findObject("{tagName='BUTTON' visible='true' innerText='SIGN Up'}"); },
   "2 elements have the tag BUTTON, but none has this innerText. Nearest come: of DOCUMENT.HTML1.BODY1.BUTTON2, ");
 verifyFails(function () { findObject("{tagName='BUTTON' visible='true' innerText='SIGN Up'}"); },
   "not 'SIGN Up' (only upper and lower case differ); of DOCUMENT.HTML1.BODY1.BUTTON1, innerText is ");
+verifyFails(function () { findObject("{tagName='BUTTON' innerText='Sing up'}"); },
+  "Nearest come: of DOCUMENT.HTML1.BODY1.BUTTON2, innerText is 'S");
 verifyFails(function () { findObject("{tagName='LI' visible='false' simplifiedInnerText?='no*'}"); },
   "but none has this visible or simplifiedInnerText.");
 verifyFails(function () { findObject("{tagName='LI' visible='true' simplifiedInnerText?='no*'}"); },

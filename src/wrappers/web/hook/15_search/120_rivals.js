@@ -26,7 +26,21 @@ function __corvex__isOtherCase(wanted, actual) {
     actual.toLowerCase() === wanted.toLowerCase();
 }
 
-// How near a value that does not match is to the one that is wanted, below 1.
+// How many characters two texts have in common at their beginnings and ends.
+function __corvex__commonLength(a, b) {
+  var most = Math.min(a.length, b.length);
+  var start = 0;
+  var end = 0;
+  while (start < most && a.charAt(start) === b.charAt(start)) {
+    ++start;
+  }
+  while (end < most - start && a.charAt(a.length - 1 - end) === b.charAt(b.length - 1 - end)) {
+    ++end;
+  }
+  return start + end;
+}
+
+// How near a value that does not match is to the one that is wanted, below 1; any value is nearer than none.
 function __corvex__nearness(element, matcher) {
   var wanted = matcher.propValue && __corvex__exactText(matcher.propValue);
   if (!wanted || wanted.length > __corvex__rivalLimits.compared) {
@@ -40,8 +54,10 @@ function __corvex__nearness(element, matcher) {
     return 0.9;
   }
   var shorter = actual.length < wanted.length ? actual : wanted;
-  var longer = shorter === actual ? wanted : actual;
-  return longer.toLowerCase().indexOf(shorter.toLowerCase()) === -1 ? 0 : 0.5 * shorter.length / longer.length;
+  var longer = (shorter === actual ? wanted : actual).toLowerCase();
+  shorter = shorter.toLowerCase();
+  var common = longer.indexOf(shorter) === -1 ? __corvex__commonLength(shorter, longer) : shorter.length;
+  return 0.01 + 0.5 * common / longer.length;
 }
 
 // Adds an element to the best so far, which are few: rivals that are equally near stay in the order of the page.
