@@ -15,6 +15,7 @@
 #include "corvexhook/inspector.h"
 #include "scripting/engine/evaluation.h"
 #include "scripting/functions/tablereader.h"
+#include "scripting/objects/classmembers.h"
 #include "scripting/objects/valuecomparison.h"
 #include "scripting/objects/valuetext.h"
 
@@ -31,18 +32,6 @@ QJSValueList entriesOf(const QJSValue& array) {
     entries << array.property(i);
   }
   return entries;
-}
-
-QStringList staticMethodsOf(const Class* cls) {
-  QStringList names;
-  for (int id = cls->superClassOffset(Class::MethodOffset); id < cls->numMethods(); ++id) {
-    const Method* const method = cls->method(id);
-    if (method && method->isStatic()) {
-      names << method->name();
-    }
-  }
-  names.removeDuplicates();
-  return names;
 }
 
 /// Of an object that is gone nothing can be asked, whatever the arguments.
@@ -119,25 +108,10 @@ QJSValue ScriptBridge::scriptObject(const QMap<QString, QString>& texts) const {
 
 QJSValue ScriptBridge::describeClass(int classNumber) {
   const Class* cls = m_values.classOfNumber(classNumber);
-  QStringList properties;
-  for (int id = cls->superClassOffset(Class::PropertyOffset); id < cls->numProperties(); ++id) {
-    if (const Property* property = cls->property(id)) {
-      properties << property->name();
-    }
-  }
-  QStringList methods;
-  for (int id = cls->superClassOffset(Class::MethodOffset); id < cls->numMethods(); ++id) {
-    const Method* method = cls->method(id);
-    // Of a property and a method of one name scripts see the property.
-    if (method && !cls->property(method->name())) {
-      methods << method->name();
-    }
-  }
-  methods.removeDuplicates();
   QJSValue description = m_engine->newObject();
   description.setProperty(QStringLiteral("superClass"), m_values.numberOfClass(cls->superClass()));
-  description.setProperty(QStringLiteral("properties"), scriptArray(properties));
-  description.setProperty(QStringLiteral("methods"), scriptArray(methods));
+  description.setProperty(QStringLiteral("properties"), scriptArray(ownProperties(cls)));
+  description.setProperty(QStringLiteral("methods"), scriptArray(ownMethods(cls)));
   return description;
 }
 
@@ -182,18 +156,10 @@ QString ScriptBridge::textOf(const QJSValue& handle) const {
   return object ? Values::textOf(object) : QString();
 }
 
-QJSValue ScriptBridge::classNames() const {
-  QStringList names;
-  for (const Class* cls : Inspector::self()->globalNamespace()->classes()) {
-    if (cls->isPublic() && (cls->createEnum(0) || !staticMethodsOf(cls).isEmpty())) {
-      names << cls->name();
-    }
-  }
-  return scriptArray(names);
-}
+QJSValue ScriptBridge::classNames() const { return scriptArray(globalClasses()); }
 
 QJSValue ScriptBridge::staticMethods(const QString& className) const {
-  return scriptArray(staticMethodsOf(Inspector::self()->classByName(className)));
+  return scriptArray(ownStaticMethods(Inspector::self()->classByName(className)));
 }
 
 QJSValue ScriptBridge::enumItems(const QString& className) const {

@@ -56,7 +56,7 @@ public:
   Q_INVOKABLE bool isCalled(const QString& name, const QString& stack) const;
   Q_INVOKABLE QString textOf(const QJSValue& handle) const;
 
-  /// The classes that are used without an object, too: for static methods, or the items of an enumeration.
+  /// See `globalClasses`.
   Q_INVOKABLE QJSValue classNames() const;
   Q_INVOKABLE QJSValue staticMethods(const QString& className) const;
   /// An object: the value of each item by its name.
