@@ -180,6 +180,8 @@ void ProtocolPage::awaitNavigation() {
   const std::shared_ptr<Pending> navigation = m_navigation;
   if (!navigation->isComplete()) {
     waitFor(*navigation, QDeadlineTimer(qMin(longestNavigationMs, m_session.defaultTimeout())));
+    // No later action waits for it, too.
+    navigation->complete();
   }
 }
 

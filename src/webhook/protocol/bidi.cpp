@@ -23,6 +23,7 @@ const char* const events[] = {
     "browsingContext.load",
     "browsingContext.userPromptOpened",
     "browsingContext.userPromptClosed",
+    "network.fetchError",
     "script.realmCreated",
     "script.realmDestroyed",
 };

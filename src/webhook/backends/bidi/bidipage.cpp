@@ -278,6 +278,7 @@ void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
       {QStringLiteral("browsingContext.navigationCommitted"), &BidiPage::onNavigationCommitted},
       {QStringLiteral("browsingContext.navigationStarted"), &BidiPage::onNavigationStarted},
       {QStringLiteral("browsingContext.navigationFailed"), &BidiPage::onNavigationEnded},
+      {QStringLiteral("network.fetchError"), &BidiPage::onFetchError},
       {QStringLiteral("browsingContext.downloadWillBegin"), &BidiPage::onNavigationEnded},
       {QStringLiteral("browsingContext.domContentLoaded"), &BidiPage::onNavigationEnded},
       {QStringLiteral("browsingContext.fragmentNavigated"), &BidiPage::onNavigatedWithinDocument},
@@ -309,7 +310,18 @@ void BidiPage::onNavigationCommitted(const QJsonObject& parameters) {
   takeDocument(document.navigation, document.url);
 }
 
-void BidiPage::onNavigationStarted(const QJsonObject&) { noteNavigationBegun(); }
+void BidiPage::onNavigationStarted(const QJsonObject& parameters) {
+  m_navigationUnderWay = Bidi::readDocument(parameters).navigation;
+  noteNavigationBegun();
+}
+
+// Of an answer without content Firefox tells nothing else.
+void BidiPage::onFetchError(const QJsonObject& parameters) {
+  const QString navigation = Bidi::readDocument(parameters).navigation;
+  if (!navigation.isEmpty() && navigation == m_navigationUnderWay) {
+    noteNavigationEnded();
+  }
+}
 
 void BidiPage::onNavigationEnded(const QJsonObject&) { noteNavigationEnded(); }
 

@@ -63,6 +63,7 @@ private:
   void takeEvent(const QString& method, const QJsonObject& parameters);
   void onNavigationCommitted(const QJsonObject& parameters);
   void onNavigationStarted(const QJsonObject& parameters);
+  void onFetchError(const QJsonObject& parameters);
   void onNavigationEnded(const QJsonObject& parameters);
   void onNavigatedWithinDocument(const QJsonObject& parameters);
   void onLoad(const QJsonObject& parameters);
@@ -75,7 +76,8 @@ private:
   const bool m_hasOpener;
   QString m_realm;  ///< Of the document that is there, if it is known.
   std::shared_ptr<Pending> m_realmThere = std::make_shared<Pending>();
-  QString m_document;  ///< The navigation that brought it.
+  QString m_document;            ///< The navigation that brought it.
+  QString m_navigationUnderWay;  ///< Or the last that was.
   bool m_framesGuarded = false;
   std::optional<double> m_plainPixelRatio;
   std::shared_ptr<Request> m_devTools;  ///< Asks for the page's DevTools session; other browsers refuse it.
