@@ -38,6 +38,12 @@ QString textOf(const QJsonObject& entry) {
   return texts.join(QLatin1Char(' '));
 }
 
+/// Firefox tells what a policy kept from the page as it tells errors of scripts.
+bool isNoticeOfPolicy(const QString& text) {
+  return text.startsWith(QLatin1String("Content-Security-Policy")) ||
+         text.startsWith(QLatin1String("Cross-Origin Request Blocked: "));
+}
+
 }  // namespace
 
 Command watchConsole() {
@@ -51,8 +57,7 @@ std::optional<ConsoleMessage> readConsoleMessage(const QString& method, const QJ
   ConsoleMessage message;
   message.level = textAt(entry, "level");
   const bool isOfScript = textAt(entry, "type") == QLatin1String("javascript");
-  // Firefox tells what a policy kept from the page in this way, too.
-  const bool isOfPolicy = textAt(entry, "text").startsWith(QLatin1String("Content-Security-Policy"));
+  const bool isOfPolicy = isNoticeOfPolicy(textAt(entry, "text"));
   message.isUncaught = isOfScript && !isOfPolicy && message.level == QLatin1String("error");
   message.text = isOfScript ? textAt(entry, "text").section(QLatin1Char('\n'), 0, 0) : textOf(entry);
   for (const char* lead : {"uncaught exception: ", "Uncaught (in promise) ", "Uncaught "}) {

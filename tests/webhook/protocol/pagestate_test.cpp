@@ -51,7 +51,7 @@ const char* const exceptionOfBidi =
 
 const char* const policyOfBidi =
     R"({"type":"javascript","level":"error",
-                  "text":"Content-Security-Policy: blocked"})";
+                  "text":"Cross-Origin Request Blocked: no"})";
 
 const char* const cookiesOfDevTools =
     R"({"cookies":[{"name":"a","value":"v","domain":"h","path":"/","httpOnly":true,
@@ -77,7 +77,7 @@ TEST(PageState, OnlyUncaughtErrorsCountAsSuch) {
   EXPECT_EQ(shown(Bidi::readConsoleMessage(QLatin1String(logEntry), object(exceptionOfBidi))),
             QStringLiteral("error|boom|:0|uncaught"));
   EXPECT_EQ(shown(Bidi::readConsoleMessage(QLatin1String(logEntry), object(policyOfBidi))),
-            QStringLiteral("error|Content-Security-Policy: blocked|:0|"));
+            QStringLiteral("error|Cross-Origin Request Blocked: no|:0|"));
   EXPECT_EQ(shown(DevTools::readConsoleMessage(QStringLiteral("Page.frameNavigated"), {})), QString());
   EXPECT_EQ(shown(Bidi::readConsoleMessage(QStringLiteral("browsingContext.load"), {})), QString());
 }

@@ -1,6 +1,6 @@
 // Gives: the elements that a name fits best though not quite, and the frames into which no search can look.
 // Needs: runtime/framewalk, runtime/frameaccess, names/hierarchy, properties/values, simplifiedtext, visibility,
-//   search/name.
+//   matching, search/name.
 
 var __corvex__rivalLimits = { rivals: 3, text: 60, path: 120, compared: 2000, frames: 5, address: 120 };
 
@@ -40,9 +40,15 @@ function __corvex__commonLength(a, b) {
   return start + end;
 }
 
+// The text that is wanted, or of a wildcard its letters.
+function __corvex__wantedText(value) {
+  return value.modifiers === PropertyValue_Wildcard
+    ? value.value.source.replace(/\\(.)|\.\*?|[\^$]/g, "$1") : __corvex__exactText(value);
+}
+
 // How near a value that does not match is to the one that is wanted, below 1; any value is nearer than none.
 function __corvex__nearness(element, matcher) {
-  var wanted = matcher.propValue && __corvex__exactText(matcher.propValue);
+  var wanted = matcher.propValue && __corvex__wantedText(matcher.propValue);
   if (!wanted || wanted.length > __corvex__rivalLimits.compared) {
     return 0;
   }
