@@ -14,7 +14,7 @@ set(CORVEX_HOOK_EMBEDDER ${CMAKE_CURRENT_LIST_DIR}/embedhookscript.js)
 set(CORVEX_HOOK_PRELUDE prelude.js)
 
 set(CORVEX_HOOK_FRAGMENTS
-  01_recording.js
+  01_recording
   02_runtime
   03_names
   04_objectstore.js

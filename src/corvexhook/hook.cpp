@@ -10,9 +10,9 @@ Hook theHook;
 
 Hook* Hook::hook = &theHook;
 
-void Hook::send(int kind, const QString& text, const ArgumentList& arguments) {
+void Hook::send(int connection, const QString& text, const ArgumentList& arguments) {
   if (m_receiver) {
-    m_receiver(kind, text, arguments);
+    m_receiver(connection, text, arguments);
   }
 }
 

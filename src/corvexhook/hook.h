@@ -21,8 +21,14 @@ public:
   /// Valid from the start of the program.
   static Hook* hook;
 
+  /// The number of whoever answers where no other one is meant.
+  int defaultConnection() const { return 0; }
+  /// The number of a connected spy, or -1.
+  int spyConnection() const { return m_spyConnection; }
+  void setSpyConnection(int connection) { m_spyConnection = connection; }
+
   /// Hands a message to the receiver; without one it is dropped.
-  void send(int kind, const QString& text, const ArgumentList& arguments);
+  void send(int connection, const QString& text, const ArgumentList& arguments);
   void setReceiver(const Receiver& receiver) { m_receiver = receiver; }
 
   /// Native input, that to this machine's screen unless another one was set. Never null: where there is no screen, each
@@ -33,6 +39,7 @@ public:
 
 private:
   Receiver m_receiver;
+  int m_spyConnection = -1;
   NativeInterface* m_nativeInterface = nullptr;
 };
 

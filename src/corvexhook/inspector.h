@@ -19,6 +19,7 @@ class GlobalClass;
 class HostServices;
 class Namespace;
 class ObjectName;
+class Recorder;
 
 /// The framework's one meeting point: classes, wrapping of values, object lookup and script errors. One thread.
 class CORVEXHOOK_EXPORT Inspector {
@@ -82,6 +83,12 @@ public:
   void setInterruption(const std::atomic<bool>* flag) { m_interruption = flag; }
   /// Why nothing can go on any more; see `HostServices`. An interrupted script cannot either.
   QString whyNotGoOn() const;
+  /// Who keeps what is recorded; borrowed, null for nobody.
+  void attachRecorder(Recorder* recorder) { m_recorder = recorder; }
+  Recorder* recorder() const { return m_recorder; }
+  void setRecording(bool recording) { m_recording = recording; }
+  bool isRecording() const { return m_recording && m_recorder; }
+
   /// Milliseconds that `waitForObject` waits, 20000 at first.
   void setDefaultTimeout(int milliseconds) { m_defaultTimeout = milliseconds; }
   int defaultTimeout() const { return m_defaultTimeout; }
@@ -112,6 +119,8 @@ private:
   const HostServices* m_services;
   const std::atomic<bool>* m_interruption = nullptr;
   int m_defaultTimeout = 20000;
+  Recorder* m_recorder = nullptr;
+  bool m_recording = false;
 };
 
 }  // namespace Corvex

@@ -173,18 +173,28 @@ private:
   unsigned int m_flags;
 };
 
-/// One event that happened: its type, the name of the object and the arguments.
+/// One event that happened, or one script call that was made: what it was, the name of the object and the arguments.
 class CORVEXHOOK_EXPORT EventData {
 public:
-  EventData(const Event* event, const QString& objectName, const ObjectList& arguments)
-      : m_event(event), m_objectName(objectName), m_arguments(arguments) {}
+  enum Kind { Happened = 0, FunctionCall = 1 };
 
+  EventData(const Event* event, const QString& objectName, const ObjectList& arguments)
+      : m_kind(Happened), m_event(event), m_objectName(objectName), m_arguments(arguments) {}
+  EventData(const QString& functionName, const QString& objectName, const ObjectList& arguments)
+      : m_kind(FunctionCall), m_functionName(functionName), m_objectName(objectName), m_arguments(arguments) {}
+
+  Kind kind() const { return m_kind; }
+  /// Null for a script call.
   const Event* event() const { return m_event; }
+  /// Empty for an event.
+  const QString& functionName() const { return m_functionName; }
   const QString& objectName() const { return m_objectName; }
   const ObjectList& arguments() const { return m_arguments; }
 
 private:
-  const Event* m_event;
+  Kind m_kind;
+  const Event* m_event = nullptr;
+  QString m_functionName;
   QString m_objectName;
   ObjectList m_arguments;
 };

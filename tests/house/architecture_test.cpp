@@ -46,9 +46,9 @@ const Room rooms[] = {
     {"wrappers/web/tables", "wrappers/web/widgets wrappers/common"},
     {"wrappers/web/readiness", "wrappers/web/elements"},
     {"wrappers/web/input", "wrappers/web/readiness wrappers/web/widgets"},
-    {"wrappers/web/recording", "wrappers/web/glue"},
-    {"wrappers/web/dump", "wrappers/web/readiness"},
     {"wrappers/web/picking", "wrappers/web/page"},
+    {"wrappers/web/recording", "wrappers/web/glue wrappers/web/picking"},
+    {"wrappers/web/dump", "wrappers/web/readiness"},
     {"wrappers/web/lookup", "wrappers/web/itemviews"},
     {"wrappers/web/catalogue",
      "wrappers/web/values wrappers/web/style wrappers/web/xpath wrappers/web/toolkits wrappers/web/tables "

@@ -5,6 +5,7 @@
 #include "webhook/pages/browserwindows.h"
 #include "webhook/pages/dialogs.h"
 #include "webhook/protocol/log.h"
+#include "wrappers/web/recording/eventlogger.h"
 
 namespace Corvex::Webhook {
 
@@ -50,6 +51,10 @@ void MessageDispatcher::dispatch(const PageMessage& message) {
 }
 
 void MessageDispatcher::takeLogEvent(const PageMessage& message) {
+  if (m_logger) {
+    m_logger->logEvent(message.text());
+    return;
+  }
   const QString event = message.value(QStringLiteral("event"));
   const QString name = message.value(QStringLiteral("name"));
   if (event == QLatin1String("addUnmatchedProperty")) {

@@ -6,6 +6,10 @@
 #include <QObject>
 #include <QTimer>
 
+namespace Corvex::WebWrapper {
+class EventLogger;
+}
+
 namespace Corvex::Webhook {
 
 class BrowserWindows;
@@ -13,7 +17,7 @@ class Connection;
 class Dialogs;
 
 /// Takes what pages say of their own accord, by whichever way it comes, to the one that it is for: dialogs, the
-/// framework's list of unmatched properties, the log.
+/// framework's list of unmatched properties, a recording, the log.
 class MessageDispatcher : public QObject {
   Q_OBJECT
 
@@ -21,6 +25,10 @@ public:
   /// All three outlive this object. Pages that cannot reach the endpoint leave their messages in the queue of their
   /// session, which is read about once a second while events are served.
   MessageDispatcher(MessageEndpoint& endpoint, BrowserWindows& windows, Dialogs& dialogs);
+
+  /// Who takes what happens in pages, each message as it comes; borrowed, null for nobody. What came before is not
+  /// kept.
+  void setEventLogger(WebWrapper::EventLogger* logger) { m_logger = logger; }
 
 private:
   void dispatch(const PageMessage& message);
@@ -32,6 +40,7 @@ private:
   MessageEndpoint& m_endpoint;
   BrowserWindows& m_windows;
   Dialogs& m_dialogs;
+  WebWrapper::EventLogger* m_logger = nullptr;
   QTimer m_drainTimer;
   bool m_draining = false;
   // Those of documents that went away too: their last messages come after the news of the next document.

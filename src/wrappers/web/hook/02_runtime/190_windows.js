@@ -1,5 +1,5 @@
 // Gives: the replacement of open, and what a further top-level window gets.
-// Needs: recording, runtime/natives, runtime/builtins, runtime/state, runtime/contexts, runtime/transport,
+// Needs: recording/capture, runtime/natives, runtime/builtins, runtime/state, runtime/contexts, runtime/transport,
 //   runtime/override, runtime/frames, runtime/unload, runtime/listeners, runtime/innertext.
 
 function __corvex__isListedWindow(w) {

@@ -1,5 +1,5 @@
 // Gives: the hooking of frames, now and with each sweep, and the bookkeeping of popups.
-// Needs: recording, runtime/builtins, runtime/state, runtime/framewalk, runtime/contexts, runtime/logging,
+// Needs: recording/touch, runtime/builtins, runtime/state, runtime/framewalk, runtime/contexts, runtime/logging,
 //   runtime/frameaccess, runtime/override, runtime/windows, runtime/reload, runtime/listeners, runtime/innertext.
 
 // A document that was written anew has lost its listeners and kept its marks.

@@ -1,5 +1,5 @@
 // Gives: what happens when a frame loads or unloads, and the deferred hooking of old Internet Explorer.
-// Needs: recording, runtime/natives, runtime/builtins, runtime/state, runtime/eventobject, runtime/override,
+// Needs: recording/capture, runtime/natives, runtime/builtins, runtime/state, runtime/eventobject, runtime/override,
 //   runtime/frames, runtime/unload.
 
 // Errors of the page's own handler are its own matter.

@@ -1,5 +1,6 @@
 // Gives: the messages that tell the driver of a page that goes away.
-// Needs: recording, runtime/natives, runtime/state, runtime/contexts, runtime/transport, runtime/logging, browsers.
+// Needs: recording/capture, runtime/natives, runtime/state, runtime/contexts, runtime/transport, runtime/logging,
+//   browsers.
 
 // Asynchronous on every browser: a driver that waits in a script call could not answer.
 function __corvex__triggerUnloadEventHandler(win) {

@@ -1,5 +1,5 @@
 // Gives: the listeners of the own document and of frames, and the change listeners of controls.
-// Needs: recording, runtime/builtins, runtime/eventobject, runtime/frames.
+// Needs: recording/picking, recording/capture, recording/touch, runtime/builtins, runtime/eventobject, runtime/frames.
 
 var __corvex__quietMousemove = __corvex__quiet(__corvex__mousemove);
 var __corvex__quietTouchstart = __corvex__quiet(__corvex__touchstart);

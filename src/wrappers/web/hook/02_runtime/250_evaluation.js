@@ -1,5 +1,5 @@
 // Gives: what happens in the page at the moment of evaluation, and the test whether it happened.
-// Needs: recording, runtime/natives, runtime/builtins, runtime/longpoll, runtime/override, runtime/frames,
+// Needs: recording/capture, runtime/natives, runtime/builtins, runtime/longpoll, runtime/override, runtime/frames,
 //   runtime/unload, runtime/listeners, runtime/innertext, search/documents.
 
 // The test for an injector before it evaluates the script: a second evaluation would double every listener.

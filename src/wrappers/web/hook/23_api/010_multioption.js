@@ -1,4 +1,4 @@
-// Gives: __corvex__createMultiSelectOptionStr, __corvex__getSelectedOptionTexts: several options as one text.
+// Gives: the texts of selected options, and __corvex__createMultiSelectOptionStr: several options as one text.
 // Needs: input/selection.
 
 // Joins texts with the first separator that none of them holds, which also ends the result and so tells the reader
@@ -24,4 +24,10 @@ function __corvex__getSelectedOptionTexts(select) {
     }
   }
   return texts;
+}
+
+// The empty text while nothing is selected.
+function __corvex__selectedOptionText(select) {
+  var option = select.options[select.selectedIndex];
+  return option ? option.text : "";
 }
