@@ -278,7 +278,6 @@ void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
       {QStringLiteral("browsingContext.navigationCommitted"), &BidiPage::onNavigationCommitted},
       {QStringLiteral("browsingContext.navigationStarted"), &BidiPage::onNavigationStarted},
       {QStringLiteral("browsingContext.navigationFailed"), &BidiPage::onNavigationEnded},
-      {QStringLiteral("browsingContext.downloadWillBegin"), &BidiPage::onNavigationEnded},
       {QStringLiteral("browsingContext.domContentLoaded"), &BidiPage::onNavigationEnded},
       {QStringLiteral("browsingContext.fragmentNavigated"), &BidiPage::onNavigatedWithinDocument},
       {QStringLiteral("browsingContext.historyUpdated"), &BidiPage::onNavigatedWithinDocument},
@@ -312,6 +311,13 @@ void BidiPage::onNavigationCommitted(const QJsonObject& parameters) {
 void BidiPage::onNavigationStarted(const QJsonObject&) { noteNavigationBegun(); }
 
 void BidiPage::onNavigationEnded(const QJsonObject&) { noteNavigationEnded(); }
+
+void BidiPage::noteDownload(const QString& navigation) {
+  noteNavigationEnded();
+  for (const auto& loading : loadings()) {
+    loading->noteDownload(navigation);
+  }
+}
 
 void BidiPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
   const Bidi::Document document = Bidi::readDocument(parameters);
