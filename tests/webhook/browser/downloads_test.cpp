@@ -34,7 +34,7 @@ TEST(Downloads, NamesAreThoseOfPlainFiles) {
     EXPECT_EQ(Downloads::safeName(name.key()), name.value());
   }
   const QString longest = Downloads::safeName(e.repeated(500) + QStringLiteral(".tar.gz"));
-  EXPECT_EQ(longest, e.repeated(71) + QStringLiteral(".gz"));
+  EXPECT_EQ(longest, e.repeated(73) + QStringLiteral(".gz"));
 }
 
 TEST(Downloads, FilesElsewhereAreNotTouched) {
