@@ -40,6 +40,15 @@ void addFolder(TestServer& server, const PolicyRow& row) {
   }
 }
 
+void addDownload(TestServer& server, const QString& path, const QByteArray& name, int missing = 0) {
+  ServerPage page;
+  page.body = "a,b\n1,2\n";
+  page.type = "text/csv";
+  page.headers = {{"Content-Disposition", "attachment; filename=\"" + name + "\""}};
+  page.missing = missing;
+  server.add(path, page);
+}
+
 }  // namespace
 
 QString browserUnderTest() { return qEnvironmentVariable("CORVEX_TEST_BROWSER", QStringLiteral("chromium")); }
@@ -54,6 +63,9 @@ PageSite::PageSite() {
   moved.status = 302;
   moved.headers = {{"Location", "/plain.html"}};
   m_server.add(QStringLiteral("/moved"), moved);
+  addDownload(m_server, QStringLiteral("/report"), "report.csv");
+  addDownload(m_server, QStringLiteral("/hostile"), "../../.profile\\\\" + QByteArray(300, 'x') + ".csv");
+  addDownload(m_server, QStringLiteral("/broken"), "broken.csv", 1000);
   ServerPage never;
   never.silent = true;
   m_server.add(QStringLiteral("/never"), never);

@@ -4,11 +4,14 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTcpSocket>
+#include <QTimer>
 #include <QUrl>
 
 namespace TestSupport {
 
 namespace {
+
+const int breakAfterMs = 300;
 
 QByteArray typeOf(const QString& path) {
   static const QMap<QString, QByteArray> types{{QStringLiteral("html"), "text/html; charset=utf-8"},
@@ -28,7 +31,8 @@ int bodyLength(const QByteArray& head) {
 
 QByteArray responseText(const ServerPage& page) {
   QByteArray text = "HTTP/1.1 " + QByteArray::number(page.status) + " Status\r\n";
-  text += "Content-Type: " + page.type + "\r\nContent-Length: " + QByteArray::number(page.body.size()) + "\r\n";
+  text += "Content-Type: " + page.type + "\r\nContent-Length: " + QByteArray::number(page.body.size() + page.missing) +
+          "\r\n";
   for (const auto& header : page.headers) {
     text += header.first + ": " + header.second + "\r\n";
   }
@@ -69,6 +73,10 @@ void TestServer::answer(QTcpSocket* socket, const QByteArray& request) {
     return;
   }
   socket->write(responseText(page));
+  if (page.missing > 0) {
+    QTimer::singleShot(breakAfterMs, socket, &QTcpSocket::disconnectFromHost);
+    return;
+  }
   socket->disconnectFromHost();
 }
 

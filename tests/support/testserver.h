@@ -18,6 +18,7 @@ struct ServerPage {
   QByteArray type = "text/html; charset=utf-8";
   QList<QPair<QByteArray, QByteArray>> headers = {};
   int status = 200;
+  int missing = 0;      ///< Bytes that are promised and do not come; the connection ends after a moment.
   bool silent = false;  ///< Takes the request and never answers.
 };
 

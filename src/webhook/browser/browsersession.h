@@ -6,15 +6,17 @@
 #include <memory>
 
 #include "webhook/browser/browserpage.h"
+#include "webhook/browser/downloads.h"
 
 namespace Corvex::Webhook {
 
 struct SessionOptions {
-  QString browser;       ///< "chromium", "firefox" or the path of a program; "" takes the Chromium that is installed.
-  QString attachTo;      ///< ws://... of a browser that runs already; then none is started.
-  QString remoteUrl;     ///< http://host:port of a WebDriver server that starts one; then none is started here.
-  QString capabilities;  ///< What the server is asked for: JSON, or @ and the path of a file of JSON.
-  bool headed = false;   ///< Show its windows.
+  QString browser;         ///< "chromium", "firefox" or the path of a program; "" takes the Chromium that is installed.
+  QString attachTo;        ///< ws://... of a browser that runs already; then none is started.
+  QString remoteUrl;       ///< http://host:port of a WebDriver server that starts one; then none is started here.
+  QString capabilities;    ///< What the server is asked for: JSON, or @ and the path of a file of JSON.
+  bool headed = false;     ///< Show its windows.
+  QString downloadFolder;  ///< Takes what pages download, if the browser is started here; "" leaves it to the browser.
   int startTimeoutMs = 30000;
   int defaultTimeoutMs = 20000;  ///< Of calls that are given no time.
   QStringList extraArguments;    ///< For the browser's command line.
@@ -60,6 +62,10 @@ public:
   virtual void close() = 0;
 
   virtual bool isLost() const = 0;
+
+  /// What pages downloaded. Null where the files are not here: of a visited browser, of a server's, and of one that
+  /// knows no way to tell of them.
+  virtual Downloads* downloads() = 0;
 
   virtual QString browserName() const = 0;
   virtual QString browserVersion() const = 0;

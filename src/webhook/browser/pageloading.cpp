@@ -29,6 +29,11 @@ void PageLoading::noteLoaded(const QString& document) {
   check();
 }
 
+void PageLoading::noteDownload(const QString& document) {
+  m_downloads.insert(document);
+  check();
+}
+
 void PageLoading::fail(const QString& error) {
   if (isComplete()) {
     return;
@@ -51,6 +56,9 @@ bool PageLoading::isThere() const {
   }
   if (!m_expected) {
     return false;
+  }
+  if (m_downloads.contains(*m_expected)) {
+    return true;
   }
   return m_expected->isEmpty() ? m_sameDocument : isLoaded && m_documents.contains(*m_expected);
 }

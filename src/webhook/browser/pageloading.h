@@ -23,6 +23,8 @@ public:
   void noteSameDocument(const QString& url = {});
   void noteDocument(const QString& document);
   void noteLoaded(const QString& document);
+  /// What the navigation leads to became a file; that is no error.
+  void noteDownload(const QString& document);
 
   /// The document that came is the browser's own, in place of the one that is waited for.
   void noteErrorPage(const QString& error) { m_errorOnceLoaded = error; }
@@ -41,6 +43,7 @@ private:
   bool m_isMeant = false;
   QStringList m_documents;
   QSet<QString> m_loaded;
+  QSet<QString> m_downloads;
   QString m_error;
   QString m_errorOnceLoaded;
 };

@@ -49,6 +49,12 @@ void ProtocolSession::addPage(std::unique_ptr<ProtocolPage> page) {
   }
 }
 
+void ProtocolSession::takeDownload(const std::optional<DownloadNews>& news) {
+  if (m_downloads && news) {
+    m_downloads->take(*news);
+  }
+}
+
 void ProtocolSession::setBrowser(const QString& name, const QString& version) {
   m_name = name;
   m_version = version;

@@ -22,6 +22,7 @@ public:
   bool isLost() const override { return m_ended; }
   QString browserName() const override { return m_name; }
   QString browserVersion() const override { return m_version; }
+  Downloads* downloads() override { return m_downloads.get(); }
   Capabilities capabilities() const override { return {true, true, true, true, true}; }
   qint64 browserProcess() const override { return m_browser ? m_browser->process() : 0; }
   QString browserDirectory() const override { return m_browser ? m_browser->directory() : QString(); }
@@ -46,6 +47,10 @@ protected:
   /// Waits until there is a page or the browser is lost. Gives the sentence for what is missing, or "".
   QString awaitFirstPage(const QDeadlineTimer& deadline);
 
+  /// Has them in this folder from now on.
+  void keepDownloads(const QString& folder) { m_downloads = std::make_unique<Downloads>(folder); }
+  void takeDownload(const std::optional<DownloadNews>& news);
+
   bool isVisited() const { return !m_browser; }
   Channel& channel() { return m_channel; }
 
@@ -58,6 +63,7 @@ private:
   Channel m_channel;
   std::vector<std::unique_ptr<ProtocolPage>> m_pages;  ///< Closed ones included: callers may still hold them.
   std::shared_ptr<Pending> m_firstPageThere = std::make_shared<Pending>();
+  std::unique_ptr<Downloads> m_downloads;
   QString m_name;
   QString m_version;
   bool m_ended = false;

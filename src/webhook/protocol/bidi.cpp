@@ -28,7 +28,9 @@ const char* const events[] = {
     "script.realmDestroyed",
 };
 
-const char* const eventsOfBrowser[] = {"browsingContext.contextCreated", "browsingContext.contextDestroyed"};
+// Those of downloads are here as they may come when the page that had them begin is gone.
+const char* const eventsOfBrowser[] = {"browsingContext.contextCreated", "browsingContext.contextDestroyed",
+                                       "browsingContext.downloadWillBegin", "browsingContext.downloadEnd"};
 
 const char* const crashEvent = "goog:cdp.Inspector.targetCrashed";
 

@@ -155,7 +155,7 @@ Command goToHistory(const HistoryEntry& entry) {
 Command stopLoading() { return command("Page.stopLoading"); }
 
 Navigation readNavigation(const QJsonObject& answer) {
-  return {textAt(answer, "loaderId"), textAt(answer, "errorText")};
+  return {textAt(answer, "loaderId"), textAt(answer, "errorText"), answer.value(QLatin1String("isDownload")).toBool()};
 }
 
 std::optional<NewDocument> readNewDocument(const QJsonObject& event) {

@@ -54,8 +54,9 @@ Command goToHistory(const HistoryEntry& entry);
 Command stopLoading();
 
 struct Navigation {
-  QString document;   ///< Its number in the events; "" when only the fragment changed.
-  QString errorCode;  ///< Such as "net::ERR_NAME_NOT_RESOLVED"; "" when the document came.
+  QString document;         ///< Its number in the events; "" when only the fragment changed.
+  QString errorCode;        ///< Such as "net::ERR_NAME_NOT_RESOLVED"; "" when the document came.
+  bool isDownload = false;  ///< What came is a file, and the old document stays.
 };
 Navigation readNavigation(const QJsonObject& answer);
 

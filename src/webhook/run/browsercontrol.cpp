@@ -91,7 +91,12 @@ void BrowserControl::finishLoad() {
 }
 
 QString BrowserControl::openSession() {
-  BrowserSession::Start start = BrowserSession::start(m_options);
+  if (!m_downloads) {
+    m_downloads = std::make_unique<TemporaryDirectory>();
+  }
+  SessionOptions options = m_options;
+  options.downloadFolder = m_downloads->path();
+  BrowserSession::Start start = BrowserSession::start(options);
   if (!start.error.isEmpty()) {
     return start.error;
   }
@@ -183,7 +188,10 @@ void BrowserControl::scriptStarted(const QString& path) {
   m_input = m_inputOfRun;
 }
 
-void BrowserControl::scriptFinished(const Scripting::ScriptResult&) { closeBrowser(); }
+void BrowserControl::scriptFinished(const Scripting::ScriptResult&) {
+  closeBrowser();
+  m_downloads.reset();
+}
 
 QString BrowserControl::resolvePath(const QString& path) const {
   return QFileInfo(path).isAbsolute() ? path : m_scriptFolder + QLatin1Char('/') + path;

@@ -8,6 +8,7 @@
 #include "webhook/pages/dialogs.h"
 #include "webhook/pages/messagedispatcher.h"
 #include "webhook/pages/webmodel.h"
+#include "webhook/process/temporarydirectory.h"
 #include "webhook/run/browserservices.h"
 #include "webhook/run/hiddenscreen.h"
 #include "webhook/run/inputsettings.h"
@@ -43,6 +44,7 @@ public:
   /// Null when no browser runs.
   BrowserWindows* windows() const { return m_windows.get(); }
   Dialogs* dialogs() const { return m_dialogs.get(); }
+  BrowserSession* session() const { return m_session.get(); }
 
   // Sentences that are empty when all is well.
   QString whyLost() const;
@@ -79,6 +81,8 @@ private:
   WebModel m_model;
   BrowserServices m_services;
   HiddenScreen m_hiddenScreen;
+  /// Stays to the script's end, so that it can look at the files of a browser that is closed.
+  std::unique_ptr<TemporaryDirectory> m_downloads;
   std::unique_ptr<BrowserSession> m_session;
   std::unique_ptr<MessageEndpoint> m_endpoint;
   std::unique_ptr<BrowserWindows> m_windows;

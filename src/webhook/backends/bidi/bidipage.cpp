@@ -279,7 +279,6 @@ void BidiPage::takeEvent(const QString& method, const QJsonObject& parameters) {
       {QStringLiteral("browsingContext.navigationStarted"), &BidiPage::onNavigationStarted},
       {QStringLiteral("browsingContext.navigationFailed"), &BidiPage::onNavigationEnded},
       {QStringLiteral("network.fetchError"), &BidiPage::onFetchError},
-      {QStringLiteral("browsingContext.downloadWillBegin"), &BidiPage::onNavigationEnded},
       {QStringLiteral("browsingContext.domContentLoaded"), &BidiPage::onNavigationEnded},
       {QStringLiteral("browsingContext.fragmentNavigated"), &BidiPage::onNavigatedWithinDocument},
       {QStringLiteral("browsingContext.historyUpdated"), &BidiPage::onNavigatedWithinDocument},
@@ -324,6 +323,13 @@ void BidiPage::onFetchError(const QJsonObject& parameters) {
 }
 
 void BidiPage::onNavigationEnded(const QJsonObject&) { noteNavigationEnded(); }
+
+void BidiPage::noteDownload(const QString& navigation) {
+  noteNavigationEnded();
+  for (const auto& loading : loadings()) {
+    loading->noteDownload(navigation);
+  }
+}
 
 void BidiPage::onNavigatedWithinDocument(const QJsonObject& parameters) {
   const Bidi::Document document = Bidi::readDocument(parameters);

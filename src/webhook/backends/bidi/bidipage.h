@@ -36,6 +36,8 @@ public:
   /// Whether the browser knows it by this DevTools session.
   bool hasDevToolsSession(const QString& session) const;
   void noteRealmGone(const QString& realm);
+  /// What the page was on its way to became a file, and the document stays.
+  void noteDownload(const QString& navigation);
 
 private:
   PlaceNow placeNow();

@@ -6,6 +6,7 @@
 #include "webhook/backends/bidi/webdriver.h"
 #include "webhook/browser/pageerrors.h"
 #include "webhook/protocol/bidiconsole.h"
+#include "webhook/protocol/bididownloads.h"
 #include "webhook/protocol/startscript.h"
 #include "webhook/protocol/websockettransport.h"
 
@@ -61,6 +62,8 @@ BrowserSession::Start BidiSession::connectTo(const SessionOptions& options, cons
   }
   std::unique_ptr<BidiSession> session(new BidiSession(std::move(browser), std::move(socket)));
   session->setDefaultTimeout(options.defaultTimeoutMs);
+  // A server's browser has its files on its own machine.
+  session->m_downloadFolder = capabilities ? QString() : options.downloadFolder;
   const QString trouble = session->open(capabilities, deadline);
   if (!trouble.isEmpty()) {
     return Start::failure(trouble);
@@ -85,11 +88,21 @@ QString BidiSession::open(const QJsonObject* capabilities, const QDeadlineTimer&
   }
   channel().start({}, Bidi::watchCrashes());
   channel().start({}, Bidi::watchConsole());
+  if (!m_downloadFolder.isEmpty()) {
+    keepDownloads(m_downloadFolder);
+    channel().start({}, Bidi::watchDownloads());
+    m_downloadsKept = channel().start({}, Bidi::keepDownloads(m_downloadFolder));
+  }
   const Reply listed = channel().call({}, Bidi::listPages(), deadline);
   for (const Bidi::Context& context : Bidi::readPages(listed.result)) {
     takePage(context);
   }
   return awaitFirstPage(listed.isAnswered() ? QDeadlineTimer(0) : deadline);
+}
+
+Downloads* BidiSession::downloads() {
+  const bool isRefused = m_downloadsKept && m_downloadsKept->reply.status == Reply::Refused;
+  return isRefused ? nullptr : ProtocolSession::downloads();
 }
 
 QString BidiSession::askForSession(const QDeadlineTimer& deadline) {
@@ -153,8 +166,19 @@ void BidiSession::takeEvent(const QString& method, const QJsonObject& parameters
       page->noteRealmGone(Bidi::readGoneRealm(parameters));
     }
   }
+  if (const std::optional<DownloadNews> news = Bidi::readDownload(method, parameters)) {
+    onDownload(*news, parameters);
+  }
   if (const std::optional<QString> devTools = Bidi::readCrash(method, parameters)) {
     onCrashed(*devTools);
+  }
+}
+
+void BidiSession::onDownload(const DownloadNews& news, const QJsonObject& parameters) {
+  takeDownload(news);
+  BidiPage* const page = m_pageOfContext.value(parameters.value(QLatin1String("context")).toString());
+  if (page && news.kind == DownloadNews::Begun) {
+    page->noteDownload(Bidi::readDocument(parameters).navigation);
   }
 }
 

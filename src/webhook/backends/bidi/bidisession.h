@@ -19,6 +19,7 @@ public:
   ~BidiSession() override { finish(); }
 
   FunctionCallResult<BrowserPage*> newPage() override;
+  Downloads* downloads() override;
 
   /// The script also runs in the next documents of pages that are open already.
   QString addStartScriptOfNewPages(const QString& text) override;
@@ -44,12 +45,15 @@ private:
   void takeEvent(const QString& method, const QJsonObject& parameters) override;
   void onContextCreated(const Bidi::Context& context);
   void onContextDestroyed(const Bidi::Context& context);
+  void onDownload(const DownloadNews& news, const QJsonObject& parameters);
   void onCrashed(const QString& devToolsSession);
   void takePage(const Bidi::Context& context);
 
   QHash<QString, BidiPage*> m_pageOfContext;
   QHash<QString, QString> m_pageOfFrame;
   QString m_contextInFront;
+  QString m_downloadFolder;
+  std::shared_ptr<Request> m_downloadsKept;  ///< Refused by browsers that cannot do it.
   int m_hiddenPagesToCome = 0;
   bool m_framesGuarded = false;
 };

@@ -82,6 +82,9 @@ Reply DevToolsPage::navigateAndWait(PageCall& call, const QString& url, PageLoad
     return reply;
   }
   const DevTools::Navigation navigation = DevTools::readNavigation(reply.result);
+  if (navigation.isDownload) {
+    return reply;
+  }
   const bool oldDocumentStays = navigation.errorCode == QLatin1String("net::ERR_ABORTED");
   loading.expect(navigation.document);
   if (!oldDocumentStays && waitFor(loading, call.deadline()) != WaitResult::Complete) {

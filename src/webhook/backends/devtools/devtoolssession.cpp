@@ -5,6 +5,7 @@
 
 #include "webhook/backends/devtools/chromium.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/devtoolsdownloads.h"
 #include "webhook/protocol/websockettransport.h"
 
 namespace Corvex::Webhook {
@@ -39,6 +40,10 @@ BrowserSession::Start DevToolsSession::open(const SessionOptions& options, std::
                                             std::unique_ptr<Transport> transport, const QDeadlineTimer& deadline) {
   std::unique_ptr<DevToolsSession> session(new DevToolsSession(std::move(browser), std::move(transport)));
   session->setDefaultTimeout(options.defaultTimeoutMs);
+  if (!session->isVisited() && !options.downloadFolder.isEmpty()) {
+    session->keepDownloads(options.downloadFolder);
+    session->channel().start({}, DevTools::keepDownloads(options.downloadFolder));
+  }
   const QString error = session->open(deadline);
   if (!error.isEmpty()) {
     return Start::failure(error);
@@ -104,6 +109,7 @@ void DevToolsSession::takeEvent(const QString& method, const QJsonObject& parame
   if (method == QLatin1String("Target.detachedFromTarget")) {
     onDetached(parameters);
   }
+  takeDownload(DevTools::readDownload(method, parameters));
 }
 
 void DevToolsSession::onAttached(const QJsonObject& parameters) {
