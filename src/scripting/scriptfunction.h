@@ -31,6 +31,8 @@ struct ScriptFunction {
   /// The last argument may be a plain object, and arrives as a text of JSON. Of its values, texts, numbers, true and
   /// false arrive.
   bool takesOptions = false;
+  /// How many of the first arguments reports show, when others may be secret.
+  int shownArguments = -1;
 };
 
 /// What happened beside the script.

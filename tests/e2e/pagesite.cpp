@@ -64,8 +64,14 @@ PageSite::PageSite() {
   moved.headers = {{"Location", "/plain.html"}};
   m_server.add(QStringLiteral("/moved"), moved);
   addDownload(m_server, QStringLiteral("/report"), "report.csv");
-  addDownload(m_server, QStringLiteral("/hostile"), "../../.profile\\\\" + QByteArray(300, 'x') + ".csv");
+  addDownload(m_server, QStringLiteral("/hostile"), "../../.profile\\\\" + QByteArray(180, 'x') + ".csv");
   addDownload(m_server, QStringLiteral("/broken"), "broken.csv", 1000);
+  for (const char* path : {"/private", "/private/other"}) {
+    ServerPage kept;
+    kept.body = "<title>Private</title>";
+    kept.login = "ada:sec:r@t";
+    m_server.add(QLatin1String(path), kept);
+  }
   ServerPage never;
   never.silent = true;
   m_server.add(QStringLiteral("/never"), never);

@@ -6,6 +6,7 @@
 //   @screen WIDTH HEIGHT      a screen of its own
 //   @exit CODE TEXT           the exit code that is expected, and what the output then holds
 //   @failed NUMBER            of checks, 0 without it
+//   @hidden TEXT              what the output never holds
 //   @not BROWSER REASON       the browser cannot do it
 
 #include <gtest/gtest.h>
@@ -104,6 +105,9 @@ TEST_P(Scripts, Pass) {
   const QString failed = marks(script, "failed").value(0, QStringLiteral("0"));
   EXPECT_TRUE(result.output.contains(QRegularExpression(QStringLiteral(" checks?, %1 failed; ").arg(failed))))
       << "a check failed";
+  for (const QString& hidden : marks(script, "hidden")) {
+    EXPECT_FALSE((result.output + result.errors).contains(hidden)) << qPrintable(hidden);
+  }
   site.expectNothingLeft();
   if (HasFailure()) {
     ADD_FAILURE() << qPrintable(result.output + result.errors);

@@ -68,7 +68,10 @@ void TestServer::serve(QTcpSocket* socket) {
 void TestServer::answer(QTcpSocket* socket, const QByteArray& request) {
   const QString target = QString::fromLatin1(request.split(' ').value(1));
   m_requests.append(target);
-  const ServerPage page = pageFor(QUrl::fromPercentEncoding(target.section(QLatin1Char('?'), 0, 0).toLatin1()));
+  ServerPage page = pageFor(QUrl::fromPercentEncoding(target.section(QLatin1Char('?'), 0, 0).toLatin1()));
+  if (!page.login.isEmpty() && !request.contains("Basic " + page.login.toBase64() + "\r\n")) {
+    page = {"<title>Refused</title>Who is it?", page.type, {{"WWW-Authenticate", "Basic realm=\"test\""}}, 401};
+  }
   if (page.silent) {
     return;
   }

@@ -355,8 +355,14 @@ QJSValue ScriptBridge::finished(const ObjectResult& result) {
 }
 
 QString ScriptBridge::stepText(const QString& name, const QJSValue& arguments) const {
+  const ScriptFunction* const function = m_functions.find(name);
+  const int shown = function ? function->shownArguments : -1;
   QStringList texts;
   for (const QJSValue& argument : entriesOf(arguments)) {
+    if (texts.size() == shown) {
+      texts << QString(QChar(0x2026));
+      break;
+    }
     const bool isName = texts.isEmpty() && argument.isString();
     texts << (isName ? argument.toString() : valueText(m_values, argument));
   }

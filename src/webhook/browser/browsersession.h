@@ -7,6 +7,7 @@
 
 #include "webhook/browser/browserpage.h"
 #include "webhook/browser/downloads.h"
+#include "webhook/protocol/credentials.h"
 
 namespace Corvex::Webhook {
 
@@ -60,6 +61,10 @@ public:
   /// Ends the browser that was started, with its processes and its profile; of a visited one, closes the session's
   /// pages. Open calls end. No signal lost().
   virtual void close() = 0;
+
+  /// What servers are told from now on that ask for a user and a password, in place of what they were. Others than
+  /// those are refused at once, so that no page waits. The browser itself keeps what a server took until its end.
+  virtual void setCredentials(const QVector<Credentials>& credentials) = 0;
 
   virtual bool isLost() const = 0;
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "webhook/browser/authentication.h"
 #include "webhook/browser/browsersession.h"
 #include "webhook/browser/ownedbrowser.h"
 #include "webhook/browser/protocolpage.h"
@@ -51,6 +52,7 @@ protected:
   void keepDownloads(const QString& folder) { m_downloads = std::make_unique<Downloads>(folder); }
   void takeDownload(const std::optional<DownloadNews>& news);
 
+  Authentication& authentication() { return m_authentication; }
   bool isVisited() const { return !m_browser; }
   Channel& channel() { return m_channel; }
 
@@ -63,6 +65,7 @@ private:
   Channel m_channel;
   std::vector<std::unique_ptr<ProtocolPage>> m_pages;  ///< Closed ones included: callers may still hold them.
   std::shared_ptr<Pending> m_firstPageThere = std::make_shared<Pending>();
+  Authentication m_authentication;
   std::unique_ptr<Downloads> m_downloads;
   QString m_name;
   QString m_version;

@@ -5,6 +5,8 @@
 #include "scripting/engine/scriptengine.h"
 #include "scripting/report/consolereporter.h"
 #include "scripting/report/junitreporter.h"
+#include "shared/textfile.h"
+#include "webhook/browser/authentication.h"
 #include "webhook/cli/browseroptions.h"
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
@@ -14,6 +16,7 @@
 #include "webhook/run/browserfunctions.h"
 
 #include <QMap>
+#include <QRegularExpression>
 
 #include <vector>
 
@@ -44,6 +47,12 @@ const QCommandLineOption filterOption(
     QStringLiteral("Run only scripts whose paths, and test functions whose names, hold this text or, with * or ?, are "
                    "like it; of several options one has to fit."),
     QStringLiteral("text"));
+const QCommandLineOption credentialsOption(
+    QStringLiteral("credentials"),
+    QStringLiteral("What servers are told that ask for a user and a password: USER:PASSWORD, for one server alone with "
+                   "@http://host:port after it; or @ and a file with one of these a line, which keeps the password "
+                   "off the command line; repeatable."),
+    QStringLiteral("user:password"));
 const QCommandLineOption scriptTimeoutOption(QStringLiteral("script-timeout"),
                                              QStringLiteral("End a script that takes longer; no limit without this."),
                                              QStringLiteral("seconds"));
@@ -52,6 +61,7 @@ struct RunOptions {
   SessionOptions session;
   std::vector<Scripting::ScriptChoice> scripts;
   QMap<QString, QString> arguments;
+  QVector<Credentials> credentials;
   int scriptTimeoutMs = 0;
   QString junitFile;
   InputSettings input;
@@ -84,6 +94,28 @@ QString readScripts(const QCommandLineParser& parser, RunOptions* options) {
 }
 
 /// An error, or an empty text.
+QString readCredentials(const QStringList& texts, QVector<Credentials>* credentials) {
+  QStringList all;
+  for (const QString& text : texts) {
+    const bool isFile = text.startsWith(QLatin1Char('@'));
+    const FunctionCallResult<QString> file = isFile ? readTextFile(text.mid(1)) : FunctionCallResult<QString>();
+    if (file.failed()) {
+      return QStringLiteral("--credentials: the file '%1' cannot be read: %2").arg(text.mid(1), file.error);
+    }
+    all += isFile ? file.value.split(QRegularExpression(QStringLiteral("\\r?\\n")), Qt::SkipEmptyParts)
+                  : QStringList{text};
+  }
+  for (const QString& text : all) {
+    const FunctionCallResult<Credentials> read = Authentication::read(text);
+    if (read.failed()) {
+      return QStringLiteral("--credentials takes %1; or @ and a file of such lines.").arg(read.error);
+    }
+    credentials->append(read.value);
+  }
+  return QString();
+}
+
+/// An error, or an empty text.
 QString readInput(const QCommandLineParser& parser, InputSettings* input) {
   const QString who = parser.value(inputOption);
   *input = {who == QLatin1String("page"), parser.isSet(strictOption)};
@@ -105,6 +137,9 @@ QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
     error = readArguments(parser.values(argumentOption), &options->arguments);
   }
   if (error.isEmpty()) {
+    error = readCredentials(parser.values(credentialsOption), &options->credentials);
+  }
+  if (error.isEmpty()) {
     error = readScripts(parser, options);
   }
   if (error.isEmpty()) {
@@ -119,7 +154,7 @@ int runScripts(const RunOptions& options) {
   ConsoleReporter console(stdout,
                           options.verbose ? ConsoleReporter::Detail::ObjectCalls : ConsoleReporter::Detail::Steps);
   JUnitReporter junit(options.junitFile);
-  BrowserControl browser(options.session, options.input);
+  BrowserControl browser(options.session, options.input, options.credentials);
   browser.setFailOnPageError(options.failOnPageError);
   ListenerGroup listeners;
   listeners.add(&browser);
@@ -161,7 +196,7 @@ int runScriptsCommand(const QStringList& arguments) {
       "3 the browser could not be started or was lost."));
   addBrowserOptions(parser);
   parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, failOnPageErrorOption, argumentOption,
-                     filterOption, scriptTimeoutOption, verboseOption});
+                     credentialsOption, filterOption, scriptTimeoutOption, verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."),
                                QStringLiteral("The scripts, in JavaScript, or folders of them."));
   if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {

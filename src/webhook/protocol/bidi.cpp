@@ -28,9 +28,10 @@ const char* const events[] = {
     "script.realmDestroyed",
 };
 
-// Those of downloads are here as they may come when the page that had them begin is gone.
+// Those of downloads and questions are here as they may be of frames, or of a page that is gone.
 const char* const eventsOfBrowser[] = {"browsingContext.contextCreated", "browsingContext.contextDestroyed",
-                                       "browsingContext.downloadWillBegin", "browsingContext.downloadEnd"};
+                                       "browsingContext.downloadWillBegin", "browsingContext.downloadEnd",
+                                       "network.authRequired"};
 
 const char* const crashEvent = "goog:cdp.Inspector.targetCrashed";
 

@@ -39,7 +39,7 @@ std::shared_ptr<Request> Channel::start(const QString& session, const Command& c
   }
   m_open[request->id] = request;
   const QByteArray text = m_dialect.write(request->id, session, command);
-  qCDebug(webhookLog).noquote() << "->" << text.left(loggedLength);
+  qCDebug(webhookLog).noquote() << "->" << (command.isSecret ? command.method.toUtf8() : text.left(loggedLength));
   m_transport->send(text);
   return request;
 }
@@ -78,7 +78,9 @@ void Channel::close(const QString& reason) {
 }
 
 void Channel::takeMessage(const QByteArray& text) {
-  qCDebug(webhookLog).noquote() << "<-" << text.left(loggedLength);
+  const bool isSecret = text.contains("uthorization");  // a header, in any of its forms
+  qCDebug(webhookLog).noquote() << "<-"
+                                << (isSecret ? QByteArray("a message with a password") : text.left(loggedLength));
   const WireMessage message = m_dialect.read(text);
   switch (message.kind) {
     case WireMessage::Malformed:

@@ -10,6 +10,7 @@ namespace Corvex::Webhook {
 struct Command {
   QString method;
   QJsonObject parameters;
+  bool isSecret = false;  ///< Its parameters are not for logs.
 };
 
 /// One message of the browser, taken apart.

@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace Corvex::Webhook {
 
 namespace {
@@ -20,12 +22,15 @@ const size_t mostNews = 100;
 
 }  // namespace
 
-BrowserControl::BrowserControl(const SessionOptions& options, const InputSettings& input)
+BrowserControl::BrowserControl(const SessionOptions& options, const InputSettings& input,
+                               const QVector<Credentials>& credentials)
     : m_options(options),
       m_services(*this, m_model),
       m_hiddenScreen(whyNoScreen()),
       m_inputOfRun(input),
-      m_input(input) {
+      m_input(input),
+      m_credentialsOfRun(credentials),
+      m_credentials(credentials) {
   Inspector::self()->setHostServices(&m_services);
   if (!whyNoScreen().isEmpty()) {
     Hook::hook->setNativeInterface(&m_hiddenScreen);
@@ -101,6 +106,7 @@ QString BrowserControl::openSession() {
     return start.error;
   }
   m_session = std::move(start.value);
+  m_session->setCredentials(m_credentials);
   m_endpoint = std::make_unique<MessageEndpoint>();
   QString error;
   if (!m_endpoint->start(&error)) {
@@ -132,6 +138,15 @@ void BrowserControl::watchConsole(BrowserPage* page) {
     m_news.push_back(
         {QStringLiteral("Uncaught error of a page at %1: %2").arg(place, message.text), m_failsOnPageError});
   });
+}
+
+void BrowserControl::addCredentials(const Credentials& credentials) {
+  const auto isReplaced = [&credentials](const Credentials& other) { return other.origin == credentials.origin; };
+  m_credentials.erase(std::remove_if(m_credentials.begin(), m_credentials.end(), isReplaced), m_credentials.end());
+  m_credentials.append(credentials);
+  if (m_session) {
+    m_session->setCredentials(m_credentials);
+  }
 }
 
 QString BrowserControl::closeWindow() {
@@ -186,6 +201,7 @@ QString BrowserControl::whyNotAskPage(Connection* window) const {
 void BrowserControl::scriptStarted(const QString& path) {
   m_scriptFolder = QFileInfo(path).absolutePath();
   m_input = m_inputOfRun;
+  m_credentials = m_credentialsOfRun;
 }
 
 void BrowserControl::scriptFinished(const Scripting::ScriptResult&) {

@@ -24,7 +24,8 @@ namespace Corvex::Webhook {
 /// The browser of a run of test scripts: started by the script's `startBrowser`, gone when the script has ended.
 class BrowserControl : public Scripting::ScriptListener {
 public:
-  explicit BrowserControl(const SessionOptions& options, const InputSettings& input = {});
+  explicit BrowserControl(const SessionOptions& options, const InputSettings& input = {},
+                          const QVector<Credentials>& credentials = {});
   ~BrowserControl() override;
 
   /// Starts a browser, in place of one that runs, and opens a page in it. A dialog of the page that keeps it from being
@@ -37,6 +38,9 @@ public:
   QString goThroughHistory(int steps);
   /// Lets the page of the last of these load to its end if a dialog held it, as far as its next dialog.
   void finishLoad();
+  /// What servers are told that ask for a user and a password, by this script's browsers. Those that were set before
+  /// for the same origin go.
+  void addCredentials(const Credentials& credentials);
   /// Closes the current window.
   QString closeWindow();
   void closeBrowser();
@@ -94,6 +98,8 @@ private:
   bool m_loadIsHeld = false;
   InputSettings m_inputOfRun;
   InputSettings m_input;
+  QVector<Credentials> m_credentialsOfRun;
+  QVector<Credentials> m_credentials;
   bool m_failsOnPageError = false;
   std::vector<Scripting::HostNews> m_news;
 };

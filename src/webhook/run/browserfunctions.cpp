@@ -5,6 +5,7 @@
 #include "shared/wait.h"
 #include "webhook/pages/contexts.h"
 #include "webhook/run/browsercontrol.h"
+#include "webhook/run/credentialfunctions.h"
 #include "webhook/run/downloadfunctions.h"
 #include "webhook/run/filedialog.h"
 #include "webhook/run/inputfunctions.h"
@@ -169,8 +170,8 @@ Scripting::ScriptHost browserFunctions(BrowserControl& control) {
         {QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments, row.maxArguments,
          [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }, row.takesNull});
   }
-  for (const auto& family :
-       {inputFunctions(control), navigationFunctions(control), pageFunctions(control), downloadFunctions(control)}) {
+  for (const auto& family : {inputFunctions(control), navigationFunctions(control), pageFunctions(control),
+                             downloadFunctions(control), credentialFunctions(control)}) {
     host.functions.insert(host.functions.end(), family.begin(), family.end());
   }
   host.pictureOf = [&control](const SharedPtr<Object>& object) { return objectPicture(control, object); };

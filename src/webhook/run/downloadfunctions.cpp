@@ -33,10 +33,10 @@ QString whyNoDownloads(BrowserControl& control) {
 
 QString noneWithin(const Downloads& downloads, int milliseconds) {
   const QStringList underWay = downloads.underWay();
-  const QString what =
-      underWay.isEmpty()
-          ? QStringLiteral("None is under way; check that the page begins one.")
-          : QStringLiteral("'%1' has begun and not ended; allow more time, or look at the server.").arg(underWay.join(QStringLiteral("', '")));
+  const QString what = underWay.isEmpty()
+                           ? QStringLiteral("None is under way; check that the page begins one.")
+                           : QStringLiteral("'%1' has begun and not ended; allow more time, or look at the server.")
+                                 .arg(underWay.join(QStringLiteral("', '")));
   return QStringLiteral("No download ended within %1 ms. %2").arg(QString::number(milliseconds), what);
 }
 

@@ -5,6 +5,7 @@
 #include "webhook/backends/bidi/firefox.h"
 #include "webhook/backends/bidi/webdriver.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/bidiauth.h"
 #include "webhook/protocol/bidiconsole.h"
 #include "webhook/protocol/bididownloads.h"
 #include "webhook/protocol/startscript.h"
@@ -88,6 +89,9 @@ QString BidiSession::open(const QJsonObject* capabilities, const QDeadlineTimer&
   }
   channel().start({}, Bidi::watchCrashes());
   channel().start({}, Bidi::watchConsole());
+  for (const Command& command : Bidi::holdQuestions()) {
+    channel().start({}, command);
+  }
   if (!m_downloadFolder.isEmpty()) {
     keepDownloads(m_downloadFolder);
     channel().start({}, Bidi::watchDownloads());
@@ -165,6 +169,9 @@ void BidiSession::takeEvent(const QString& method, const QJsonObject& parameters
     for (BidiPage* page : m_pageOfContext) {
       page->noteRealmGone(Bidi::readGoneRealm(parameters));
     }
+  }
+  if (const std::optional<AuthQuestion> question = Bidi::readQuestion(method, parameters)) {
+    channel().start({}, Bidi::answerQuestion(*question, authentication().answer(*question)));
   }
   if (const std::optional<DownloadNews> news = Bidi::readDownload(method, parameters)) {
     onDownload(*news, parameters);

@@ -19,6 +19,9 @@ public:
   ~BidiSession() override { finish(); }
 
   FunctionCallResult<BrowserPage*> newPage() override;
+  void setCredentials(const QVector<Credentials>& credentials) override {
+    authentication().setCredentials(credentials);
+  }
   Downloads* downloads() override;
 
   /// The script also runs in the next documents of pages that are open already.

@@ -3,6 +3,7 @@
 #include "webhook/backends/devtools/devtoolsevaluation.h"
 #include "webhook/browser/browsersession.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/protocol/devtoolsauth.h"
 #include "webhook/protocol/devtoolsconsole.h"
 
 #include <QUrl>
@@ -20,15 +21,19 @@ Reply await(PageCall& call, PageLoading& loading, Reply reply) {
 
 }  // namespace
 
-DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
-                           const QStringList& startScripts)
-    : ProtocolPage(channel, session, target.session, target.url), m_sessionId(target.session), m_target(target.id) {
+DevToolsPage::DevToolsPage(Channel& channel, const BrowserSession& session, Authentication& authentication,
+                           const DevTools::Target& target, const QStringList& startScripts)
+    : ProtocolPage(channel, session, target.session, target.url),
+      m_authentication(authentication),
+      m_sessionId(target.session),
+      m_target(target.id) {
   channel.subscribe(m_sessionId, this,
                     [this](const QString& method, const QJsonObject& parameters) { takeEvent(method, parameters); });
   for (const Command& command : DevTools::watchPage()) {
     m_watched = start(command);
   }
   start(DevTools::watchConsole());
+  holdRequests();
   for (const QString& script : startScripts) {
     m_watched = start(DevTools::addStartScript(script));
   }
@@ -166,6 +171,20 @@ Command DevToolsPage::cookieSetting(const Cookie& cookie) const {
   return DevTools::setCookie(named.domain.isEmpty() ? address : url(), named);
 }
 
+void DevToolsPage::holdRequests() { start(DevTools::holdRequests(m_authentication.hasCredentials())); }
+
+bool DevToolsPage::letRequestGoOn(const QString& method, const QJsonObject& parameters) {
+  if (const std::optional<Command> command = DevTools::goOn(method, parameters)) {
+    start(*command);
+    return true;
+  }
+  const std::optional<AuthQuestion> question = DevTools::readQuestion(method, parameters);
+  if (question) {
+    start(DevTools::answerQuestion(*question, m_authentication.answer(*question)));
+  }
+  return question.has_value();
+}
+
 void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameters) {
   using Handler = void (DevToolsPage::*)(const QJsonObject&);
   static const QHash<QString, Handler> handlers{
@@ -180,6 +199,8 @@ void DevToolsPage::takeEvent(const QString& method, const QJsonObject& parameter
   };
   if (const Handler handler = handlers.value(method)) {
     (this->*handler)(parameters);
+  } else if (letRequestGoOn(method, parameters)) {
+    return;
   } else if (const std::optional<ConsoleMessage> message = DevTools::readConsoleMessage(method, parameters)) {
     takeConsoleMessage(*message);
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "webhook/browser/authentication.h"
 #include "webhook/browser/protocolpage.h"
 #include "webhook/protocol/devtools.h"
 #include "webhook/protocol/devtoolscookies.h"
@@ -12,14 +13,18 @@ class DevToolsPage : public ProtocolPage {
   Q_OBJECT
 
 public:
-  /// Begins to watch the page, gives it its start scripts and lets it go on. Channel and session outlive the page.
-  DevToolsPage(Channel& channel, const BrowserSession& session, const DevTools::Target& target,
-               const QStringList& startScripts);
+  /// Begins to watch the page, gives it its start scripts and lets it go on. Channel, session and
+  /// authentication outlive the page.
+  DevToolsPage(Channel& channel, const BrowserSession& session, Authentication& authentication,
+               const DevTools::Target& target, const QStringList& startScripts);
 
   JavaScriptAnswer evaluate(const QString& code, int timeoutMs) override;
   QString addStartScript(const QString& text) override;
   FunctionCallResult<QImage> screenshot(bool wholePage) override;
   FunctionCallResult<double> zoomFactor() override;
+
+  /// Has requests wait for a word of this side, as far as the credentials that there are need it.
+  void holdRequests();
 
   const QString& targetId() const { return m_target; }
   const QString& sessionId() const { return m_sessionId; }
@@ -43,6 +48,8 @@ private:
   Command closing() const override { return DevTools::closePage(m_target); }
 
   void takeEvent(const QString& method, const QJsonObject& parameters);
+  /// Whether it was about a request that waits.
+  bool letRequestGoOn(const QString& method, const QJsonObject& parameters);
   void onFrameNavigated(const QJsonObject& parameters);
   void onNavigationRequested(const QJsonObject& parameters);
   void onStoppedLoading(const QJsonObject& parameters);
@@ -52,6 +59,7 @@ private:
   void onDialogClosed(const QJsonObject& parameters);
   void onCrashed(const QJsonObject& parameters);
 
+  Authentication& m_authentication;
   const QString m_sessionId;
   const QString m_target;
   DevTools::InputWriter m_input;

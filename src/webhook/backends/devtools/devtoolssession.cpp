@@ -89,6 +89,13 @@ QString DevToolsSession::addStartScriptOfNewPages(const QString& text) {
   return {};
 }
 
+void DevToolsSession::setCredentials(const QVector<Credentials>& credentials) {
+  authentication().setCredentials(credentials);
+  for (BrowserPage* page : pages()) {
+    static_cast<DevToolsPage*>(page)->holdRequests();
+  }
+}
+
 void DevToolsSession::prepareClosing() {
   if (!isVisited()) {
     return;
@@ -122,7 +129,7 @@ void DevToolsSession::onAttached(const QJsonObject& parameters) {
   if (target.opener.isEmpty() && m_pagesToCome > 0) {
     --m_pagesToCome;
   }
-  auto page = std::make_unique<DevToolsPage>(channel(), *this, target, m_startScripts);
+  auto page = std::make_unique<DevToolsPage>(channel(), *this, authentication(), target, m_startScripts);
   m_pageOfTarget[target.id] = page.get();
   m_pageOfSession[target.session] = page.get();
   addPage(std::move(page));

@@ -19,6 +19,7 @@ public:
   ~DevToolsSession() override { finish(); }
 
   FunctionCallResult<BrowserPage*> newPage() override;
+  void setCredentials(const QVector<Credentials>& credentials) override;
   QString addStartScriptOfNewPages(const QString& text) override;
 
 private:
