@@ -30,6 +30,12 @@ ObjectMap* ObjectMap::self() {
   return &map;
 }
 
+QStringList ObjectMap::symbolicNames() const {
+  QStringList names = m_names.keys();
+  names.sort();
+  return names;
+}
+
 QString ObjectMap::load(const QString& path) {
   const FunctionCallResult<QString> text = readTextFile(path);
   if (text.failed()) {

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 namespace Corvex {
 
@@ -14,6 +15,8 @@ public:
 
   /// The real name behind a symbolic one; an empty text for a name that the map does not know.
   QString realName(const QString& symbolicName) const { return m_names.value(symbolicName); }
+  /// All that the map knows, in alphabetical order.
+  QStringList symbolicNames() const;
   void insert(const QString& symbolicName, const QString& realName) { m_names.insert(symbolicName, realName); }
   void clear() { m_names.clear(); }
   int size() const { return m_names.size(); }

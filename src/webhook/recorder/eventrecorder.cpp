@@ -1,0 +1,132 @@
+#include "webhook/recorder/eventrecorder.h"
+
+#include "corvexhook/inspector.h"
+#include "corvexhook/recorder.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+using WebWrapper::EventMap;
+
+// From the first press of a double click to its end.
+const int longestDoubleClickMs = 1500;
+
+QString item(const EventMap& data, const char* key) { return data.value(QLatin1String(key)); }
+
+/// Whether typing the text would take parts of it for keys.
+bool readsAsKeys(const QString& text) {
+  static const QRegularExpression brackets(QStringLiteral("<[A-Za-z0-9]+(\\+[^<>\\s]+)*>"));
+  return brackets.match(text).hasMatch();
+}
+
+}  // namespace
+
+void EventRecorder::recordCall(const QString& objectName, const char* functionName, const ObjectList& arguments,
+                               const QTime* time) {
+  const QString function = QString::fromLatin1(functionName);
+  if (function == QLatin1String("typeText")) {
+    recordText(objectName, arguments.at(0)->toString(), time);
+    return;
+  }
+  append(EventData(function, objectName, arguments), time);
+  // A click of a person has been recorded at its press.
+  m_lastIsReturn = m_event == QLatin1String("click") && function == QLatin1String("clickButton");
+}
+
+void EventRecorder::append(const EventData& call, const QTime* time) {
+  m_lastIsReturn = false;
+  m_times.append(time ? *time : QTime());
+  m_calls.append(call, time);
+}
+
+// What the logger gives has a blank for each line break; what the page told last has the breaks.
+void EventRecorder::recordText(const QString& objectName, const QString& text, const QTime* time) {
+  const QString content = m_contents.value(objectName);
+  const bool isReturn = text == QLatin1String("<Return>") && content != text;
+  if (isReturn && m_lastIsReturn) {
+    return;
+  }
+  const bool isContent = !isReturn && content.size() == text.size() && content.contains(QLatin1Char('\n'));
+  const QString typed = isContent ? content : text;
+  const QString function = !isReturn && readsAsKeys(typed) ? QStringLiteral("setText") : QStringLiteral("typeText");
+  append(EventData(function, objectName, {Inspector::self()->wrapString(typed)}), time);
+}
+
+void EventRecorder::addUnmatchedProperty(const QString& objectName, const QString& property) {
+  Inspector::self()->addUnmatchedProperty(objectName, property);
+}
+
+void EventRecorder::removeUnmatchedProperties(const QString& objectName) {
+  Inspector::self()->removeUnmatchedProperties(objectName);
+}
+
+// The clicks that a double click begins with stand there already, each as one call at most.
+void EventRecorder::doubleClickSeen(const QString& objectName, const EventMap& data) {
+  static const QStringList clicks{QStringLiteral("mouseClick"), QStringLiteral("clickButton"),
+                                  QStringLiteral("setFocus")};
+  const QTime end = WebWrapper::getTimeStampFromEventData(data);
+  for (int taken = 0; taken < 2; ++taken) {
+    const EventData last = m_calls.last();
+    const bool isClick = last.objectName() == objectName && clicks.contains(last.functionName());
+    if (!isClick || m_times.isEmpty() || m_times.last().msecsTo(end) > longestDoubleClickMs) {
+      return;
+    }
+    removeLastRecordedEvent();
+  }
+}
+
+void EventRecorder::keyEventSeen(const QString&) {}
+
+bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
+  m_event = item(data, "event");
+  if (m_event.startsWith(QLatin1String("key")) && data.contains(QStringLiteral("value"))) {
+    m_contents.insert(objectName, item(data, "value"));
+  }
+  return takeDialog(m_event, data) || EventLogger::compressedNonRecordingEventData(objectName, data);
+}
+
+bool EventRecorder::takeDialog(const QString& event, const EventMap& data) {
+  // Windows of this machine are recorded by nobody else.
+  if (event.endsWith(QLatin1String("ableFallbackWrapper"))) {
+    return true;
+  }
+  const QString answer = item(data, "ret");
+  const QTime time = WebWrapper::getTimeStampFromEventData(data);
+  if (event != QLatin1String("alert") && event != QLatin1String("confirm") && event != QLatin1String("prompt")) {
+    return false;
+  }
+  if (!Inspector::self()->isRecording()) {
+    return true;
+  }
+  flushRecordedTextInput();
+  if (event == QLatin1String("alert")) {
+    recordCall(QString(), "closeAlert", {}, &time);
+  } else if (event == QLatin1String("confirm")) {
+    recordCall(QString(), "closeConfirm", {Inspector::self()->wrapBool(answer == QLatin1String("true"))}, &time);
+  } else {
+    recordCall(QString(), "closePrompt", {Inspector::self()->wrapString(answer)}, &time);
+  }
+  return true;
+}
+
+EventData EventRecorder::lastRecordedEvent() { return m_calls.last(); }
+
+void EventRecorder::removeLastRecordedEvent() {
+  if (!m_times.isEmpty()) {
+    m_times.removeLast();
+    m_calls.takeBackLast();
+  }
+}
+
+// Each press is an act of its own, however often the same object is pressed; the click that follows it is none.
+bool EventRecorder::isLastRecordedCall(const QString& functionName, const QString& objectName) {
+  const EventData last = m_calls.last();
+  const bool isPress = m_event == QLatin1String("mousedown") || m_event == QLatin1String("touchend");
+  return !isPress && last.functionName() == functionName && last.objectName() == objectName;
+}
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,62 @@
+#include "webhook/recorder/recordingfiles.h"
+
+#include "corvexhook/objectmap.h"
+#include "webhook/recorder/scriptline.h"
+
+#include <QFileInfo>
+
+namespace Corvex::Webhook {
+
+RecordingFiles::RecordingFiles(const std::function<void(const QString&)>& show,
+                               const std::function<void(const QString&)>& complain)
+    : m_show(show), m_complain(complain) {}
+
+QString RecordingFiles::open(const Options& options) {
+  if (!options.objectMap.isEmpty()) {
+    ObjectMap map;
+    QString error = QFileInfo::exists(options.objectMap) ? map.load(options.objectMap) : QString();
+    if (error.isEmpty()) {
+      error = m_map.open(options.objectMap, LineFile::Append);
+    }
+    if (!error.isEmpty()) {
+      return error;
+    }
+    m_names = std::make_unique<SymbolicNames>(map);
+  }
+  return options.script.isEmpty()
+             ? QString()
+             : m_script.open(options.script, options.appends ? LineFile::Append : LineFile::Replace);
+}
+
+QString RecordingFiles::scriptName(const QString& realName) {
+  if (!m_names) {
+    return realName;
+  }
+  const SymbolicNames::Answer name = m_names->nameFor(realName);
+  const QString error = name.isNew ? m_map.write(name.symbolicName + QLatin1Char('\t') + realName) : QString();
+  if (!error.isEmpty()) {
+    m_complain(error);
+    return realName;
+  }
+  return name.symbolicName;
+}
+
+void RecordingFiles::write(const EventData& call) {
+  const QString line = scriptLine(call, namesAnObject(call) ? scriptName(call.objectName()) : call.objectName());
+  // It is in the file before anybody sees it.
+  const QString error = m_script.isOpen() ? m_script.write(line) : QString();
+  if (!error.isEmpty()) {
+    m_complain(error);
+  }
+  m_show(line);
+}
+
+void RecordingFiles::takeBackLast() {
+  const QString error = m_script.isOpen() ? m_script.takeBackLast() : QString();
+  if (!error.isEmpty()) {
+    m_complain(error);
+  }
+  m_show(QStringLiteral("// The line before is taken back."));
+}
+
+}  // namespace Corvex::Webhook
