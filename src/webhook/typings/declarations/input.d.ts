@@ -1,7 +1,8 @@
 // == Mouse, keyboard and choices ==
-// These act as a person does. They wait, at most the default time, until the object is there, visible, not disabled, no
-// longer moving and scrolled into view, and until nothing covers the place. Keys that are held are the sum of
-// `HTML_Event.Alt`, `HTML_Event.Control` and `HTML_Event.Shift`.
+// But for `clickLink`, `setFocus`, `selectOption`, `sendEvent` and `scrollTo`, which are calls in the page, these act as a
+// person does. They wait, at most the default time, until the object is there, visible, not disabled, no longer moving and
+// scrolled into view, and until nothing covers the place. Keys that are held are the sum of `HTML_Event.Alt`,
+// `HTML_Event.Control` and `HTML_Event.Shift`.
 
 /**
  * Clicks where the object can be reached: in its middle, or beside what covers that.
