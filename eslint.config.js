@@ -104,7 +104,7 @@ module.exports = [
     rules: { ...rules, 'max-len': ['error', { code: 130, comments: 124 }] }
   },
   {
-    files: ['eslint.config.js', 'cmake/**/*.js', 'tests/house/*.js'],
+    files: ['eslint.config.js', 'cmake/**/*.js', 'docs/generator/*.js', 'tests/house/*.js', 'tests/reference/*.js'],
     languageOptions: {
       ecmaVersion: 2022,
       sourceType: 'commonjs',

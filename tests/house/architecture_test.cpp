@@ -64,7 +64,9 @@ const Room rooms[] = {
     {"webhook/inspect", "webhook/pages"},
     {"webhook/recorder", "webhook/pages"},
     {"webhook/run", "webhook/pages scripting"},
-    {"webhook/cli", "webhook/backends webhook/inspect webhook/recorder webhook/run scripting/report scripting/engine"},
+    {"webhook/typings", "corvexhook"},
+    {"webhook/cli",
+     "webhook/backends webhook/inspect webhook/recorder webhook/run webhook/typings scripting/report scripting/engine"},
     {"webhook", "webhook/cli"},
 };
 

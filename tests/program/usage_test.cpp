@@ -63,6 +63,7 @@ const Misuse misuses[] = {
     {"BrokenObjectMap",
      {"run", "--object-map", "good.js", "good.js"},
      "good.js:1: expected a symbolic name that begins with ':', a tab, and the real name."},
+    {"TypingsArgument", {"typings", "x.d.ts"}, "It takes no arguments, and prints to the standard output."},
     {"HookScriptArgument", {"hook-script", "now"}, "It takes no arguments."},
     {"TreeDepth", {"tree", "--depth", "deep", "x"}, "--depth takes a number of levels from 0 on, not 'deep'."},
     {"TreeNoFile", {"tree", "nosuchpage.html"}, "nosuchpage.html", 1},

@@ -5,6 +5,7 @@
 #include "webhook/cli/output.h"
 #include "webhook/cli/runcommand.h"
 #include "webhook/cli/treecommand.h"
+#include "webhook/cli/typingscommand.h"
 
 #include <QCoreApplication>
 
@@ -22,6 +23,7 @@ const Command commands[] = {
     {"run", "run test scripts in a browser", runScriptsCommand},
     {"names", "check that the names of a page's elements find them again", namesCommand},
     {"tree", "show the objects of a page as a tree", treeCommand},
+    {"typings", "print a declaration file by which editors complete test scripts", typingsCommand},
     {"hook-script", "print the script that hooks a page", hookScriptCommand},
 };
 

@@ -1,0 +1,3 @@
+var button = findObject("{tagName='BUTTON' id='count'}");
+button.submit();
+waitForValue(button, "innerText", "1");

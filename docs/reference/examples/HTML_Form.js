@@ -1,0 +1,2 @@
+findObject("{tagName='FORM' id='order'}").submit();
+waitForUrl("*basket.html?name=*");

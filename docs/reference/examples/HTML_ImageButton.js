@@ -1,0 +1,4 @@
+var button = findObject("{tagName='INPUT' id='picture-button'}");
+test.compare(button.className(), "HTML_ImageButton");
+clickButton(button);
+test.compare(pageTitle(), "Basket");

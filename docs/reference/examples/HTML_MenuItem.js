@@ -1,0 +1,3 @@
+openUrl("http://localhost:8000/widgets.html");
+var item = findObject("{tagName='DIV' innerText='Open'}");
+test.compare(item.className(), "HTML_MenuItem");

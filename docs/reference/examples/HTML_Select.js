@@ -1,0 +1,21 @@
+var size = findObject("{tagName='SELECT' id='size'}");
+test.compare([size.isMulti(), size.options().length, size.optionAt(2).text], [false, 3, "Large"]);
+size.setSelectedIndex(1);
+test.compare([size.selectedIndex, size.selectedOption], [1, "Medium"]);
+size.setSelectedOption("Large");
+waitForValue(size, "selectedIndex", 2);
+size.setSelectedOptionByValue("s");
+waitForValue(size, "selectedOption", "Small");
+
+var extras = findObject("{tagName='SELECT' id='extras'}");
+extras.setSelectedOptionsByText(["Milk", "Lemon"]);
+waitForValue(extras, "selectedTexts", ["Milk", "Lemon"]);
+test.compare(extras.selectedLabels, ["Milk", "Lemon slice"]);
+test.compare([extras.selectedIndexes, extras.selectedValues], [[0, 2], ["1", "3"]]);
+extras.deselectByTexts(["Milk"]);
+test.compare(extras.selectedIndexes, [2]);
+extras.setSelectedOptionsByValue(["1", "2"]);
+waitForValue(extras, "selectedValues", ["1", "2"]);
+extras.deselectByIndexes([0]);
+extras.deselectByValues(["2"]);
+test.compare(extras.selectedIndexes, []);
