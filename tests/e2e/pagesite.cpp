@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QProcess>
+
 #include "support/files.h"
 #include "support/printing.h"
 
@@ -72,6 +74,9 @@ PageSite::PageSite() {
     kept.login = "ada:sec:r@t";
     m_server.add(QLatin1String(path), kept);
   }
+  // The site as a proxy of others.
+  m_server.add(QStringLiteral("http://proxied.test/"), {"<title>Proxied</title>"});
+  m_server.add(QStringLiteral("http://127.0.0.1:65000/"), {"<title>Proxied, too</title>"});
   ServerPage never;
   never.silent = true;
   m_server.add(QStringLiteral("/never"), never);
@@ -81,9 +86,26 @@ PageSite::PageSite() {
   m_program.write(QStringLiteral("kit.js"), variables + QString::fromUtf8(kit));
 }
 
+void PageSite::startSecureServer() {
+  const QString certificate = m_program.folder() + QStringLiteral("/certificate.pem");
+  const QString key = m_program.folder() + QStringLiteral("/key.pem");
+  const QString options =
+      QStringLiteral("req -x509 -nodes -newkey ec -pkeyopt ec_paramgen_curve:P-256 -subj /CN=localhost");
+  QProcess::execute(QStringLiteral("openssl"), options.split(QLatin1Char(' '))
+                                                   << QStringLiteral("-keyout") << key << QStringLiteral("-out")
+                                                   << certificate);
+  m_secureServer = std::make_unique<TestServer>(readFile(certificate), readFile(key));
+  m_secureServer->add(QStringLiteral("/"), {"<title>Secure</title>"});
+}
+
 void PageSite::write(const QString& name, const QString& script) {
+  QString head = QStringLiteral("source('kit.js'); ");
+  if (script.contains(QLatin1String("SECURE_SITE"))) {
+    startSecureServer();
+    head += QStringLiteral("var SECURE_SITE = '%1'; ").arg(m_secureServer->url(QString()));
+  }
   // On the first line, so that the script's lines keep their numbers.
-  m_program.write(name, QStringLiteral("source('kit.js'); ") + script);
+  m_program.write(name, head + script);
 }
 
 QStringList PageSite::arguments(const QStringList& scripts, const QStringList& options) const {

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <memory>
 
 #include "support/programrun.h"
 #include "support/testserver.h"
@@ -19,7 +20,8 @@ public:
   TestServer& server() { return m_server; }
   ProgramRun& program() { return m_program; }
 
-  /// Puts a script into the program's folder, with the site's address in SITE and the functions of the kit.
+  /// Puts a script into the program's folder, with the site's address in SITE and the functions of the kit. A script
+  /// that mentions SECURE_SITE finds a server of https there, whose certificate nobody trusts.
   void write(const QString& name, const QString& script);
 
   /// "run" with the browser under test, the options and the scripts.
@@ -29,7 +31,10 @@ public:
   void expectNothingLeft() const;
 
 private:
+  void startSecureServer();
+
   TestServer m_server;
+  std::unique_ptr<TestServer> m_secureServer;
   ProgramRun m_program;
 };
 

@@ -1,6 +1,6 @@
 // Test scripts against a site of small pages: one script is one test. A script's leading comment may hold, a line each:
 //   @settings KEY=value       for the user's webwrapper.ini
-//   @options OPTION...        for the program
+//   @options OPTION...        for the program; SITE stands for the site's host and port
 //   @map :NAME REAL NAME      an entry of objects.map
 //   @file TEXT NAME           a file beside the script
 //   @screen WIDTH HEIGHT      a screen of its own
@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <QRegularExpression>
+#include <QUrl>
 
 #include <memory>
 
@@ -96,8 +97,11 @@ TEST_P(Scripts, Pass) {
   writeFiles(site, marks(script, "file"));
   const std::unique_ptr<VirtualScreen> screen = screenFor(site, marks(script, "screen"));
   site.write(QStringLiteral("test.js"), script);
-  const QStringList options =
-      marks(script, "options").join(QLatin1Char(' ')).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+  const QString place = QUrl(site.server().url(QString())).authority();
+  const QStringList options = marks(script, "options")
+                                  .join(QLatin1Char(' '))
+                                  .replace(QLatin1String("SITE"), place)
+                                  .split(QLatin1Char(' '), Qt::SkipEmptyParts);
   const ProgramResult result = site.program().run(site.arguments({QStringLiteral("test.js")}, options));
   const QString exit = marks(script, "exit").value(0, QStringLiteral("0 0 failed;"));
   EXPECT_EQ(result.exitCode, exit.section(QLatin1Char(' '), 0, 0).toInt());

@@ -3,6 +3,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QSslSocket>
 #include <QTcpSocket>
 #include <QTimer>
 #include <QUrl>
@@ -39,19 +42,47 @@ QByteArray responseText(const ServerPage& page) {
   return text + "Connection: close\r\n\r\n" + page.body;
 }
 
+/// Its sockets speak TLS.
+class SecureServer : public QTcpServer {
+public:
+  SecureServer(const QByteArray& certificate, const QByteArray& key)
+      : m_certificate(certificate), m_key(key, QSsl::Ec) {}
+
+protected:
+  void incomingConnection(qintptr descriptor) override {
+    auto* const socket = new QSslSocket(this);
+    socket->setSocketDescriptor(descriptor);
+    socket->setLocalCertificate(m_certificate);
+    socket->setPrivateKey(m_key);
+    socket->startServerEncryption();
+    addPendingConnection(socket);
+  }
+
+private:
+  const QSslCertificate m_certificate;
+  const QSslKey m_key;
+};
+
 }  // namespace
 
-TestServer::TestServer() {
-  QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
-    while (QTcpSocket* socket = m_server.nextPendingConnection()) {
+TestServer::TestServer() : m_server(std::make_unique<QTcpServer>()) { listen(); }
+
+TestServer::TestServer(const QByteArray& certificate, const QByteArray& key)
+    : m_scheme(QStringLiteral("https")), m_server(std::make_unique<SecureServer>(certificate, key)) {
+  listen();
+}
+
+void TestServer::listen() {
+  QObject::connect(m_server.get(), &QTcpServer::newConnection, m_server.get(), [this] {
+    while (QTcpSocket* socket = m_server->nextPendingConnection()) {
       serve(socket);
     }
   });
-  m_server.listen(QHostAddress::LocalHost);
+  m_server->listen(QHostAddress::LocalHost);
 }
 
 QString TestServer::url(const QString& path, const QString& host) const {
-  return QStringLiteral("http://%1:%2%3").arg(host, QString::number(m_server.serverPort()), path);
+  return QStringLiteral("%1://%2:%3%4").arg(m_scheme, host, QString::number(m_server->serverPort()), path);
 }
 
 void TestServer::serve(QTcpSocket* socket) {

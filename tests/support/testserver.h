@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTcpServer>
+#include <memory>
 
 class QTcpSocket;
 
@@ -28,8 +29,10 @@ struct ServerPage {
 class TestServer {
 public:
   TestServer();
+  /// One of https, for the certificate and the key in PEM.
+  TestServer(const QByteArray& certificate, const QByteArray& key);
 
-  bool isListening() const { return m_server.isListening(); }
+  bool isListening() const { return m_server->isListening(); }
 
   /// Answers `path` (such as "/a.html") with `page`.
   void add(const QString& path, const ServerPage& page) { m_pages[path] = page; }
@@ -40,18 +43,20 @@ public:
     m_folders.insert(prefix, folder);
   }
 
-  /// "http://127.0.0.1:port" + path; `host` may be another name of the loopback interface.
+  /// "http://127.0.0.1:port" + path, or with https; `host` may be another name of the loopback interface.
   QString url(const QString& path, const QString& host = QStringLiteral("127.0.0.1")) const;
 
   /// The paths that were asked for, queries included, in order.
   const QStringList& requests() const { return m_requests; }
 
 private:
+  void listen();
   void serve(QTcpSocket* socket);
   ServerPage pageFor(const QString& path) const;
   void answer(QTcpSocket* socket, const QByteArray& request);
 
-  QTcpServer m_server;
+  QString m_scheme = QStringLiteral("http");
+  std::unique_ptr<QTcpServer> m_server;
   QMap<QString, ServerPage> m_pages;
   QMap<QString, QString> m_folders;  ///< By the beginnings of the paths that they serve.
   QStringList m_requests;

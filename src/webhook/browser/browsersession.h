@@ -7,6 +7,7 @@
 
 #include "webhook/browser/browserpage.h"
 #include "webhook/browser/downloads.h"
+#include "webhook/browser/proxy.h"
 #include "webhook/protocol/credentials.h"
 
 namespace Corvex::Webhook {
@@ -18,6 +19,9 @@ struct SessionOptions {
   QString capabilities;    ///< What the server is asked for: JSON, or @ and the path of a file of JSON.
   bool headed = false;     ///< Show its windows.
   QString downloadFolder;  ///< Takes what pages download, if the browser is started here; "" leaves it to the browser.
+  bool ignoreCertificateErrors = false;
+  Proxy proxy;
+  QString pastProxy;  ///< host:port of what is asked for without the proxy.
   int startTimeoutMs = 30000;
   int defaultTimeoutMs = 20000;  ///< Of calls that are given no time.
   QStringList extraArguments;    ///< For the browser's command line.

@@ -11,6 +11,10 @@ struct LoadHint {
   const char* hint;
 };
 
+const char* const untrusted =
+    "The browser does not trust the server's certificate; --ignore-certificate-errors has it take any.";
+const char* const noProxy = "The proxy cannot be reached; start it or correct --proxy.";
+
 const LoadHint loadHints[] = {
     {"net::ERR_CONNECTION_REFUSED", "Nothing listens at that address; start the server or correct the port."},
     {"net::ERR_NAME_NOT_RESOLVED", "The host name is not known; correct it or check the network."},
@@ -22,7 +26,9 @@ const LoadHint loadHints[] = {
     {"net::ERR_FILE_NOT_FOUND", "There is no such file; correct the path."},
     {"net::ERR_UNSAFE_PORT", "The browser refuses this port; use another one."},
     {"net::ERR_ABORTED", "The address gave no page: a download, or an answer without content."},
-    {"net::ERR_CERT_AUTHORITY_INVALID", "The browser does not trust the server's certificate."},
+    {"net::ERR_CERT_", untrusted},
+    {"net::ERR_PROXY_CONNECTION_FAILED", noProxy},
+    {"net::ERR_SOCKS_CONNECTION_FAILED", noProxy},
     {"net::ERR_SSL_PROTOCOL_ERROR", "The server does not speak HTTPS at this port; try http://."},
     {"net::ERR_TOO_MANY_REDIRECTS", "The server redirects in a circle; look at the server."},
     {"net::ERR_HTTP_RESPONSE_CODE_FAILURE", "The server answered with an error and no page."},
@@ -37,7 +43,11 @@ const LoadHint loadHints[] = {
     {"NS_ERROR_OFFLINE", "This machine has no network; connect it."},
     {"NS_BINDING_ABORTED", "The address gave no page: a download, or an answer without content."},
     {"deniedPortAccess", "The browser refuses this port; use another one."},
-    {"SEC_ERROR_UNKNOWN_ISSUER", "The browser does not trust the server's certificate."},
+    {"SEC_ERROR_", untrusted},
+    {"MOZILLA_PKIX_ERROR_", untrusted},
+    {"SSL_ERROR_BAD_CERT_DOMAIN", untrusted},
+    {"NS_ERROR_PROXY_CONNECTION_REFUSED", noProxy},
+    {"NS_ERROR_UNKNOWN_PROXY_HOST", noProxy},
     {"SSL_ERROR_RX_RECORD_TOO_LONG", "The server does not speak HTTPS at this port; try http://."},
 };
 

@@ -19,6 +19,13 @@ const QCommandLineOption remoteOption(QStringLiteral("remote"),
 const QCommandLineOption capabilitiesOption(
     QStringLiteral("capabilities"), QStringLiteral("What to ask the server for: JSON, or @ and a file of JSON."),
     QStringLiteral("json"));
+const QCommandLineOption certificatesOption(QStringLiteral("ignore-certificate-errors"),
+                                            QStringLiteral("Open pages of servers whose certificates are not valid."));
+const QCommandLineOption proxyOption(
+    QStringLiteral("proxy"),
+    QStringLiteral("Ask for pages through this proxy, for those of this machine, too: an HTTP one, or with socks5:// "
+                   "before it one of SOCKS."),
+    QStringLiteral("host:port"));
 const QCommandLineOption timeoutOption(
     QStringLiteral("timeout"),
     QStringLiteral("How long a page may take to load or answer, and waitForObject waits: 20 at first."),
@@ -36,10 +43,20 @@ const OptionWithText optionsWithText[] = {
     {&attachOption, "the address of a running browser's debugging socket", "ws://127.0.0.1:9222/devtools/browser/1234"},
 };
 
+QString readProxy(const QCommandLineParser& parser, Proxy* proxy) {
+  if (parser.isSet(attachOption)) {
+    return QStringLiteral("--proxy cannot stand beside --attach: a browser that runs keeps its proxy.");
+  }
+  const FunctionCallResult<Proxy> read = Proxy::read(parser.value(proxyOption));
+  *proxy = read.value;
+  return read.failed() ? QStringLiteral("--proxy takes %1.").arg(read.error) : QString();
+}
+
 }  // namespace
 
 void addBrowserOptions(QCommandLineParser& parser) {
-  parser.addOptions({browserOption, headedOption, attachOption, remoteOption, capabilitiesOption, timeoutOption});
+  parser.addOptions({browserOption, headedOption, attachOption, remoteOption, capabilitiesOption, certificatesOption,
+                     proxyOption, timeoutOption});
 }
 
 QString readBrowserOptions(const QCommandLineParser& parser, SessionOptions* options) {
@@ -61,7 +78,8 @@ QString readBrowserOptions(const QCommandLineParser& parser, SessionOptions* opt
   if (parser.isSet(remoteOption) && (parser.isSet(attachOption) || parser.isSet(headedOption))) {
     return QStringLiteral("--remote cannot stand beside --attach or --headed: the server decides on its browser.");
   }
-  return QString();
+  options->ignoreCertificateErrors = parser.isSet(certificatesOption);
+  return parser.isSet(proxyOption) ? readProxy(parser, &options->proxy) : QString();
 }
 
 QString readSeconds(const QCommandLineParser& parser, const QCommandLineOption& option, int* milliseconds) {

@@ -8,7 +8,7 @@
 namespace Corvex::Webhook {
 
 /// Adds the options that say which browser a command takes and how long it waits: --browser, --headed, --attach,
-/// --remote, --capabilities, --timeout.
+/// --remote, --capabilities, --ignore-certificate-errors, --proxy, --timeout.
 void addBrowserOptions(QCommandLineParser& parser);
 
 /// Reads them. The error says what is wrong with them; empty when all is well.

@@ -2,6 +2,7 @@
 
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRegularExpression>
 
 #include "webhook/protocol/inpagetext.h"
 #include "webhook/protocol/jstext.h"
@@ -167,8 +168,10 @@ QJsonObject neededCapabilities() {
   return {{QStringLiteral("unhandledPromptBehavior"), leaveOpen}};
 }
 
-Command newSession() {
-  const QJsonObject wanted{{QStringLiteral("alwaysMatch"), neededCapabilities()}};
+Command newSession(bool ignoreCertificateErrors) {
+  QJsonObject capabilities = neededCapabilities();
+  capabilities.insert(QStringLiteral("acceptInsecureCerts"), ignoreCertificateErrors);
+  const QJsonObject wanted{{QStringLiteral("alwaysMatch"), capabilities}};
   return command("session.new", {{QStringLiteral("capabilities"), wanted}});
 }
 
@@ -240,7 +243,10 @@ bool isStartPage(const QString& url) {
 
 QString readNavigationError(const QString& refusal) {
   const bool isAddressWrong = refusal.startsWith(QLatin1String("invalid argument"));
-  return isAddressWrong ? QStringLiteral("Cannot navigate to invalid URL") : refusal;
+  // Firefox wraps the code of what went wrong between it and a server of https.
+  static const QRegularExpression wrapped(QStringLiteral("NS_ERROR_MODULE_SECURITY, ([A-Z_]+)\\)"));
+  const QString code = wrapped.match(refusal).captured(1);
+  return isAddressWrong ? QStringLiteral("Cannot navigate to invalid URL") : code.isEmpty() ? refusal : code;
 }
 
 Document readDocument(const QJsonObject& event) { return {textAt(event, "navigation"), textAt(event, "url")}; }

@@ -19,7 +19,7 @@ const Dialect& dialect();
 
 /// What a session must be asked for: dialogs stay open until they are answered.
 QJsonObject neededCapabilities();
-Command newSession();
+Command newSession(bool ignoreCertificateErrors);
 Command watchPages();
 Command listPages();
 Command createPage();

@@ -128,6 +128,10 @@ Command resumePage() { return command("Runtime.runIfWaitingForDebugger"); }
 
 Command addStartScript(const QString& script) { return startScript(StartScript::forTopPage(script)); }
 
+Command ignoreCertificateErrors() {
+  return command("Security.setIgnoreCertificateErrors", {{QStringLiteral("ignore"), true}});
+}
+
 Command navigate(const QString& url) { return command("Page.navigate", {{QStringLiteral("url"), url}}); }
 
 Command reload() { return command("Page.reload"); }

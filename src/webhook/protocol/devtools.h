@@ -40,6 +40,8 @@ QVector<Command> watchPage();
 Command resumePage();
 /// `script` runs at document start of every new top document, in the global scope.
 Command addStartScript(const QString& script);
+/// Has the page take every server's certificate.
+Command ignoreCertificateErrors();
 Command navigate(const QString& url);
 Command reload();
 Command listHistory();

@@ -101,17 +101,19 @@ QString BrowserControl::openSession() {
   }
   SessionOptions options = m_options;
   options.downloadFolder = m_downloads->path();
+  m_endpoint = std::make_unique<MessageEndpoint>();
+  QString error;
+  if (!m_endpoint->start(&error)) {
+    return error;
+  }
+  // Messages of pages are nobody else's.
+  options.pastProxy = QStringLiteral("127.0.0.1:") + m_endpoint->place().section(QLatin1Char('/'), 0, 0);
   BrowserSession::Start start = BrowserSession::start(options);
   if (!start.error.isEmpty()) {
     return start.error;
   }
   m_session = std::move(start.value);
   m_session->setCredentials(m_credentials);
-  m_endpoint = std::make_unique<MessageEndpoint>();
-  QString error;
-  if (!m_endpoint->start(&error)) {
-    return error;
-  }
   // A page on another machine cannot reach this one's loopback interface.
   const QString port = m_options.remoteUrl.isEmpty() ? m_endpoint->place() : QString();
   m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, port);

@@ -15,6 +15,12 @@ using namespace Corvex::Webhook;
 
 namespace {
 
+SessionOptions wishing(const QString& capabilities) {
+  SessionOptions options;
+  options.capabilities = capabilities;
+  return options;
+}
+
 QString q(const char* text) { return QString::fromUtf8(text); }
 
 QString errorFrom(const QString& url, const QString& capabilities = {}) {
@@ -49,7 +55,7 @@ TEST(WebDriver, AddsWhatIsNeededToTheWishes) {
            "firstMatch":[{"b":2},{}]})"},
   };
   for (const Row& row : rows) {
-    const WantedCapabilities wanted = wantedCapabilities(q(row.wish), q(row.browser));
+    const WantedCapabilities wanted = wantedCapabilities(wishing(q(row.wish)), q(row.browser));
     EXPECT_EQ(wanted.error, QString()) << row.wish;
     EXPECT_EQ(wanted.capabilities, QJsonDocument::fromJson(row.result).object()) << row.wish;
   }
@@ -59,9 +65,9 @@ TEST(WebDriver, TakesTheWishesFromAFile) {
   const QTemporaryDir directory;
   const QString path = directory.filePath(q("wish.json"));
   ASSERT_TRUE(TestSupport::writeFile(path, R"({"a": 1})"));
-  const WantedCapabilities wanted = wantedCapabilities(QLatin1Char('@') + path, {});
+  const WantedCapabilities wanted = wantedCapabilities(wishing(QLatin1Char('@') + path), {});
   EXPECT_EQ(wanted.capabilities.value(q("alwaysMatch")).toObject().value(q("a")).toInt(), 1);
-  EXPECT_EQ(wantedCapabilities(q("@/no/such"), {}).error,
+  EXPECT_EQ(wantedCapabilities(wishing(q("@/no/such")), {}).error,
             q("The capabilities cannot be used: the file '/no/such' cannot be read: No such file or directory. Give a "
               "JSON object, or @ and the "
               "path of a file of one."));

@@ -37,7 +37,7 @@ BrowserSession::Start BidiSession::startFirefox(const SessionOptions& options) {
 
 BrowserSession::Start BidiSession::startRemote(const SessionOptions& options) {
   const QDeadlineTimer deadline(options.startTimeoutMs, Qt::PreciseTimer);
-  const WantedCapabilities wanted = wantedCapabilities(options.capabilities, serversName(options.browser));
+  const WantedCapabilities wanted = wantedCapabilities(options, serversName(options.browser));
   if (!wanted.error.isEmpty()) {
     return Start::failure(wanted.error);
   }
@@ -63,6 +63,7 @@ BrowserSession::Start BidiSession::connectTo(const SessionOptions& options, cons
   }
   std::unique_ptr<BidiSession> session(new BidiSession(std::move(browser), std::move(socket)));
   session->setDefaultTimeout(options.defaultTimeoutMs);
+  session->m_ignoresCertificateErrors = options.ignoreCertificateErrors;
   // A server's browser has its files on its own machine.
   session->m_downloadFolder = capabilities ? QString() : options.downloadFolder;
   const QString trouble = session->open(capabilities, deadline);
@@ -110,7 +111,7 @@ Downloads* BidiSession::downloads() {
 }
 
 QString BidiSession::askForSession(const QDeadlineTimer& deadline) {
-  const Reply reply = channel().call({}, Bidi::newSession(), deadline);
+  const Reply reply = channel().call({}, Bidi::newSession(m_ignoresCertificateErrors), deadline);
   takeCapabilities(reply.result.value(QLatin1String("capabilities")).toObject());
   return reply.status == Reply::Refused
              ? QStringLiteral("The browser gave no session: %1. Use a newer one.").arg(reply.error)

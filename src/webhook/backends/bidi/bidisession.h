@@ -57,6 +57,7 @@ private:
   QString m_contextInFront;
   QString m_downloadFolder;
   std::shared_ptr<Request> m_downloadsKept;  ///< Refused by browsers that cannot do it.
+  bool m_ignoresCertificateErrors = false;
   int m_hiddenPagesToCome = 0;
   bool m_framesGuarded = false;
 };

@@ -58,6 +58,28 @@ user_pref("toolkit.telemetry.reportingpolicy.firstRun", false);
 user_pref("toolkit.telemetry.server", "data:,");
 )";
 
+/// The preferences for a proxy.
+QByteArray proxyPreferences(const SessionOptions& options) {
+  const Proxy& proxy = options.proxy;
+  if (proxy.kind == Proxy::None) {
+    return {};
+  }
+  QString text = QStringLiteral(
+                     "user_pref(\"network.proxy.type\", 1);\n"
+                     "user_pref(\"network.proxy.allow_hijacking_localhost\", true);\n"
+                     "user_pref(\"network.proxy.socks_version\", 5);\n"
+                     "user_pref(\"network.proxy.socks_remote_dns\", true);\n"
+                     "user_pref(\"network.proxy.no_proxies_on\", \"%1\");\n")
+                     .arg(options.pastProxy);
+  const QStringList kinds = proxy.kind == Proxy::Socks ? QStringList{QStringLiteral("socks")}
+                                                       : QStringList{QStringLiteral("http"), QStringLiteral("ssl")};
+  for (const QString& kind : kinds) {
+    text += QStringLiteral("user_pref(\"network.proxy.%1\", \"%2\");\nuser_pref(\"network.proxy.%1_port\", %3);\n")
+                .arg(kind, proxy.host, QString::number(proxy.port));
+  }
+  return text.toUtf8();
+}
+
 QString profile(const QString& directory) { return directory + QStringLiteral("/profile"); }
 
 /// Keeps the browser from writing outside of its directory.
@@ -74,7 +96,7 @@ void addEnvironment(const QString& directory, QMap<QString, QString>& variables)
   }
 }
 
-bool fill(const QString& directory) {
+bool fill(const QString& directory, const SessionOptions& options) {
   const QDir root(directory);
   for (const char* folder : {"tmp", "home", "profile"}) {
     if (!root.mkdir(QLatin1String(folder))) {
@@ -82,7 +104,7 @@ bool fill(const QString& directory) {
     }
   }
   QFile file(profile(directory) + QStringLiteral("/user.js"));
-  return file.open(QIODevice::WriteOnly) && file.write(preferences) > 0 && file.flush();
+  return file.open(QIODevice::WriteOnly) && file.write(preferences + proxyPreferences(options)) > 0 && file.flush();
 }
 
 QString announcedAddress(const QByteArray& output) {
@@ -156,7 +178,7 @@ Instance launch(const SessionOptions& options, const QDeadlineTimer& deadline) {
   const auto prepare = [&](const QString& directory, ChildCommand& command) {
     command.arguments = arguments(directory, options);
     addEnvironment(directory, command.environment);
-    return fill(directory);
+    return fill(directory, options);
   };
   LaunchedBrowser::Start start = LaunchedBrowser::start(program.value, options.headed, prepare);
   instance.browser = std::move(start.browser);

@@ -80,6 +80,18 @@ QString noWebSocket(const QString& url) {
       .arg(url);
 }
 
+QJsonObject proxyCapability(const Proxy& proxy) {
+  QJsonObject capability{{QStringLiteral("proxyType"), QStringLiteral("manual")}};
+  if (proxy.kind == Proxy::Socks) {
+    capability.insert(QStringLiteral("socksProxy"), proxy.place());
+    capability.insert(QStringLiteral("socksVersion"), 5);
+  } else {
+    capability.insert(QStringLiteral("httpProxy"), proxy.place());
+    capability.insert(QStringLiteral("sslProxy"), proxy.place());
+  }
+  return capability;
+}
+
 QString badCapabilities(const QString& why) {
   return QStringLiteral("The capabilities cannot be used: %1. Give a JSON object, or @ and the path of a file of one.")
       .arg(why);
@@ -128,7 +140,8 @@ void WebDriverSession::end() {
   finish(m_network->deleteResource(requestTo(m_url)), QDeadlineTimer(endTimeoutMs));
 }
 
-WantedCapabilities wantedCapabilities(const QString& text, const QString& browser) {
+WantedCapabilities wantedCapabilities(const SessionOptions& options, const QString& browser) {
+  const QString& text = options.capabilities;
   QByteArray json = text.isEmpty() ? QByteArray("{}") : text.toUtf8();
   if (text.startsWith(QLatin1Char('@'))) {
     const FunctionCallResult<QString> file = readTextFile(text.mid(1));
@@ -155,6 +168,12 @@ WantedCapabilities wantedCapabilities(const QString& text, const QString& browse
     always.insert(entry.key(), entry.value());
   }
   always.insert(QStringLiteral("webSocketUrl"), true);
+  if (options.ignoreCertificateErrors) {
+    always.insert(QStringLiteral("acceptInsecureCerts"), true);
+  }
+  if (options.proxy.kind != Proxy::None) {
+    always.insert(QStringLiteral("proxy"), proxyCapability(options.proxy));
+  }
   if (!browser.isEmpty() && !result.contains(firstMatch) && !always.contains(QLatin1String("browserName"))) {
     always.insert(QStringLiteral("browserName"), browser);
   }

@@ -6,6 +6,7 @@
 #include <QUrl>
 #include <memory>
 
+#include "webhook/browser/browsersession.h"
 #include "webhook/browser/ownedbrowser.h"
 
 class QNetworkAccessManager;
@@ -51,9 +52,9 @@ struct WantedCapabilities {
   QString error;  ///< Why `text` cannot be used.
 };
 
-/// `text` is the user's wish, "" for none: JSON, or @ and the path of a file of JSON; either the capabilities
-/// themselves or an object with "alwaysMatch" or "firstMatch". `browser` is the browser's name if none is wished, ""
-/// for any. What this program needs is added.
-WantedCapabilities wantedCapabilities(const QString& text, const QString& browser);
+/// The options' capabilities are the user's wish, "" for none: JSON, or @ and the path of a file of JSON; either the
+/// capabilities themselves or an object with "alwaysMatch" or "firstMatch". `browser` is the browser's name if none is
+/// wished, "" for any. What this program and the other options need is added.
+WantedCapabilities wantedCapabilities(const SessionOptions& options, const QString& browser);
 
 }  // namespace Corvex::Webhook

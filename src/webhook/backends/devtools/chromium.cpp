@@ -74,6 +74,13 @@ QStringList arguments(const QString& directory, const SessionOptions& options) {
   if (geteuid() == 0) {
     list.append(QStringLiteral("--no-sandbox"));  // its sandbox does not work for root
   }
+  if (options.proxy.kind != Proxy::None) {
+    // Otherwise the browser asks this machine's servers itself.
+    const bool isSocks = options.proxy.kind == Proxy::Socks;
+    list << QStringLiteral("--proxy-server=%1://%2")
+                .arg(isSocks ? QStringLiteral("socks5") : QStringLiteral("http"), options.proxy.place())
+         << QStringLiteral("--proxy-bypass-list=<-loopback>;") + options.pastProxy;
+  }
   return list + options.extraArguments + QStringList{QStringLiteral("about:blank")};
 }
 

@@ -40,6 +40,7 @@ BrowserSession::Start DevToolsSession::open(const SessionOptions& options, std::
                                             std::unique_ptr<Transport> transport, const QDeadlineTimer& deadline) {
   std::unique_ptr<DevToolsSession> session(new DevToolsSession(std::move(browser), std::move(transport)));
   session->setDefaultTimeout(options.defaultTimeoutMs);
+  session->m_ignoresCertificateErrors = options.ignoreCertificateErrors;
   if (!session->isVisited() && !options.downloadFolder.isEmpty()) {
     session->keepDownloads(options.downloadFolder);
     session->channel().start({}, DevTools::keepDownloads(options.downloadFolder));
@@ -128,6 +129,9 @@ void DevToolsSession::onAttached(const QJsonObject& parameters) {
   }
   if (target.opener.isEmpty() && m_pagesToCome > 0) {
     --m_pagesToCome;
+  }
+  if (m_ignoresCertificateErrors) {
+    channel().start(target.session, DevTools::ignoreCertificateErrors());
   }
   auto page = std::make_unique<DevToolsPage>(channel(), *this, authentication(), target, m_startScripts);
   m_pageOfTarget[target.id] = page.get();

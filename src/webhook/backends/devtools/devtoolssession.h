@@ -39,6 +39,7 @@ private:
   QHash<QString, DevToolsPage*> m_pageOfTarget;
   QHash<QString, DevToolsPage*> m_pageOfSession;
   QStringList m_startScripts;  ///< Of pages that open from now on.
+  bool m_ignoresCertificateErrors = false;
   int m_pagesToCome = 0;
 };
 
