@@ -19,9 +19,9 @@ struct ServerPage {
   QByteArray type = "text/html; charset=utf-8";
   QList<QPair<QByteArray, QByteArray>> headers = {};
   int status = 200;
+  bool silent = false;    ///< Takes the request and never answers.
   QByteArray login = {};  ///< USER:PASSWORD that the page is kept for; others are asked for it.
   int missing = 0;        ///< Bytes that are promised and do not come; the connection ends after a moment.
-  bool silent = false;    ///< Takes the request and never answers.
 };
 
 /// A small HTTP server on a free port of the loopback interface. It serves from the event loop of the thread that made
