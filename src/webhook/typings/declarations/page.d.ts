@@ -80,7 +80,7 @@ declare function waitForDownload(milliseconds?: number): Download;
  * @example
  * mouseClick("{tagName='A' id='prices'}");
  * saveDownload(waitForDownload().path, "kept/prices.csv");
- * test.compare(readTable("kept/prices.csv").length, 1);
+ * test.compare(readTable("kept/prices.csv").length, 2);
  */
 declare function saveDownload(path: string, file: string): void;
 
