@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include <utility>
+
 namespace Corvex::Webhook {
 
 namespace {
@@ -14,6 +16,9 @@ using WebWrapper::EventMap;
 
 // From the first press of a double click to its end.
 const int longestDoubleClickMs = 1500;
+
+// Longer than people who type pause between two keys, mostly.
+const int idleMs = 1000;
 
 QString item(const EventMap& data, const char* key) { return data.value(QLatin1String(key)); }
 
@@ -37,8 +42,26 @@ void EventRecorder::recordCall(const QString& objectName, const char* functionNa
   m_lastIsReturn = m_event == QLatin1String("click") && function == QLatin1String("clickButton");
 }
 
+void EventRecorder::flushIdleText() {
+  if (m_idle.hasExpired()) {
+    m_idle = QDeadlineTimer(QDeadlineTimer::Forever);
+    m_isIdleFlush = true;
+    flushRecordedTextInput();
+    m_isIdleFlush = false;
+  }
+}
+
+void EventRecorder::begin() {
+  const QString address = std::exchange(m_firstPage, QString());
+  if (!address.isEmpty()) {
+    append(EventData(QStringLiteral("startBrowser"), address, {}), nullptr);
+  }
+}
+
 void EventRecorder::append(const EventData& call, const QTime* time) {
+  begin();
   m_lastIsReturn = false;
+  m_openField.clear();
   m_times.append(time ? *time : QTime());
   m_calls.append(call, time);
 }
@@ -52,8 +75,15 @@ void EventRecorder::recordText(const QString& objectName, const QString& text, c
   }
   const bool isContent = !isReturn && content.size() == text.size() && content.contains(QLatin1Char('\n'));
   const QString typed = isContent ? content : text;
+  if (!isReturn && m_openField == objectName) {
+    if (m_calls.last().arguments().at(0)->toString() == typed) {
+      return;
+    }
+    removeLastRecordedEvent();
+  }
   const QString function = !isReturn && readsAsKeys(typed) ? QStringLiteral("setText") : QStringLiteral("typeText");
   append(EventData(function, objectName, {Inspector::self()->wrapString(typed)}), time);
+  m_openField = m_isIdleFlush && !isReturn ? objectName : QString();
 }
 
 void EventRecorder::addUnmatchedProperty(const QString& objectName, const QString& property) {
@@ -79,12 +109,17 @@ void EventRecorder::doubleClickSeen(const QString& objectName, const EventMap& d
   }
 }
 
-void EventRecorder::keyEventSeen(const QString&) {}
+void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleMs); }
 
 bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
   m_event = item(data, "event");
   if (m_event.startsWith(QLatin1String("key")) && data.contains(QStringLiteral("value"))) {
     m_contents.insert(objectName, item(data, "value"));
+  }
+  if (m_event == QLatin1String("unload")) {
+    // Every link and every form leads here; windows that close are another matter.
+    flushRecordedTextInput();
+    return true;
   }
   return takeDialog(m_event, data) || EventLogger::compressedNonRecordingEventData(objectName, data);
 }

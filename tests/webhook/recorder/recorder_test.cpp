@@ -108,6 +108,8 @@ TEST_F(Recording, NewNamesAreShortAndReadableAndKnownOnesStay) {
       {"{tagName='BUTTON' simplifiedInnerText='Save' type='button'}", ":Save 3"},
       {"{tagName='BUTTON' simplifiedInnerText='Save' type='submit'}", ":Save 2"},
       {"{tagName='INPUT' name='mail' type='email'}", ":mail"},
+      {"{tagName='INPUT' name='stock' type='checkbox' value='on'}", ":stock"},
+      {"{tagName='INPUT' name='go' type='submit' value='Send it'}", ":Send it"},
       {"{tagName='TABLE'}", ":table"},
       {"{tagName='P' innerText='a\tb\n c'}", ":a b c"},
       {"{tagName='P' innerText='" + QString("word ").repeated(20) + "'}", ":word word word word word word word word"},
