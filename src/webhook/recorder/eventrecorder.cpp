@@ -5,6 +5,7 @@
 
 #include <QRegularExpression>
 #include <QStringList>
+#include <QUrl>
 
 #include <utility>
 
@@ -22,6 +23,21 @@ const int idleMs = 1000;
 
 QString item(const EventMap& data, const char* key) { return data.value(QLatin1String(key)); }
 
+/// What was typed into a prompt ends its message, as the page got it: only the browser has encoded it, for an address.
+QString withEscapedAnswer(const QString& text) {
+  const QString head = QStringLiteral("event=prompt&ret=");
+  const int at = text.indexOf(head);
+  if (at < 0) {
+    return text;
+  }
+  const int begin = at + head.size();
+  QString result = text.left(begin);
+  for (const QChar unit : QUrl::fromPercentEncoding(text.mid(begin).toUtf8())) {
+    result += QStringLiteral("%u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+  }
+  return result;
+}
+
 /// Whether typing the text would take parts of it for keys.
 bool readsAsKeys(const QString& text) {
   static const QRegularExpression brackets(QStringLiteral("<[A-Za-z0-9]+(\\+[^<>\\s]+)*>"));
@@ -29,6 +45,8 @@ bool readsAsKeys(const QString& text) {
 }
 
 }  // namespace
+
+void EventRecorder::logEvent(const QString& text) { EventLogger::logEvent(withEscapedAnswer(text)); }
 
 void EventRecorder::recordCall(const QString& objectName, const char* functionName, const ObjectList& arguments,
                                const QTime* time) {

@@ -25,6 +25,7 @@ public:
   /// field next takes its place. To be called again and again.
   void flushIdleText();
 
+  void logEvent(const QString& text) override;
   void recordCall(const QString& objectName, const char* functionName, const ObjectList& arguments,
                   const QTime* time) override;
   void addUnmatchedProperty(const QString& objectName, const QString& property) override;
