@@ -3,6 +3,7 @@
 #include "webhook/cli/hookscriptcommand.h"
 #include "webhook/cli/namescommand.h"
 #include "webhook/cli/output.h"
+#include "webhook/cli/recordcommand.h"
 #include "webhook/cli/runcommand.h"
 #include "webhook/cli/treecommand.h"
 #include "webhook/cli/typingscommand.h"
@@ -21,6 +22,7 @@ struct Command {
 
 const Command commands[] = {
     {"run", "run test scripts in a browser", runScriptsCommand},
+    {"record", "write what you do in a browser as a script", recordCommand},
     {"names", "check that the names of a page's elements find them again", namesCommand},
     {"tree", "show the objects of a page as a tree", treeCommand},
     {"typings", "print a declaration file by which editors complete test scripts", typingsCommand},

@@ -73,6 +73,7 @@ void BrowserWindows::noteClosed(Connection* connection) {
   if (wasCurrent && !left.isEmpty()) {
     setCurrent(left.last());
   }
+  Q_EMIT windowClosed(connection);
 }
 
 Connection* BrowserWindows::current() const { return m_model.current(); }

@@ -28,6 +28,9 @@ public:
   /// For a browser whose protocol answers no dialogs; before `open`.
   void keepDialogsInPages() { m_identity.opensNativeDialogs = false; }
 
+  /// Has pages tell of what happens in them; before `open`.
+  void recordPages() { m_identity.isRecorded = true; }
+
   /// Hooks the first page, and every page that opens from now on.
   QString open();
 
@@ -47,6 +50,8 @@ Q_SIGNALS:
   /// A page shows another document, or is about to.
   void documentExpected(const QString& url);
   void dialogOpened(const Corvex::Webhook::Dialog& dialog);
+  /// A window went, by itself or by somebody; those that are left know of it.
+  void windowClosed(Corvex::Webhook::Connection* connection);
 
 private:
   void addPage(BrowserPage* page);

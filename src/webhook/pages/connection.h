@@ -39,6 +39,7 @@ public:
   /// asked something before.
   void awaitNavigation();
   BrowserPage* page() const { return m_page; }
+  const QString& tabId() const { return m_tabId; }
   /// Of the document that the page shows, also while the page cannot be asked.
   QString address() const { return m_page ? m_page->url() : QString(); }
 

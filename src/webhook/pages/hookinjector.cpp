@@ -73,6 +73,9 @@ QString globals(const WrapperConfig& config, const BrowserIdentity& browser) {
     text += assignment("window.__corvex__port", QLatin1Char('"') + browser.messagePort + QLatin1Char('"'));
     text += assignment("window.__corvex__asynclog", QStringLiteral("true"));
   }
+  if (browser.isRecorded) {
+    text += assignment("window.__corvex__recording", QStringLiteral("true"));
+  }
   const int scheme = config.supportSinglePropertyNaming() ? singlePropertyNames : propertyNames;
   text += assignment("window.__corvex__os", QStringLiteral("\"Linux\""));
   text += assignment("window.__corvex__namegen__singleprop", QString::number(singlePropertyNames));

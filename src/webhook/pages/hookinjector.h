@@ -21,6 +21,8 @@ struct BrowserIdentity {
   /// Whether dialogs open as the browser's own, which its protocol answers; otherwise pages swallow alerts, and wait
   /// for the answer to the others.
   bool opensNativeDialogs = true;
+  /// Whether pages tell of what happens in them.
+  bool isRecorded = false;
 };
 
 /// The text that hooks a top page: browser flags and configuration values, then the namespace prelude, then the hook

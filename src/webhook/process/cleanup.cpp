@@ -39,9 +39,20 @@ void runLocked(Notes& all) {
   all.directories.clear();
 }
 
+std::atomic<std::atomic<bool>*> stopFlag{nullptr};
+
+/// Whether a signal is only a wish.
+bool isWish() {
+  std::atomic<bool>* const flag = stopFlag.exchange(nullptr);
+  if (flag) {
+    *flag = true;
+  }
+  return flag;
+}
+
 void serveSignals(sigset_t signals) {
   int signal = 0;
-  while (sigwait(&signals, &signal) != 0) {
+  while (sigwait(&signals, &signal) != 0 || isWish()) {
   }
   Notes& all = notes();
   all.mutex.lock();  // for good: nothing new may begin any more
@@ -66,6 +77,8 @@ void install() {
   std::thread(serveSignals, signals).detach();
   std::atexit(run);
 }
+
+void setStopFlag(std::atomic<bool>* flag) { stopFlag = flag; }
 
 pid_t noteProcessGroup(const std::string& mark, const std::function<pid_t()>& start) {
   Notes& all = notes();

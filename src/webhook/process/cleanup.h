@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <atomic>
 #include <functional>
 #include <string>
 
@@ -14,6 +15,10 @@ namespace Corvex::Webhook::Cleanup {
 /// which cleans up and ends the program with exit code 128 + signal. A reader that goes away makes writing fail, and
 /// ends nothing.
 void install();
+
+/// Has the next of the signals only set this flag, so that the program can end in order; the one after it ends the
+/// program as ever. Null has each signal end it.
+void setStopFlag(std::atomic<bool>* flag);
 
 /// Runs `start`, which forks a process that leads its own group, and notes the group that it returns (none if below 1).
 /// No signal is served between the two. `mark` is an entry of the environment ("NAME=value") of every process to end,

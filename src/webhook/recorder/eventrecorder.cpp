@@ -5,6 +5,9 @@
 
 #include <QRegularExpression>
 #include <QStringList>
+#include <QUrl>
+
+#include <utility>
 
 namespace Corvex::Webhook {
 
@@ -15,7 +18,25 @@ using WebWrapper::EventMap;
 // From the first press of a double click to its end.
 const int longestDoubleClickMs = 1500;
 
+// Longer than people who type pause between two keys, mostly.
+const int idleMs = 1000;
+
 QString item(const EventMap& data, const char* key) { return data.value(QLatin1String(key)); }
+
+/// What was typed into a prompt ends its message, as the page got it: only the browser has encoded it, for an address.
+QString withEscapedAnswer(const QString& text) {
+  const QString head = QStringLiteral("event=prompt&ret=");
+  const int at = text.indexOf(head);
+  if (at < 0) {
+    return text;
+  }
+  const int begin = at + head.size();
+  QString result = text.left(begin);
+  for (const QChar unit : QUrl::fromPercentEncoding(text.mid(begin).toUtf8())) {
+    result += QStringLiteral("%u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+  }
+  return result;
+}
 
 /// Whether typing the text would take parts of it for keys.
 bool readsAsKeys(const QString& text) {
@@ -24,6 +45,8 @@ bool readsAsKeys(const QString& text) {
 }
 
 }  // namespace
+
+void EventRecorder::logEvent(const QString& text) { EventLogger::logEvent(withEscapedAnswer(text)); }
 
 void EventRecorder::recordCall(const QString& objectName, const char* functionName, const ObjectList& arguments,
                                const QTime* time) {
@@ -37,8 +60,26 @@ void EventRecorder::recordCall(const QString& objectName, const char* functionNa
   m_lastIsReturn = m_event == QLatin1String("click") && function == QLatin1String("clickButton");
 }
 
+void EventRecorder::flushIdleText() {
+  if (m_idle.hasExpired()) {
+    m_idle = QDeadlineTimer(QDeadlineTimer::Forever);
+    m_isIdleFlush = true;
+    flushRecordedTextInput();
+    m_isIdleFlush = false;
+  }
+}
+
+void EventRecorder::begin() {
+  const QString address = std::exchange(m_firstPage, QString());
+  if (!address.isEmpty()) {
+    append(EventData(QStringLiteral("startBrowser"), address, {}), nullptr);
+  }
+}
+
 void EventRecorder::append(const EventData& call, const QTime* time) {
+  begin();
   m_lastIsReturn = false;
+  m_openField.clear();
   m_times.append(time ? *time : QTime());
   m_calls.append(call, time);
 }
@@ -52,8 +93,15 @@ void EventRecorder::recordText(const QString& objectName, const QString& text, c
   }
   const bool isContent = !isReturn && content.size() == text.size() && content.contains(QLatin1Char('\n'));
   const QString typed = isContent ? content : text;
+  if (!isReturn && m_openField == objectName) {
+    if (m_calls.last().arguments().at(0)->toString() == typed) {
+      return;
+    }
+    removeLastRecordedEvent();
+  }
   const QString function = !isReturn && readsAsKeys(typed) ? QStringLiteral("setText") : QStringLiteral("typeText");
   append(EventData(function, objectName, {Inspector::self()->wrapString(typed)}), time);
+  m_openField = m_isIdleFlush && !isReturn ? objectName : QString();
 }
 
 void EventRecorder::addUnmatchedProperty(const QString& objectName, const QString& property) {
@@ -79,12 +127,17 @@ void EventRecorder::doubleClickSeen(const QString& objectName, const EventMap& d
   }
 }
 
-void EventRecorder::keyEventSeen(const QString&) {}
+void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleMs); }
 
 bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
   m_event = item(data, "event");
   if (m_event.startsWith(QLatin1String("key")) && data.contains(QStringLiteral("value"))) {
     m_contents.insert(objectName, item(data, "value"));
+  }
+  if (m_event == QLatin1String("unload")) {
+    // Every link and every form leads here; windows that close are another matter.
+    flushRecordedTextInput();
+    return true;
   }
   return takeDialog(m_event, data) || EventLogger::compressedNonRecordingEventData(objectName, data);
 }

@@ -2,6 +2,7 @@
 
 #include "wrappers/web/recording/eventlogger.h"
 
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QVector>
 
@@ -16,6 +17,15 @@ public:
   /// Borrows the recorder.
   explicit EventRecorder(Recorder& calls) : m_calls(calls) {}
 
+  /// The page that the recording begins with: recorded by `begin`, or before what happens in it earlier.
+  void setFirstPage(const QString& address) { m_firstPage = address; }
+  void begin();
+
+  /// Records text that has stood still for a moment, so that it is kept whatever happens. What is typed into the same
+  /// field next takes its place. To be called again and again.
+  void flushIdleText();
+
+  void logEvent(const QString& text) override;
   void recordCall(const QString& objectName, const char* functionName, const ObjectList& arguments,
                   const QTime* time) override;
   void addUnmatchedProperty(const QString& objectName, const QString& property) override;
@@ -33,10 +43,17 @@ private:
   void append(const EventData& call, const QTime* time);
 
   Recorder& m_calls;
+  /// Empty once it is recorded.
+  QString m_firstPage;
   /// The event that is worked on.
   QString m_event;
   /// When the last calls came, the last one last.
   QVector<QTime> m_times;
+  /// When text that was typed will have stood still.
+  QDeadlineTimer m_idle{QDeadlineTimer::Forever};
+  bool m_isIdleFlush = false;
+  /// The field whose text is the last call, and was ended by nothing but a pause.
+  QString m_openField;
   /// Whether the last call is a click that a browser made of a Return.
   bool m_lastIsReturn = false;
   /// The content of each field as the page told it last, by the names of the fields.

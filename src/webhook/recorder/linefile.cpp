@@ -1,16 +1,18 @@
 #include "webhook/recorder/linefile.h"
 
+#include <utility>
+
 namespace Corvex::Webhook {
 
 QString LineFile::open(const QString& path, Mode mode) {
   m_begins.clear();
   m_file.setFileName(path);
-  QIODevice::OpenMode flags = QIODevice::ReadWrite;
-  if (mode == Replace) {
-    flags |= QIODevice::Truncate;
-  }
-  if (!m_file.open(flags)) {
+  if (!m_file.open(QIODevice::ReadWrite)) {
     return failure("cannot be written");
+  }
+  m_replaces = mode == Replace;
+  if (m_replaces) {
+    return QString();
   }
   const qint64 size = m_file.size();
   char last = '\n';
@@ -22,6 +24,9 @@ QString LineFile::open(const QString& path, Mode mode) {
 }
 
 QString LineFile::write(const QString& line) {
+  if (std::exchange(m_replaces, false) && !m_file.resize(0)) {
+    return failure("could not be replaced");
+  }
   const qint64 begin = m_file.pos();
   const QByteArray bytes = line.toUtf8() + '\n';
   if (m_file.write(bytes) != bytes.size() || !m_file.flush()) {

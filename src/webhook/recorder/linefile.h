@@ -12,7 +12,8 @@ class LineFile {
 public:
   enum Mode { Replace, Append };
 
-  /// Answers why the file cannot be written. To append to a file whose last line is not ended ends that.
+  /// Answers why the file cannot be written. What it holds is only replaced by the first line; to append to a file
+  /// whose last line is not ended ends that.
   QString open(const QString& path, Mode mode);
   bool isOpen() const { return m_file.isOpen(); }
   QString path() const { return m_file.fileName(); }
@@ -26,6 +27,7 @@ private:
   QString failure(const char* what) const;
 
   QFile m_file;
+  bool m_replaces = false;
   /// Where the lines begin.
   std::vector<qint64> m_begins;
 };

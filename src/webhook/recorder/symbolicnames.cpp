@@ -12,8 +12,9 @@ namespace {
 const int mostCharacters = 40;
 
 /// What people know an object by, the best first.
-const char* const tellingProperties[] = {"label", "simplifiedInnerText", "innerText", "value", "text", "alt",
-                                         "title", "placeholder",         "id",        "name",  "href", "src"};
+const char* const tellingProperties[] = {
+    "label", "simplifiedInnerText", "innerText", "text", "alt", "title", "placeholder", "id", "name", "value", "href",
+    "src"};
 
 /// Equal for names that mean the same.
 QString keyOf(const QString& realName) {
@@ -51,6 +52,12 @@ QString readable(const QString& text) {
 }
 
 QString tellingText(const ObjectName& name) {
+  // The value of a button is what is written on it.
+  static const QStringList buttons{QStringLiteral("button"), QStringLiteral("submit"), QStringLiteral("reset")};
+  const QString value = readable(name.property(QStringLiteral("value")).value());
+  if (!value.isEmpty() && buttons.contains(name.property(QStringLiteral("type")).value())) {
+    return value;
+  }
   for (const char* property : tellingProperties) {
     const QString text = readable(name.property(QLatin1String(property)).value());
     if (!text.isEmpty()) {

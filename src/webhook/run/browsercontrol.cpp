@@ -119,6 +119,10 @@ QString BrowserControl::openSession() {
   m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, port);
   m_dialogs = std::make_unique<Dialogs>(*m_windows, *m_endpoint);
   m_dispatcher = std::make_unique<MessageDispatcher>(*m_endpoint, *m_windows, *m_dialogs);
+  if (m_logger) {
+    m_windows->recordPages();
+    m_dispatcher->setEventLogger(m_logger);
+  }
   QObject::connect(m_session.get(), &BrowserSession::lost, m_windows.get(), [this](const QString& reason) {
     m_lossReason = reason;
     m_browserFailure = true;

@@ -19,6 +19,10 @@
 #include <functional>
 #include <memory>
 
+namespace Corvex::WebWrapper {
+class EventLogger;
+}
+
 namespace Corvex::Webhook {
 
 /// The browser of a run of test scripts: started by the script's `startBrowser`, gone when the script has ended.
@@ -44,6 +48,9 @@ public:
   /// Closes the current window.
   QString closeWindow();
   void closeBrowser();
+
+  /// Has what happens in pages of the next browser told to this logger; borrowed.
+  void recordWith(WebWrapper::EventLogger* logger) { m_logger = logger; }
 
   /// Null when no browser runs.
   BrowserWindows* windows() const { return m_windows.get(); }
@@ -92,6 +99,7 @@ private:
   std::unique_ptr<BrowserWindows> m_windows;
   std::unique_ptr<Dialogs> m_dialogs;
   std::unique_ptr<MessageDispatcher> m_dispatcher;
+  WebWrapper::EventLogger* m_logger = nullptr;
   QString m_scriptFolder;
   QString m_lossReason;
   bool m_browserFailure = false;

@@ -108,6 +108,8 @@ TEST_F(Recording, NewNamesAreShortAndReadableAndKnownOnesStay) {
       {"{tagName='BUTTON' simplifiedInnerText='Save' type='button'}", ":Save 3"},
       {"{tagName='BUTTON' simplifiedInnerText='Save' type='submit'}", ":Save 2"},
       {"{tagName='INPUT' name='mail' type='email'}", ":mail"},
+      {"{tagName='INPUT' name='stock' type='checkbox' value='on'}", ":stock"},
+      {"{tagName='INPUT' name='go' type='submit' value='Send it'}", ":Send it"},
       {"{tagName='TABLE'}", ":table"},
       {"{tagName='P' innerText='a\tb\n c'}", ":a b c"},
       {"{tagName='P' innerText='" + QString("word ").repeated(20) + "'}", ":word word word word word word word word"},
@@ -167,8 +169,9 @@ TEST_F(Recording, AReturnThatPressesTheButtonOfAFormIsOneOfBoth) {
 
 TEST_F(Recording, DialogsAreAnsweredAfterWhatOpenedThem) {
   EXPECT_EQ(recorded({"0|keyup&object=f&type=text&value=a", "1|alert", "2|disableFallbackWrapper",
-                      "3|confirm&ret=false", "4|enableFallbackWrapper", "5|prompt&ret=Ada"}),
-            QString("typeText(\"f\", \"a\");\ncloseAlert();\ncloseConfirm(false);\nclosePrompt(\"Ada\");"));
+                      "3|confirm&ret=false", "4|enableFallbackWrapper", "5|prompt&ret=Zo%C3%AB%20&%26+ 100%"}),
+            QString::fromUtf8(
+                "typeText(\"f\", \"a\");\ncloseAlert();\ncloseConfirm(false);\nclosePrompt(\"Zo\u00eb &&+ 100%\");"));
 }
 
 TEST_F(Recording, FilesHoldEachLineAtOnceAndKeepWhatTheyHeld) {

@@ -1,0 +1,168 @@
+#include "webhook/cli/recordcommand.h"
+
+#include "corvexhook/inspector.h"
+#include "shared/visibletext.h"
+#include "shared/wait.h"
+#include "webhook/cli/browseroptions.h"
+#include "webhook/cli/commandline.h"
+#include "webhook/cli/commandoptions.h"
+#include "webhook/cli/output.h"
+#include "webhook/process/cleanup.h"
+#include "webhook/recorder/eventrecorder.h"
+#include "webhook/recorder/recordingfiles.h"
+#include "webhook/run/browsercontrol.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <atomic>
+#include <limits>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+const QCommandLineOption outputOption({QStringLiteral("o"), QStringLiteral("output")},
+                                      QStringLiteral("Write the script to this file, too."), QStringLiteral("file"));
+const QCommandLineOption objectMapOption(
+    QStringLiteral("object-map"),
+    QStringLiteral("Use the symbolic names of this file, and add to it those of new objects."), QStringLiteral("file"));
+const QCommandLineOption appendOption(QStringLiteral("append"),
+                                      QStringLiteral("Add to the script in place of replacing it."));
+const QCommandLineOption headlessOption(QStringLiteral("headless"), QStringLiteral("Show no window."));
+
+// How soon the recording ends after somebody ended it.
+const int attentionMs = 50;
+
+struct RecordOptions {
+  SessionOptions session;
+  RecordingFiles::Options files;
+  QString address;
+};
+
+/// An error, or an empty text.
+QString readOptions(const QCommandLineParser& parser, RecordOptions* options) {
+  const QString error = readBrowserOptions(parser, &options->session);
+  options->session.headed = !parser.isSet(headlessOption) && options->session.remoteUrl.isEmpty();
+  options->files = {parser.value(outputOption), parser.value(objectMapOption), parser.isSet(appendOption)};
+  QStringList addresses = parser.positionalArguments();
+  addresses.removeAll(QString());
+  if (!error.isEmpty()) {
+    return error;
+  }
+  if (addresses.size() != 1) {
+    return addresses.isEmpty() ? QStringLiteral("The URL of the first page is missing.")
+                               : QStringLiteral("It takes one URL, not %1.").arg(addresses.size());
+  }
+  for (const QCommandLineOption* option : {&outputOption, &objectMapOption}) {
+    if (parser.isSet(*option) && parser.value(*option).isEmpty()) {
+      return QStringLiteral("--%1 needs the name of a file.").arg(option->names().constLast());
+    }
+  }
+  if (options->files.appends && options->files.script.isEmpty()) {
+    return QStringLiteral("--append needs a script to add to: give it with -o.");
+  }
+  options->address = addresses.first();
+  return QString();
+}
+
+/// As the script is to give it, from whose folder files are looked for.
+QString addressForScript(const RecordOptions& options) {
+  const QFileInfo file(options.address);
+  if (!file.isFile()) {
+    return options.address;
+  }
+  return options.files.script.isEmpty()
+             ? file.absoluteFilePath()
+             : QFileInfo(options.files.script).absoluteDir().relativeFilePath(file.absoluteFilePath());
+}
+
+class RecordingRun {
+public:
+  explicit RecordingRun(const RecordOptions& options)
+      : m_options(options),
+        m_files([this](const QString& line) { show(line); }, [this](const QString& error) { complain(error); }),
+        m_calls(m_files),
+        m_logger(m_calls),
+        m_browser(options.session) {
+    Inspector::self()->attachRecorder(&m_calls);
+    Inspector::self()->setDefaultTimeout(options.session.defaultTimeoutMs);
+    m_browser.recordWith(&m_logger);
+  }
+  ~RecordingRun() {
+    Inspector::self()->setRecording(false);
+    Inspector::self()->attachRecorder(nullptr);
+    Cleanup::setStopFlag(nullptr);
+  }
+
+  /// Answers the exit code.
+  int run();
+
+private:
+  QString startBrowser();
+  void show(const QString& line) { m_outputCode = qMax(m_outputCode, printOut(visibleText(line) + u'\n', 0)); }
+  void complain(const QString& error) {
+    m_failure = error;
+    printError(QStringLiteral("corvexweb record: %1\n").arg(error));
+  }
+
+  const RecordOptions& m_options;
+  RecordingFiles m_files;
+  RecordedCalls m_calls;
+  EventRecorder m_logger;
+  BrowserControl m_browser;
+  std::atomic<bool> m_isOver{false};
+  QString m_failure;
+  int m_outputCode = ExitCode::Success;
+};
+
+QString RecordingRun::startBrowser() {
+  m_logger.setFirstPage(addressForScript(m_options));
+  const QFileInfo file(m_options.address);
+  return m_browser.startBrowser(file.isFile() ? file.absoluteFilePath() : m_options.address);
+}
+
+int RecordingRun::run() {
+  const QString error = m_files.open(m_options.files);
+  if (!error.isEmpty()) {
+    return wrongUsage(QStringLiteral("record"), error);
+  }
+  Cleanup::setStopFlag(&m_isOver);
+  Inspector::self()->setRecording(true);
+  const QString notStarted = startBrowser();
+  if (!notStarted.isEmpty()) {
+    complain(notStarted);
+    return m_browser.hadBrowserFailure() ? ExitCode::BrowserFailed : ExitCode::Failed;
+  }
+  m_logger.begin();
+  poll(std::numeric_limits<int>::max(), attentionMs, [this] {
+    m_logger.flushIdleText();
+    return m_isOver || !m_failure.isEmpty() || m_outputCode != ExitCode::Success ||
+           m_browser.windows()->connections().isEmpty();
+  });
+  m_logger.flushRecordedTextInput();
+  Inspector::self()->setRecording(false);
+  return m_failure.isEmpty() ? m_outputCode : ExitCode::Failed;
+}
+
+}  // namespace
+
+int recordCommand(const QStringList& arguments) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(QStringLiteral(
+      "Opens a page in a browser and writes what you do there as a test script, line by line, until you close the\n"
+      "window or press Ctrl+C.\n\n"
+      "Exit code: 0 recorded, 1 the page could not be loaded or the recording could not be written, 2 wrong usage,\n"
+      "3 the browser could not be started."));
+  addBrowserOptions(parser);
+  parser.addOptions({outputOption, objectMapOption, appendOption, headlessOption});
+  parser.addPositionalArgument(QStringLiteral("URL"), QStringLiteral("The first page: an address, or an HTML file."));
+  if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {
+    return *exitCode;
+  }
+  RecordOptions options;
+  const QString error = readOptions(parser, &options);
+  return error.isEmpty() ? RecordingRun(options).run() : wrongUsage(arguments.value(0), error);
+}
+
+}  // namespace Corvex::Webhook
