@@ -82,11 +82,12 @@ ScriptValue setCookie(BrowserControl& control, const ObjectList& arguments) {
   Cookie cookie;
   cookie.name = arguments[0]->toString();
   cookie.value = arguments[1]->toString();
-  static const QRegularExpression unfit(QStringLiteral("[;\\x00-\\x1f\\x7f]"));
+  static const QRegularExpression unfit(QStringLiteral("[^\\x20-\\x7e]|;"));
   const bool isNamed = !cookie.name.isEmpty() && !cookie.name.contains(QLatin1Char('='));
   if (!isNamed || (cookie.name + cookie.value).contains(unfit)) {
-    return nothing(QStringLiteral(
-        "setCookie needs a name without '=', and name and value without semicolons and control characters."));
+    return nothing(
+        QStringLiteral("setCookie needs a name without '=', and name and value of ASCII characters without semicolons. "
+                       "encodeURIComponent writes any text so."));
   }
   const QString options = arguments.size() > 2 && arguments[2] ? arguments[2]->toString() : QStringLiteral("{}");
   const QJsonDocument document = QJsonDocument::fromJson(options.toUtf8());
