@@ -41,8 +41,22 @@ QString RecordingFiles::scriptName(const QString& realName) {
   return name.symbolicName;
 }
 
+void RecordingFiles::hideSecrets(const QString& variable, const std::function<bool(const QString&)>& isSecret) {
+  m_secretVariable = variable;
+  m_isSecret = isSecret;
+}
+
+// The key that sends a form is no secret.
+bool RecordingFiles::hides(const EventData& call) const {
+  const bool isText =
+      call.functionName() == QLatin1String("typeText") || call.functionName() == QLatin1String("setText");
+  return isText && !m_secretVariable.isEmpty() && m_isSecret(call.objectName()) &&
+         call.arguments().at(0)->toString() != QLatin1String("<Return>");
+}
+
 void RecordingFiles::write(const EventData& call) {
-  const QString line = scriptLine(call, namesAnObject(call) ? scriptName(call.objectName()) : call.objectName());
+  const QString name = namesAnObject(call) ? scriptName(call.objectName()) : call.objectName();
+  const QString line = hides(call) ? scriptLineWithSecret(call, name, m_secretVariable) : scriptLine(call, name);
   // It is in the file before anybody sees it.
   const QString error = m_script.isOpen() ? m_script.write(line) : QString();
   if (!error.isEmpty()) {

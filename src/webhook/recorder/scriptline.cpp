@@ -92,6 +92,10 @@ QString scriptLiteral(const QString& text) {
 
 bool namesAnObject(const EventData& call) { return !rowOf(call); }
 
+QString scriptLineWithSecret(const EventData& call, const QString& objectName, const QString& variable) {
+  return QStringLiteral("%1(%2, environment.%3);").arg(call.functionName(), scriptLiteral(objectName), variable);
+}
+
 QString scriptLine(const EventData& call, const QString& objectName) {
   const FunctionRow* const row = rowOf(call);
   QStringList arguments;
