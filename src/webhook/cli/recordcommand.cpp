@@ -8,7 +8,7 @@
 #include "webhook/cli/commandoptions.h"
 #include "webhook/cli/output.h"
 #include "webhook/process/cleanup.h"
-#include "webhook/recorder/eventrecorder.h"
+#include "webhook/recorder/actrecorder.h"
 #include "webhook/recorder/recordingfiles.h"
 #include "webhook/run/browsercontrol.h"
 
@@ -122,7 +122,7 @@ private:
   const RecordOptions& m_options;
   RecordingFiles m_files;
   RecordedCalls m_calls;
-  EventRecorder m_logger;
+  ActRecorder m_logger;
   BrowserControl m_browser;
   std::atomic<bool> m_isOver{false};
   QString m_failure;

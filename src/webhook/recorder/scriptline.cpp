@@ -21,8 +21,9 @@ struct FunctionRow {
 };
 
 const FunctionRow functionsWithoutObject[] = {
-    {"startBrowser", true}, {"waitForContextExists", true}, {"closeWindow", false},
-    {"closeAlert", false},  {"closeConfirm", false},        {"closePrompt", false},
+    {"startBrowser", true},  {"waitForContextExists", true}, {"closeWindow", false}, {"openUrl", true},
+    {"goBack", false},       {"goForward", false},           {"reload", false},      {"closeAlert", false},
+    {"closeConfirm", false}, {"closePrompt", false},
 };
 
 const FunctionRow* rowOf(const EventData& call) {
