@@ -20,6 +20,12 @@ private:
   void takeLeaving(const QString& objectName, const WebWrapper::EventMap& data);
   void takeArrived(const QString& objectName, const WebWrapper::EventMap& data);
 
+  void takeMenu(const QString& objectName, const WebWrapper::EventMap& data);
+  void takeDrag(const QString& objectName, const WebWrapper::EventMap& data);
+  void takeUnrecorded(const QString& objectName, const WebWrapper::EventMap& data);
+  /// What was recorded of a press that turned out to be the beginning of something else.
+  void takeBackPress(const QString& objectName);
+
   PageMoves m_moves;
 };
 

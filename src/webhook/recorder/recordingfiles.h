@@ -34,6 +34,7 @@ public:
 
 private:
   QString scriptName(const QString& realName);
+  EventData withSymbolicTarget(const EventData& call);
   bool hides(const EventData& call) const;
 
   std::function<void(const QString&)> m_show;

@@ -2,6 +2,7 @@
 
 #include "corvexhook/datetime.h"
 #include "corvexhook/primitives.h"
+#include "shared/visibletext.h"
 
 #include <QStringList>
 #include <QVariant>
@@ -21,9 +22,9 @@ struct FunctionRow {
 };
 
 const FunctionRow functionsWithoutObject[] = {
-    {"startBrowser", true},  {"waitForContextExists", true}, {"closeWindow", false}, {"openUrl", true},
-    {"goBack", false},       {"goForward", false},           {"reload", false},      {"closeAlert", false},
-    {"closeConfirm", false}, {"closePrompt", false},
+    {"startBrowser", true}, {"waitForContextExists", true}, {"closeWindow", false}, {"openUrl", true},
+    {"goBack", false},      {"goForward", false},           {"reload", false},      {"//", false},
+    {"closeAlert", false},  {"closeConfirm", false},        {"closePrompt", false},
 };
 
 const FunctionRow* rowOf(const EventData& call) {
@@ -98,6 +99,9 @@ QString scriptLineWithSecret(const EventData& call, const QString& objectName, c
 }
 
 QString scriptLine(const EventData& call, const QString& objectName) {
+  if (call.functionName() == QLatin1String("//")) {
+    return QStringLiteral("// ") + visibleText(call.arguments().at(0)->toString());
+  }
   const FunctionRow* const row = rowOf(call);
   QStringList arguments;
   if (!row || row->takesName) {
