@@ -111,7 +111,9 @@ QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
          members(config, browser) + inPageText("ownjson.js") + hookScript(config) + dialogs +
-         inPageText("fallback.js") + QStringLiteral("\n}");
+         inPageText("fallback.js") +
+         (browser.isRecorded ? inPageText("recordedmoves.js") + inPageText("recordedacts.js") : QString()) +
+         QStringLiteral("\n}");
 }
 
 }  // namespace Webhook

@@ -131,6 +131,9 @@ void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleM
 
 bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
   m_event = item(data, "event");
+  if (item(data, "type") == QLatin1String("password")) {
+    m_passwords.insert(objectName);
+  }
   if (m_event.startsWith(QLatin1String("key")) && data.contains(QStringLiteral("value"))) {
     m_contents.insert(objectName, item(data, "value"));
   }

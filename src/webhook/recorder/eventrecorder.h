@@ -4,6 +4,7 @@
 
 #include <QDeadlineTimer>
 #include <QHash>
+#include <QSet>
 #include <QVector>
 
 namespace Corvex {
@@ -20,6 +21,8 @@ public:
   /// The page that the recording begins with: recorded by `begin`, or before what happens in it earlier.
   void setFirstPage(const QString& address) { m_firstPage = address; }
   void begin();
+  /// Whether what is typed into the object is a password.
+  bool isPassword(const QString& objectName) const { return m_passwords.contains(objectName); }
 
   /// Records text that has stood still for a moment, so that it is kept whatever happens. What is typed into the same
   /// field next takes its place. To be called again and again.
@@ -58,6 +61,7 @@ private:
   bool m_lastIsReturn = false;
   /// The content of each field as the page told it last, by the names of the fields.
   QHash<QString, QString> m_contents;
+  QSet<QString> m_passwords;
 };
 
 }  // namespace Webhook
