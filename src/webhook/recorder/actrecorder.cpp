@@ -25,6 +25,20 @@ const UnrecordedRow unrecorded[] = {
     {"drag", "A drag of %1 is not recorded: it ended on no other object."},
 };
 
+/// What can be checked of an object, by the property that tells it.
+struct CheckRow {
+  const char* what;
+  const char* property;
+  bool isText;
+};
+
+const CheckRow checks[] = {
+    {"text", "simplifiedInnerText", true},
+    {"value", "value", true},
+    {"checked", "checked", false},
+    {"visible", "visible", false},
+};
+
 }  // namespace
 
 struct ActRecorder::Row {
@@ -35,7 +49,7 @@ struct ActRecorder::Row {
 const ActRecorder::Row ActRecorder::rows[] = {
     {"leaving", &ActRecorder::takeLeaving},       {"arrived", &ActRecorder::takeArrived},
     {"contextmenu", &ActRecorder::takeMenu},      {"drag", &ActRecorder::takeDrag},
-    {"unrecorded", &ActRecorder::takeUnrecorded},
+    {"unrecorded", &ActRecorder::takeUnrecorded}, {"check", &ActRecorder::takeCheck},
 };
 
 bool ActRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
@@ -83,6 +97,22 @@ void ActRecorder::takeDrag(const QString& objectName, const EventMap& data) {
   takeBackPress(objectName);
   const QTime time = WebWrapper::getTimeStampFromEventData(data);
   recordCall(objectName, "dragTo", {Inspector::self()->wrapString(item(data, "to"))}, &time);
+}
+
+// The property becomes code of the script, so that no page may name it.
+void ActRecorder::takeCheck(const QString& objectName, const EventMap& data) {
+  const QString value = item(data, "value");
+  const QTime time = WebWrapper::getTimeStampFromEventData(data);
+  Inspector* const inspector = Inspector::self();
+  for (const CheckRow& row : checks) {
+    if (item(data, "what") == QLatin1String(row.what)) {
+      flushRecordedTextInput();
+      recordCall(objectName, "test.compare",
+                 {inspector->wrapString(QString::fromLatin1(row.property)),
+                  row.isText ? inspector->wrapString(value) : inspector->wrapBool(value == QLatin1String("true"))},
+                 &time);
+    }
+  }
 }
 
 void ActRecorder::takeUnrecorded(const QString& objectName, const EventMap& data) {

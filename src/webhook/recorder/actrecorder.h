@@ -23,6 +23,7 @@ private:
   void takeMenu(const QString& objectName, const WebWrapper::EventMap& data);
   void takeDrag(const QString& objectName, const WebWrapper::EventMap& data);
   void takeUnrecorded(const QString& objectName, const WebWrapper::EventMap& data);
+  void takeCheck(const QString& objectName, const WebWrapper::EventMap& data);
   /// What was recorded of a press that turned out to be the beginning of something else.
   void takeBackPress(const QString& objectName);
 

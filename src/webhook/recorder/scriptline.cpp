@@ -102,6 +102,11 @@ QString scriptLine(const EventData& call, const QString& objectName) {
   if (call.functionName() == QLatin1String("//")) {
     return QStringLiteral("// ") + visibleText(call.arguments().at(0)->toString());
   }
+  if (call.functionName() == QLatin1String("test.compare")) {
+    return QStringLiteral("test.compare(waitForObject(%1).%2, %3);")
+        .arg(scriptLiteral(objectName), call.arguments().at(0)->toString(),
+             argumentText(call.arguments().at(1), call.functionName()));
+  }
   const FunctionRow* const row = rowOf(call);
   QStringList arguments;
   if (!row || row->takesName) {

@@ -65,7 +65,8 @@
 
   function notePress(e) {
     var source = __corvex__srcElement(e);
-    pressed = e.button === 0 ? { object: objectAt(e), name: "", x: e.clientX, y: e.clientY } : null;
+    pressed = e.button === 0 && !__corvex__isInfoDiv(source) ?
+      { object: objectAt(e), name: "", x: e.clientX, y: e.clientY } : null;
     dragged = null;
     if (__corvex__nodeReader.tagName(source) === "CANVAS" && !__corvex__isHookedWasmCanvas(source)) {
       cannotRecord(e, source, "canvas");
