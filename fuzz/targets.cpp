@@ -177,7 +177,11 @@ void readBidi(const QByteArray& input) {
   });
 }
 
-void readCapabilities(const QByteArray& input) { Webhook::wantedCapabilities(text(input), QStringLiteral("firefox")); }
+void readCapabilities(const QByteArray& input) {
+  Webhook::SessionOptions options;
+  options.capabilities = text(input);
+  Webhook::wantedCapabilities(options, QStringLiteral("firefox"));
+}
 
 void readScript(const QByteArray& input) {
   const QString path = fileWith(input);
