@@ -46,7 +46,10 @@ bool readsAsKeys(const QString& text) {
 
 }  // namespace
 
-void EventRecorder::logEvent(const QString& text) { EventLogger::logEvent(withEscapedAnswer(text)); }
+void EventRecorder::logEvent(const QString& text) {
+  EventLogger::logEvent(withEscapedAnswer(text));
+  recordRepeatedPress();
+}
 
 void EventRecorder::recordCall(const QString& objectName, const char* functionName, const ObjectList& arguments,
                                const QTime* time) {
@@ -55,9 +58,28 @@ void EventRecorder::recordCall(const QString& objectName, const char* functionNa
     recordText(objectName, arguments.at(0)->toString(), time);
     return;
   }
+  // Every link and every form leads to one; windows that close are another matter.
+  if (function == QLatin1String("closeWindow")) {
+    return;
+  }
   append(EventData(function, objectName, arguments), time);
   // A click of a person has been recorded at its press.
-  m_lastIsReturn = m_event == QLatin1String("click") && function == QLatin1String("clickButton");
+  m_lastIsReturn = event() == QLatin1String("click") && function == QLatin1String("clickButton");
+}
+
+QString EventRecorder::event() const { return item(m_data, "event"); }
+
+// Each press is an act of its own, however often the same object is pressed; the click that follows it is none. The
+// logger takes the press for told already.
+void EventRecorder::recordRepeatedPress() {
+  const QString function = std::exchange(m_repeatedPress, QString());
+  if (!function.isEmpty()) {
+    const int modifiers = WebWrapper::getModifiers(m_data);
+    const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
+    append(EventData(function, m_calls.last().objectName(),
+                     modifiers != 0 ? ObjectList{Inspector::self()->wrapInt(modifiers)} : ObjectList()),
+           &time);
+  }
 }
 
 void EventRecorder::flushIdleText() {
@@ -130,16 +152,12 @@ void EventRecorder::doubleClickSeen(const QString& objectName, const EventMap& d
 void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleMs); }
 
 bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
-  m_event = item(data, "event");
-  if (m_event.startsWith(QLatin1String("key")) && data.contains(QStringLiteral("value"))) {
+  recordRepeatedPress();
+  m_data = data;
+  if (event().startsWith(QLatin1String("key")) && data.contains(QStringLiteral("value"))) {
     m_contents.insert(objectName, item(data, "value"));
   }
-  if (m_event == QLatin1String("unload")) {
-    // Every link and every form leads here; windows that close are another matter.
-    flushRecordedTextInput();
-    return true;
-  }
-  return takeDialog(m_event, data) || EventLogger::compressedNonRecordingEventData(objectName, data);
+  return takeDialog(event(), data) || EventLogger::compressedNonRecordingEventData(objectName, data);
 }
 
 bool EventRecorder::takeDialog(const QString& event, const EventMap& data) {
@@ -175,11 +193,13 @@ void EventRecorder::removeLastRecordedEvent() {
   }
 }
 
-// Each press is an act of its own, however often the same object is pressed; the click that follows it is none.
 bool EventRecorder::isLastRecordedCall(const QString& functionName, const QString& objectName) {
   const EventData last = m_calls.last();
-  const bool isPress = m_event == QLatin1String("mousedown") || m_event == QLatin1String("touchend");
-  return !isPress && last.functionName() == functionName && last.objectName() == objectName;
+  const bool isLast = last.functionName() == functionName && last.objectName() == objectName;
+  if (isLast && (event() == QLatin1String("mousedown") || event() == QLatin1String("touchend"))) {
+    m_repeatedPress = functionName;
+  }
+  return isLast;
 }
 
 }  // namespace Corvex::Webhook

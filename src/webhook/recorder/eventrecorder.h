@@ -41,12 +41,17 @@ private:
   bool takeDialog(const QString& event, const WebWrapper::EventMap& data);
   void recordText(const QString& objectName, const QString& text, const QTime* time);
   void append(const EventData& call, const QTime* time);
+  /// Of the event that is worked on.
+  QString event() const;
+  void recordRepeatedPress();
 
   Recorder& m_calls;
   /// Empty once it is recorded.
   QString m_firstPage;
   /// The event that is worked on.
-  QString m_event;
+  WebWrapper::EventMap m_data;
+  /// The function of a press that is like the last call; empty for none.
+  QString m_repeatedPress;
   /// When the last calls came, the last one last.
   QVector<QTime> m_times;
   /// When text that was typed will have stood still.

@@ -132,6 +132,8 @@ TEST_F(Recording, WhatIsDoneTwiceIsRecordedTwiceAndADoubleClickOnce) {
   const QString field = "&object=f&type=text&x=1&y=2";
   EXPECT_EQ(recorded({"0|mousedown" + button, "1|click" + button, "400|mousedown" + button, "401|click" + button}),
             QString("clickButton(\"b\");\nclickButton(\"b\");"));
+  EXPECT_EQ(recorded({"0|mousedown&ctrlKey=true" + button, "400|mousedown&shiftKey=true" + button}),
+            QString("mouseClick(\"b\", 2);\nmouseClick(\"b\", 4);"));
   EXPECT_EQ(recorded({"0|mousedown&object=s&type=submit", "1|click&object=s&type=submit"}),
             QString("clickButton(\"s\");"));
   EXPECT_EQ(recorded({"0|mousedown" + button, "1|click" + button, "200|mousedown" + button, "201|click" + button,
@@ -153,6 +155,8 @@ TEST_F(Recording, TextIsWhatTheFieldHeld) {
   EXPECT_EQ(recorded({"0|" + field + "a%3CReturn%3E"}), QString("setText(\"f\", \"a<Return>\");"));
   EXPECT_EQ(recorded({"0|" + field + "%3CReturn%3E"}), QString("setText(\"f\", \"<Return>\");"));
   EXPECT_EQ(recorded({"0|" + field + "1%3C2%20%26%203%3E2"}), QString("typeText(\"f\", \"1<2 & 3>2\");"));
+  EXPECT_EQ(recorded({"0|" + field + "a", "1|unload&object=[Window]", "2|mousedown&object=b&type=button"}),
+            QString("typeText(\"f\", \"a\");\nclickButton(\"b\");"));
   EXPECT_EQ(recorded({"0|" + field + "a", "1|" + field + "a&keyCode=13"}),
             QString("typeText(\"f\", \"a\");\ntypeText(\"f\", \"<Return>\");"));
 }
