@@ -136,11 +136,11 @@ int RecordingRun::run() {
   }
   m_logger.begin();
   poll(std::numeric_limits<int>::max(), attentionMs, [this] {
-    m_logger.flushIdleText();
+    m_logger.keepUp();
     return m_isOver || !m_failure.isEmpty() || m_outputCode != ExitCode::Success ||
            m_browser.windows()->connections().isEmpty();
   });
-  m_logger.flushRecordedTextInput();
+  m_logger.finish();
   Inspector::self()->setRecording(false);
   return m_failure.isEmpty() ? m_outputCode : ExitCode::Failed;
 }

@@ -2,11 +2,14 @@
 
 #include "corvexhook/inspector.h"
 #include "corvexhook/recorder.h"
+#include "wrappers/web/recording/recordedtypes.h"
 
 #include <QRegularExpression>
 #include <QStringList>
 #include <QUrl>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Corvex::Webhook {
@@ -23,6 +26,9 @@ const int idleMs = 1000;
 
 QString item(const EventMap& data, const char* key) { return data.value(QLatin1String(key)); }
 
+// How long a message is on its way after another that was sent with it.
+const int patienceMs = 100;
+
 /// What was typed into a prompt ends its message, as the page got it: only the browser has encoded it, for an address.
 QString withEscapedAnswer(const QString& text) {
   const QString head = QStringLiteral("event=prompt&ret=");
@@ -38,6 +44,16 @@ QString withEscapedAnswer(const QString& text) {
   return result;
 }
 
+/// Shift, the arrows and others: they change a field only where the page or the browser makes more of them.
+bool isKeyWithoutText(int keyCode) {
+  const struct {
+    int first;
+    int last;
+  } ranges[] = {{9, 9}, {16, 20}, {27, 27}, {33, 40}, {112, 123}};
+  return std::any_of(std::begin(ranges), std::end(ranges),
+                     [keyCode](const auto& range) { return keyCode >= range.first && keyCode <= range.last; });
+}
+
 /// Whether typing the text would take parts of it for keys.
 bool readsAsKeys(const QString& text) {
   static const QRegularExpression brackets(QStringLiteral("<[A-Za-z0-9]+(\\+[^<>\\s]+)*>"));
@@ -46,9 +62,20 @@ bool readsAsKeys(const QString& text) {
 
 }  // namespace
 
-void EventRecorder::logEvent(const QString& text) {
-  EventLogger::logEvent(withEscapedAnswer(text));
+EventRecorder::EventRecorder(Recorder& calls) : m_calls(calls), m_messages(patienceMs) {}
+
+void EventRecorder::logEvent(const QString& text) { m_messages.add(text); }
+
+void EventRecorder::workOnNext() {
+  EventLogger::logEvent(withEscapedAnswer(m_messages.takeNext()));
   recordRepeatedPress();
+}
+
+void EventRecorder::finish() {
+  while (!m_messages.isEmpty()) {
+    workOnNext();
+  }
+  flushRecordedTextInput();
 }
 
 void EventRecorder::recordCall(const QString& objectName, const char* functionName, const ObjectList& arguments,
@@ -64,7 +91,7 @@ void EventRecorder::recordCall(const QString& objectName, const char* functionNa
   }
   append(EventData(function, objectName, arguments), time);
   // A click of a person has been recorded at its press.
-  m_lastIsReturn = event() == QLatin1String("click") && function == QLatin1String("clickButton");
+  m_lastIsReturn = event() == QLatin1String("click") && function == QLatin1String("clickButton") && !m_isReturnDown;
 }
 
 QString EventRecorder::event() const { return item(m_data, "event"); }
@@ -82,7 +109,10 @@ void EventRecorder::recordRepeatedPress() {
   }
 }
 
-void EventRecorder::flushIdleText() {
+void EventRecorder::keepUp() {
+  while (m_messages.isNextDue()) {
+    workOnNext();
+  }
   if (m_idle.hasExpired()) {
     m_idle = QDeadlineTimer(QDeadlineTimer::Forever);
     m_isIdleFlush = true;
@@ -102,6 +132,7 @@ void EventRecorder::append(const EventData& call, const QTime* time) {
   begin();
   m_lastIsReturn = false;
   m_openField.clear();
+  m_openSetting.clear();
   m_times.append(time ? *time : QTime());
   m_calls.append(call, time);
 }
@@ -110,7 +141,7 @@ void EventRecorder::append(const EventData& call, const QTime* time) {
 void EventRecorder::recordText(const QString& objectName, const QString& text, const QTime* time) {
   const QString content = m_contents.value(objectName);
   const bool isReturn = text == QLatin1String("<Return>") && content != text;
-  if (isReturn && m_lastIsReturn) {
+  if (isReturn && (m_lastIsReturn || isClickOfReturn())) {
     return;
   }
   const bool isContent = !isReturn && content.size() == text.size() && content.contains(QLatin1Char('\n'));
@@ -154,10 +185,92 @@ void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleM
 bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
   recordRepeatedPress();
   m_data = data;
-  if (event().startsWith(QLatin1String("key")) && data.contains(QStringLiteral("value"))) {
-    m_contents.insert(objectName, item(data, "value"));
+  if (event() == QLatin1String("unload")) {
+    m_contents.clear();
   }
-  return takeDialog(event(), data) || EventLogger::compressedNonRecordingEventData(objectName, data);
+  return takeDialog(event(), data) || takeKey(objectName) || takeFieldSet(objectName) || takeKeyClick(objectName) ||
+         EventLogger::compressedNonRecordingEventData(objectName, data);
+}
+
+bool EventRecorder::takeKey(const QString& objectName) {
+  const bool goesDown = event() == QLatin1String("keydown");
+  if (!goesDown && event() != QLatin1String("keyup")) {
+    m_returnField.clear();
+    return false;
+  }
+  const int keyCode = item(m_data, "keyCode").toInt();
+  if (keyCode == 13) {
+    return takeReturn(objectName, goesDown);
+  }
+  // A field that changed after the Return.
+  if (keyCode == 0) {
+    m_returnField.clear();
+  }
+  const QString content = item(m_data, "value");
+  const bool isKnown = !m_contents.contains(objectName) || m_contents.value(objectName) == content;
+  const bool changesNothing = item(m_data, "readonly") == QLatin1String("true") || objectName == m_returnField ||
+                              (isKeyWithoutText(keyCode) && isKnown);
+  if (!changesNothing) {
+    m_contents.insert(objectName, content);
+  }
+  return changesNothing;
+}
+
+// Pages tell of it when it goes down, as they may be gone before it comes up; some tell of both.
+bool EventRecorder::takeReturn(const QString& objectName, bool goesDown) {
+  const bool isTold = !goesDown && m_isReturnDown;
+  m_isReturnDown = goesDown;
+  if (goesDown) {
+    m_returnField = objectName;
+  }
+  if (isTold) {
+    // What is typed next would take its place.
+    flushRecordedTextInput();
+  } else if (m_data.contains(QStringLiteral("value"))) {
+    m_contents.insert(objectName, item(m_data, "value"));
+  }
+  return isTold;
+}
+
+bool EventRecorder::takeFieldSet(const QString& objectName) {
+  if (event() != QLatin1String("fieldSet") || !Inspector::self()->isRecording()) {
+    return false;
+  }
+  flushRecordedTextInput();
+  const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
+  if (m_data.contains(QStringLiteral("checked"))) {
+    const bool isChecked = item(m_data, "checked") == QLatin1String("true");
+    append(EventData(QStringLiteral("setChecked"), objectName, {Inspector::self()->wrapBool(isChecked)}), &time);
+    return true;
+  }
+  if (m_openSetting == objectName) {
+    removeLastRecordedEvent();
+  }
+  append(EventData(QStringLiteral("setText"), objectName, {Inspector::self()->wrapString(item(m_data, "content"))}),
+         &time);
+  m_openSetting = objectName;
+  return true;
+}
+
+// The logger knows the clicks that keys make of buttons that send forms, and fields tell of the others' state.
+bool EventRecorder::takeKeyClick(const QString& objectName) {
+  if (event() != QLatin1String("keyClick") || !Inspector::self()->isRecording()) {
+    return false;
+  }
+  static const QStringList others{QStringLiteral("submit"), QStringLiteral("checkbox"), QStringLiteral("radio")};
+  const QString type = item(m_data, "type");
+  const bool isButton = WebWrapper::isButtonType(type) && !others.contains(type);
+  if (isButton || WebWrapper::isLink(type)) {
+    flushRecordedTextInput();
+    const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
+    append(EventData(isButton ? QStringLiteral("clickButton") : QStringLiteral("mouseClick"), objectName, {}), &time);
+  }
+  return true;
+}
+
+// A browser makes a click of a Return in a form.
+bool EventRecorder::isClickOfReturn() const {
+  return m_isReturnDown && event() == QLatin1String("click") && item(m_data, "type") == QLatin1String("submit");
 }
 
 bool EventRecorder::takeDialog(const QString& event, const EventMap& data) {
@@ -196,7 +309,8 @@ void EventRecorder::removeLastRecordedEvent() {
 bool EventRecorder::isLastRecordedCall(const QString& functionName, const QString& objectName) {
   const EventData last = m_calls.last();
   const bool isLast = last.functionName() == functionName && last.objectName() == objectName;
-  if (isLast && (event() == QLatin1String("mousedown") || event() == QLatin1String("touchend"))) {
+  const bool isPress = event() == QLatin1String("mousedown") || event() == QLatin1String("touchend");
+  if (isLast && (isPress || isClickOfReturn())) {
     m_repeatedPress = functionName;
   }
   return isLast;

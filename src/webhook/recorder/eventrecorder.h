@@ -1,5 +1,6 @@
 #pragma once
 
+#include "webhook/recorder/messageorder.h"
 #include "wrappers/web/recording/eventlogger.h"
 
 #include <QDeadlineTimer>
@@ -15,16 +16,20 @@ namespace Webhook {
 class EventRecorder : public WebWrapper::EventLogger {
 public:
   /// Borrows the recorder.
-  explicit EventRecorder(Recorder& calls) : m_calls(calls) {}
+  explicit EventRecorder(Recorder& calls);
 
   /// The page that the recording begins with: recorded by `begin`, or before what happens in it earlier.
   void setFirstPage(const QString& address) { m_firstPage = address; }
   void begin();
 
-  /// Records text that has stood still for a moment, so that it is kept whatever happens. What is typed into the same
-  /// field next takes its place. To be called again and again.
-  void flushIdleText();
+  /// To be called again and again. Works on the messages that have waited for others long enough, and records text that
+  /// has stood still for a moment, so that it is kept whatever happens: what is typed into the same field next takes
+  /// its place.
+  void keepUp();
+  /// Works on all messages, and records all text.
+  void finish();
 
+  /// The message waits until `keepUp`.
   void logEvent(const QString& text) override;
   void recordCall(const QString& objectName, const char* functionName, const ObjectList& arguments,
                   const QTime* time) override;
@@ -39,13 +44,21 @@ public:
 
 private:
   bool takeDialog(const QString& event, const WebWrapper::EventMap& data);
+  // Each is true where that is all there is to do.
+  bool takeKey(const QString& objectName);
+  bool takeReturn(const QString& objectName, bool goesDown);
+  bool takeFieldSet(const QString& objectName);
+  bool takeKeyClick(const QString& objectName);
+  bool isClickOfReturn() const;
   void recordText(const QString& objectName, const QString& text, const QTime* time);
   void append(const EventData& call, const QTime* time);
   /// Of the event that is worked on.
   QString event() const;
+  void workOnNext();
   void recordRepeatedPress();
 
   Recorder& m_calls;
+  MessageOrder m_messages;
   /// Empty once it is recorded.
   QString m_firstPage;
   /// The event that is worked on.
@@ -59,6 +72,12 @@ private:
   bool m_isIdleFlush = false;
   /// The field whose text is the last call, and was ended by nothing but a pause.
   QString m_openField;
+  /// The field whose value is the last call.
+  QString m_openSetting;
+  /// Whether a page told that Return went down, and not yet that it came up.
+  bool m_isReturnDown = false;
+  /// Where it was pressed last. What comes up there afterwards went down before.
+  QString m_returnField;
   /// Whether the last call is a click that a browser made of a Return.
   bool m_lastIsReturn = false;
   /// The content of each field as the page told it last, by the names of the fields.

@@ -51,7 +51,7 @@ protected:
     wait.name = QStringLiteral("waitForRecording");
     wait.call = [&](const ObjectList&) {
       poll(10000, 20, [&] {
-        logger.flushRecordedTextInput();
+        logger.finish();
         return lastLineOf(script()).startsWith(lastLine);
       });
       return FunctionCallResult<SharedPtr<Object>>{nullptr, QString()};

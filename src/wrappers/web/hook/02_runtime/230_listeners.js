@@ -1,5 +1,6 @@
 // Gives: the listeners of the own document and of frames, and the change listeners of controls.
-// Needs: recording/picking, recording/capture, recording/touch, runtime/builtins, runtime/eventobject, runtime/frames.
+// Needs: recording/picking, recording/capture, recording/touch, recording/fields, runtime/builtins,
+//   runtime/eventobject, runtime/frames.
 
 var __corvex__quietMousemove = __corvex__quiet(__corvex__mousemove);
 var __corvex__quietTouchstart = __corvex__quiet(__corvex__touchstart);
@@ -49,8 +50,19 @@ function __corvex__listenInDocument(doc, rows) {
   }
 }
 
+var __corvex__quietFieldEvent = __corvex__quiet(__corvex__takeFieldEvent);
+
+// Before the page's own listeners, which may change what there is to tell.
+function __corvex__listenForFields(win) {
+  var types = ["input", "change", "keydown", "mousedown", "click", "focusout", "pagehide"];
+  for (var i = 0; win.addEventListener && i < types.length; ++i) {
+    win.addEventListener(types[i], __corvex__quietFieldEvent, true);
+  }
+}
+
 function __corvex__listenInOwnDocument() {
   __corvex__markAsHooked(document);
+  __corvex__listenForFields(window);
   __corvex__listenInDocument(document, __corvex__ownListeners);
   __corvex__hookupTouchEvents(window);
 }
