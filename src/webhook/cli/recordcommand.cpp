@@ -134,6 +134,7 @@ int RecordingRun::run() {
     complain(notStarted);
     return m_browser.hadBrowserFailure() ? ExitCode::BrowserFailed : ExitCode::Failed;
   }
+  m_logger.watch(*m_browser.windows());
   m_logger.begin();
   poll(std::numeric_limits<int>::max(), attentionMs, [this] {
     m_logger.keepUp();

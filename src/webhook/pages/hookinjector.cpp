@@ -111,7 +111,8 @@ QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
          members(config, browser) + inPageText("ownjson.js") + hookScript(config) + dialogs +
-         inPageText("fallback.js") + QStringLiteral("\n}");
+         inPageText("fallback.js") + (browser.isRecorded ? inPageText("recordedwindow.js") : QString()) +
+         QStringLiteral("\n}");
 }
 
 }  // namespace Webhook

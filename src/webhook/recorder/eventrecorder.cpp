@@ -2,8 +2,13 @@
 
 #include "corvexhook/inspector.h"
 #include "corvexhook/recorder.h"
+#include "webhook/pages/browserwindows.h"
+#include "webhook/pages/contextinname.h"
+#include "webhook/pages/windownames.h"
+#include "webhook/recorder/recordedwindows.h"
 #include "wrappers/web/recording/recordedtypes.h"
 
+#include <QDateTime>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QUrl>
@@ -29,6 +34,15 @@ QString item(const EventMap& data, const char* key) { return data.value(QLatin1S
 // How long a message is on its way after another that was sent with it.
 const int patienceMs = 100;
 
+/// As an item of a message.
+QString inEscapes(const QString& text) {
+  QString result;
+  for (const QChar unit : text) {
+    result += QStringLiteral("%u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+  }
+  return result;
+}
+
 /// What was typed into a prompt ends its message, as the page got it: only the browser has encoded it, for an address.
 QString withEscapedAnswer(const QString& text) {
   const QString head = QStringLiteral("event=prompt&ret=");
@@ -37,11 +51,7 @@ QString withEscapedAnswer(const QString& text) {
     return text;
   }
   const int begin = at + head.size();
-  QString result = text.left(begin);
-  for (const QChar unit : QUrl::fromPercentEncoding(text.mid(begin).toUtf8())) {
-    result += QStringLiteral("%u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
-  }
-  return result;
+  return text.left(begin) + inEscapes(QUrl::fromPercentEncoding(text.mid(begin).toUtf8()));
 }
 
 /// Shift, the arrows and others: they change a field only where the page or the browser makes more of them.
@@ -64,7 +74,75 @@ bool readsAsKeys(const QString& text) {
 
 EventRecorder::EventRecorder(Recorder& calls) : m_calls(calls), m_messages(patienceMs) {}
 
-void EventRecorder::logEvent(const QString& text) { m_messages.add(text); }
+EventRecorder::~EventRecorder() = default;
+
+void EventRecorder::watch(const BrowserWindows& windows) {
+  m_windows = std::make_unique<RecordedWindows>(windows);
+  m_window = windows.connections().isEmpty() ? QString() : windows.connections().constFirst()->tabId();
+  QObject::connect(&windows, &BrowserWindows::windowClosed, &windows,
+                   [this](Connection* window) { noteClosed(*window); });
+}
+
+void EventRecorder::logEvent(const QString& text) { m_messages.add(withOutsideContext(text)); }
+
+QString EventRecorder::withOutsideContext(const QString& text) const {
+  const EventMap data = m_windows ? WebWrapper::parseEvent(text) : EventMap();
+  const QString context = item(data, "context");
+  if (context.isEmpty()) {
+    return text;
+  }
+  static const QRegularExpression contextItem(QStringLiteral("&context=[^&]*"));
+  const QString window = m_windows->windowOf(item(data, "tabId"), context);
+  return QString(text).replace(contextItem, QStringLiteral("&context=") +
+                                                inEscapes(m_windows->outside(window, context)) +
+                                                QStringLiteral("&window=") + window);
+}
+
+// What pages told before comes first.
+void EventRecorder::noteClosed(const Connection& window) {
+  m_messages.add(QStringLiteral("logevent%1&event=windowClosed&window=%2&context=%3")
+                     .arg(QDateTime::currentMSecsSinceEpoch())
+                     .arg(window.tabId(), inEscapes(m_windows->nameOf(window))));
+}
+
+bool EventRecorder::takeWindow() {
+  const QString window = item(m_data, "window");
+  if (event() == QLatin1String("windowCloses")) {
+    // It may be gone already, and so is what it is known by.
+    const QString tabId = item(m_data, "tabId");
+    m_closing << (tabId.isEmpty() ? item(m_data, "context") : tabId);
+    return true;
+  }
+  if (event() != QLatin1String("windowClosed") || !Inspector::self()->isRecording()) {
+    return event() == QLatin1String("windowClosed");
+  }
+  flushRecordedTextInput();
+  const QString newest = m_windows->newest();
+  // The page does it again; and nothing is left to be done after the last window.
+  const QString context = item(m_data, "context");
+  const bool isByPage = m_closing.removeAll(window) + m_closing.removeAll(context) > 0;
+  if (!isByPage && !newest.isEmpty()) {
+    enterWindow(window, context);
+    append(EventData(QStringLiteral("closeWindow"), QString(), {}), nullptr);
+  }
+  if (m_window == window) {
+    m_window = newest;
+  }
+  return true;
+}
+
+void EventRecorder::enterWindow(const QString& window, const QString& context) {
+  if (!window.isEmpty() && window != std::exchange(m_window, window)) {
+    const QString name = context.left(context.size() - framesOf(context).size());
+    append(EventData(QStringLiteral("setContext"), name, {}), nullptr);
+  }
+}
+
+// Names of elements in frames begin with the context that the page knows.
+QString EventRecorder::adaptQualifiedName(const QString& name, const EventMap& data) {
+  const QString context = item(data, "context");
+  return m_windows && !context.isEmpty() && namesItsContext(name) ? inContext(name, context) : name;
+}
 
 void EventRecorder::workOnNext() {
   EventLogger::logEvent(withEscapedAnswer(m_messages.takeNext()));
@@ -90,6 +168,9 @@ void EventRecorder::recordCall(const QString& objectName, const char* functionNa
     return;
   }
   append(EventData(function, objectName, arguments), time);
+  if (function == QLatin1String("waitForContextExists")) {
+    enterWindow(item(m_data, "window"), objectName);
+  }
   // A click of a person has been recorded at its press.
   m_lastIsReturn = event() == QLatin1String("click") && function == QLatin1String("clickButton") && !m_isReturnDown;
 }
@@ -188,8 +269,8 @@ bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, c
   if (event() == QLatin1String("unload")) {
     m_contents.clear();
   }
-  return takeDialog(event(), data) || takeKey(objectName) || takeFieldSet(objectName) || takeKeyClick(objectName) ||
-         EventLogger::compressedNonRecordingEventData(objectName, data);
+  return takeWindow() || takeDialog(event(), data) || takeKey(objectName) || takeFieldSet(objectName) ||
+         takeKeyClick(objectName) || EventLogger::compressedNonRecordingEventData(objectName, data);
 }
 
 bool EventRecorder::takeKey(const QString& objectName) {
@@ -207,9 +288,12 @@ bool EventRecorder::takeKey(const QString& objectName) {
     m_returnField.clear();
   }
   const QString content = item(m_data, "value");
-  const bool isKnown = !m_contents.contains(objectName) || m_contents.value(objectName) == content;
-  const bool changesNothing = item(m_data, "readonly") == QLatin1String("true") || objectName == m_returnField ||
-                              (isKeyWithoutText(keyCode) && isKnown);
+  const bool isTold = m_contents.contains(objectName) && m_contents.value(objectName) == content;
+  const bool isNews = keyCode != 0 && !isKeyWithoutText(keyCode);
+  // A page tells of a field once more when it goes; and what a field held before any key is nobody's doing.
+  const bool isChange = (keyCode == 0 || m_contents.contains(objectName)) && !isTold;
+  const bool changesNothing =
+      item(m_data, "readonly") == QLatin1String("true") || objectName == m_returnField || (!isNews && !isChange);
   if (!changesNothing) {
     m_contents.insert(objectName, content);
   }
@@ -226,9 +310,8 @@ bool EventRecorder::takeReturn(const QString& objectName, bool goesDown) {
   if (isTold) {
     // What is typed next would take its place.
     flushRecordedTextInput();
-  } else if (m_data.contains(QStringLiteral("value"))) {
-    m_contents.insert(objectName, item(m_data, "value"));
   }
+  m_contents.insert(objectName, item(m_data, "value"));
   return isTold;
 }
 

@@ -5,22 +5,34 @@
 
 #include <QDeadlineTimer>
 #include <QHash>
+#include <QStringList>
 #include <QVector>
+
+#include <memory>
 
 namespace Corvex {
 class Recorder;
 
 namespace Webhook {
 
+class BrowserWindows;
+class Connection;
+class RecordedWindows;
+
 /// Records what pages tell of, with a recorder that keeps the calls.
 class EventRecorder : public WebWrapper::EventLogger {
 public:
   /// Borrows the recorder.
   explicit EventRecorder(Recorder& calls);
+  ~EventRecorder() override;
 
   /// The page that the recording begins with: recorded by `begin`, or before what happens in it earlier.
   void setFirstPage(const QString& address) { m_firstPage = address; }
   void begin();
+
+  /// From now on calls name the windows of a browser as scripts see them, and tell of the change from one to another
+  /// and of windows that a person closes. Borrows them.
+  void watch(const BrowserWindows& windows);
 
   /// To be called again and again. Works on the messages that have waited for others long enough, and records text that
   /// has stood still for a moment, so that it is kept whatever happens: what is typed into the same field next takes
@@ -35,6 +47,7 @@ public:
                   const QTime* time) override;
   void addUnmatchedProperty(const QString& objectName, const QString& property) override;
   void removeUnmatchedProperties(const QString& objectName) override;
+  QString adaptQualifiedName(const QString& name, const WebWrapper::EventMap& data) override;
   void doubleClickSeen(const QString& objectName, const WebWrapper::EventMap& data) override;
   void keyEventSeen(const QString& objectName) override;
   bool compressedNonRecordingEventData(const QString& objectName, const WebWrapper::EventMap& data) override;
@@ -49,7 +62,12 @@ private:
   bool takeReturn(const QString& objectName, bool goesDown);
   bool takeFieldSet(const QString& objectName);
   bool takeKeyClick(const QString& objectName);
+  bool takeWindow();
   bool isClickOfReturn() const;
+  /// The message with the context's name for scripts.
+  QString withOutsideContext(const QString& text) const;
+  void noteClosed(const Connection& window);
+  void enterWindow(const QString& window, const QString& context);
   void recordText(const QString& objectName, const QString& text, const QTime* time);
   void append(const EventData& call, const QTime* time);
   /// Of the event that is worked on.
@@ -59,6 +77,11 @@ private:
 
   Recorder& m_calls;
   MessageOrder m_messages;
+  std::unique_ptr<RecordedWindows> m_windows;
+  /// The one that is current in the script, by what the page knows itself by.
+  QString m_window;
+  /// Those that their pages are about to close.
+  QStringList m_closing;
   /// Empty once it is recorded.
   QString m_firstPage;
   /// The event that is worked on.

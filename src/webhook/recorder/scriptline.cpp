@@ -21,7 +21,7 @@ struct FunctionRow {
 };
 
 const FunctionRow functionsWithoutObject[] = {
-    {"startBrowser", true}, {"waitForContextExists", true}, {"closeWindow", false},
+    {"startBrowser", true}, {"waitForContextExists", true}, {"setContext", true},   {"closeWindow", false},
     {"closeAlert", false},  {"closeConfirm", false},        {"closePrompt", false},
 };
 

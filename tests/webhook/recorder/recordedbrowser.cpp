@@ -17,6 +17,7 @@ namespace TestSupport {
 namespace {
 
 const int patienceMs = 5000;
+const int silenceMs = 300;
 
 // One marker after what was sent on either way.
 const QString endOfMessages = QStringLiteral(
@@ -32,6 +33,7 @@ QString textOfFile(const char* name) {
 
 void RecordedBrowser::Logger::logEvent(const QString& text) {
   markers += text.contains(QLatin1String("&marker")) ? 1 : 0;
+  silence.setRemainingTime(silenceMs);
   EventRecorder::logEvent(text);
 }
 
@@ -54,6 +56,9 @@ void RecordedBrowser::show(const QString& page) {
   QString error;
   if (!m_control.windows()) {
     error = m_control.startBrowser(page);
+    if (error.isEmpty() && Inspector::self()->isRecording()) {
+      m_logger.watch(*m_control.windows());
+    }
   } else {
     while (m_control.windows()->connections().size() > 1) {
       m_control.windows()->setCurrent(m_control.windows()->connections().constLast());
@@ -84,6 +89,8 @@ void RecordedBrowser::awaitMessages() {
     window->evaluateJS(endOfMessages, patienceMs);
     poll(patienceMs, 10, [&] { return !Inspector::self()->isRecording() || m_logger.markers >= before + 2; });
   }
+  // What a page sent when it went is on a way of its own.
+  poll(patienceMs, 10, [&] { return m_logger.silence.hasExpired(); });
   m_logger.finish();
 }
 

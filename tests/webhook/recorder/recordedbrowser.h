@@ -46,6 +46,7 @@ private:
     using EventRecorder::EventRecorder;
     void logEvent(const QString& text) override;
     int markers = 0;
+    QDeadlineTimer silence;
   };
 
   /// Until pages have told of all that happened.

@@ -1,5 +1,5 @@
 // Gives: the listeners of the own document and of frames, and the change listeners of controls.
-// Needs: recording/picking, recording/capture, recording/touch, recording/fields, runtime/builtins,
+// Needs: recording/picking, recording/capture, recording/touch, recording/fields, runtime/builtins, runtime/nodes,
 //   runtime/eventobject, runtime/frames.
 
 var __corvex__quietMousemove = __corvex__quiet(__corvex__mousemove);
@@ -60,9 +60,24 @@ function __corvex__listenForFields(win) {
   }
 }
 
+// What happens in a frame before the next sweep must not be lost while a recording runs.
+var __corvex__quietFrameLoaded = __corvex__quiet(function (e) {
+  var tagName = window.__corvex__recording && e && e.isTrusted && __corvex__nodeReader.tagName(e.target);
+  if (tagName === "IFRAME" || tagName === "FRAME") {
+    __corvex__hookInFrame(e.target);
+  }
+});
+
+function __corvex__listenForFrames(doc) {
+  if (doc.addEventListener) {
+    doc.addEventListener("load", __corvex__quietFrameLoaded, true);
+  }
+}
+
 function __corvex__listenInOwnDocument() {
   __corvex__markAsHooked(document);
   __corvex__listenForFields(window);
+  __corvex__listenForFrames(document);
   __corvex__listenInDocument(document, __corvex__ownListeners);
   __corvex__hookupTouchEvents(window);
 }
