@@ -16,7 +16,7 @@ const shared = Object.fromEntries(rooms.concat(readRooms(extensions)).flatMap((r
 const readonly = (names) => Object.fromEntries(names.split(/\s+/).map((name) => [name, 'readonly']));
 
 const page = readonly(`window top document location navigator screen event alert confirm prompt open
-  setTimeout setInterval clearTimeout clearInterval escape unescape
+  navigation performance history setTimeout setInterval clearTimeout clearInterval escape unescape
   Node Element HTMLElement HTMLFormElement ShadowRoot Document NodeFilter Event CustomEvent MouseEvent KeyboardEvent
   UIEvent TouchEvent Touch InputEvent FocusEvent PointerEvent DataTransfer XMLHttpRequest ActiveXObject
   getComputedStyle sessionStorage Map WeakMap Set Symbol console Components`);

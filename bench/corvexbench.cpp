@@ -21,10 +21,8 @@ struct Subject {
 
 // The first one has the round trip, which the others are compared with.
 const Subject subjects[] = {
-    {"lookups", measureLookups},
-    {"page", measureInPage},
-    {"messages", measureMessages},
-    {"start", measureStart},
+    {"lookups", measureLookups},     {"page", measureInPage}, {"messages", measureMessages},
+    {"recording", measureRecording}, {"start", measureStart},
 };
 
 bool isSubject(const QString& name) {
@@ -58,13 +56,14 @@ int main(int argc, char** argv) {
   parser.addOption({QStringLiteral("browser"),
                     QStringLiteral("Measure in this browser only: chromium or firefox; both without it."),
                     QStringLiteral("NAME")});
-  parser.addOption({QStringLiteral("only"),
-                    QStringLiteral("Measure the round trip and one subject: lookups, page, messages or start."),
-                    QStringLiteral("SUBJECT")});
+  parser.addOption(
+      {QStringLiteral("only"),
+       QStringLiteral("Measure the round trip and one subject: lookups, page, messages, recording or start."),
+       QStringLiteral("SUBJECT")});
   parser.process(application);
   const QString only = parser.value(QStringLiteral("only"));
   if (!only.isEmpty() && !isSubject(only)) {
-    fail(QStringLiteral("There is no subject '%1'; say lookups, page, messages or start.").arg(only));
+    fail(QStringLiteral("There is no subject '%1'; say lookups, page, messages, recording or start.").arg(only));
     return 2;
   }
   const QStringList wanted = parser.values(QStringLiteral("browser"));

@@ -4,7 +4,7 @@ namespace CorvexBench {
 
 using namespace Corvex::Webhook;
 
-QString HookedPage::start(const SessionOptions& options) {
+QString HookedPage::start(const SessionOptions& options, bool isRecorded) {
   BrowserSession::Start started = BrowserSession::start(options);
   if (!started.value) {
     return started.error;
@@ -17,6 +17,9 @@ QString HookedPage::start(const SessionOptions& options) {
   }
   m_endpoint.setAllowedOrigins({QStringLiteral("null")});
   m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, m_endpoint.place());
+  if (isRecorded) {
+    m_windows->recordPages();
+  }
   return m_windows->open();
 }
 

@@ -15,8 +15,8 @@ namespace CorvexBench {
 /// A browser with one hooked page whose messages go to an endpoint, as when a script runs.
 class HookedPage {
 public:
-  /// The error says why there is none.
-  QString start(const Corvex::Webhook::SessionOptions& options);
+  /// The error says why there is none. A page that is recorded tells of what happens in it.
+  QString start(const Corvex::Webhook::SessionOptions& options, bool isRecorded = false);
 
   Corvex::Webhook::Connection& connection() { return *m_windows->current(); }
   Corvex::Webhook::MessageEndpoint& endpoint() { return m_endpoint; }

@@ -18,6 +18,9 @@ bool measureInPage(const SessionOptions& options, Report& report);
 /// How fast the endpoint takes what one page sends, each message after the reply to the one before; none may be lost.
 bool measureMessages(const SessionOptions& options, Report& report);
 
+/// What an event costs in a page that is recorded, beside one that nobody listens to.
+bool measureRecording(const SessionOptions& options, Report& report);
+
 /// What the start of the program costs beside the browser's own.
 bool measureStart(const SessionOptions& options, Report& report);
 

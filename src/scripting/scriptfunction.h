@@ -29,7 +29,7 @@ struct ScriptFunction {
   /// The result is a text of JSON, and the script gets what it says.
   bool givesJson = false;
   /// The last argument may be a plain object, and arrives as a text of JSON. Of its values, texts, numbers, true and
-  /// false arrive.
+  /// false arrive; others but undefined as null.
   bool takesOptions = false;
   /// How many of the first arguments reports show, when others may be secret.
   int shownArguments = -1;

@@ -51,6 +51,29 @@ TEST_F(Record, ShowsAndKeepsEachLineUntilItIsInterrupted) {
   EXPECT_EQ(program.run({"run", "--object-map", "m.tsv", "s.js"}).exitCode, 0);
 }
 
+TEST_F(Record, WritesNoPasswordThatIsASecret) {
+  program.write(
+      "page.html",
+      "<input id='p' type='password'><input id='u'><button id='b' type='button' onclick='1'>In</button><script>"
+      "function type(field, text) { field.value = text;"
+      "  field.dispatchEvent(new KeyboardEvent('keyup', { bubbles: true, keyCode: 66 })); }"
+      "setTimeout(function () { type(p, 'open <Tab> sesame'); type(u, 'ada');"
+      "  p.dispatchEvent(new KeyboardEvent('keyup', { bubbles: true, keyCode: 13 }));"
+      "  b.dispatchEvent(new MouseEvent('mousedown', { bubbles: true })); }, 100);</script>");
+  program.start({"record", "--headless", "page.html", "--secret", "SHOP_KEY", "-o", "s.js", "--object-map", "m.tsv"});
+  ASSERT_TRUE(program.waitForOutput("clickButton("));
+  ::kill(static_cast<pid_t>(program.processId()), SIGINT);
+  const ProgramResult result = program.finish();
+  EXPECT_TRUE(
+      result.output.endsWith("setText(\":p\", environment.SHOP_KEY);\ntypeText(\":u\", \"ada\");\n"
+                             "typeText(\":p\", \"<Return>\");\nclickButton(\":In\");\n"))
+      << qPrintable(result.output);
+  EXPECT_FALSE((textOf("s.js") + textOf("m.tsv") + result.errors).contains("sesame"));
+  program.setEnvironment("SHOP_KEY", "open <Tab> sesame");
+  program.write("s.js", textOf("s.js") + "test.compare(waitForObject(':p').value, 'open <Tab> sesame');");
+  EXPECT_EQ(program.run({"run", "--object-map", "m.tsv", "s.js"}).exitCode, 0);
+}
+
 TEST_F(Record, RefusesWhatItCannotWriteBeforeTheBrowserStarts) {
   program.write("page.html", page);
   program.write("bad.tsv", "x\n");
@@ -64,6 +87,7 @@ TEST_F(Record, RefusesWhatItCannotWriteBeforeTheBrowserStarts) {
       {{"page.html", "-o", ""}, "--output needs the name of a file."},
       {{}, "The URL of the first page is missing."},
       {{"a", "b"}, "It takes one URL, not 2."},
+      {{"page.html", "--secret", "my-password"}, "--secret takes the name of an environment variable, such as"},
   };
   for (const auto& row : rows) {
     const ProgramResult result = program.run(QStringList{"record", "--headless"} + row.arguments);

@@ -32,7 +32,8 @@ QString ProgramRun::write(const QString& name, const QString& text) {
 
 QStringList ProgramRun::withBrowser(const QStringList& arguments) const {
   const QString browser = m_environment.value(QStringLiteral("CORVEX_TEST_BROWSER"));
-  const QStringList browserCommands = {QStringLiteral("run"), QStringLiteral("names"), QStringLiteral("tree")};
+  const QStringList browserCommands = {QStringLiteral("run"), QStringLiteral("names"), QStringLiteral("tree"),
+                                       QStringLiteral("record"), QStringLiteral("pick")};
   if (browserCommands.contains(arguments.value(0)) && !browser.isEmpty() &&
       !arguments.contains(QStringLiteral("--browser"))) {
     return QStringList{arguments.first(), QStringLiteral("--browser"), browser} + arguments.mid(1);

@@ -211,8 +211,9 @@ FunctionCallResult<ObjectList> ScriptBridge::argumentsFor(const ScriptFunction* 
   QJsonObject options;
   for (QJSValueIterator each(last); each.next();) {
     const QJSValue value = each.value();
-    if (value.isString() || value.isNumber() || value.isBool()) {
-      options.insert(each.name(), QJsonValue::fromVariant(value.toVariant()));
+    const bool isSimple = value.isString() || value.isNumber() || value.isBool();
+    if (!value.isUndefined()) {
+      options.insert(each.name(), isSimple ? QJsonValue::fromVariant(value.toVariant()) : QJsonValue());
     }
   }
   QJSValue rewritten = m_engine->newArray(count);

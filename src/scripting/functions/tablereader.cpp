@@ -30,8 +30,8 @@ public:
       values << (at(m_position) == QLatin1Char('"') ? quotedValue() : plainValue());
     } while (m_error.isEmpty() && skip(m_separator));
     if (m_error.isEmpty()) {
-      skip(QLatin1Char('\r'));
-      m_line += skip(QLatin1Char('\n')) ? 1 : 0;
+      const bool isReturn = skip(QLatin1Char('\r'));
+      m_line += skip(QLatin1Char('\n')) || isReturn ? 1 : 0;
     }
     return values;
   }
@@ -48,8 +48,7 @@ private:
   /// The end of a value: the separator, a line end, or the end of the text.
   bool isEnd(int position) const {
     const QChar next = at(position);
-    return position >= m_text.size() || next == m_separator || next == QLatin1Char('\n') ||
-           (next == QLatin1Char('\r') && (position + 1 == m_text.size() || at(position + 1) == QLatin1Char('\n')));
+    return position >= m_text.size() || next == m_separator || next == QLatin1Char('\n') || next == QLatin1Char('\r');
   }
 
   QString plainValue() {

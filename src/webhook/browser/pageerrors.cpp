@@ -81,7 +81,8 @@ QString pageReplaced() { return QStringLiteral("The page was replaced by another
 
 QString noAnswerWithin(int milliseconds) {
   return QStringLiteral(
-             "The page did not answer within %1 ms. A script may keep it busy; allow more time or load it again.")
+             "The page did not answer within %1 ms. A script may keep it busy; allow more time, or call startBrowser "
+             "again.")
       .arg(milliseconds);
 }
 

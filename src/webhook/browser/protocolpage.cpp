@@ -12,6 +12,7 @@ namespace Corvex::Webhook {
 
 namespace {
 
+const int longestStepMs = 20;
 constexpr int longestNavigationMs = 5000;
 constexpr int consoleLimit = 1000;
 constexpr int consoleTextLimit = 10000;
@@ -168,7 +169,8 @@ QString ProtocolPage::perform(const InputSteps& steps) {
   if (!obstacle.isEmpty()) {
     return obstacle;
   }
-  PageCall call = makeCall(0);
+  // A long text takes its time.
+  PageCall call = makeCall(m_session.defaultTimeout() + steps.size() * longestStepMs);
   const QPointer<ProtocolPage> self(this);
   const QString error = giveInput(call, steps);
   const bool isOutcome = error == PageErrors::pageReplaced() || error == PageErrors::pageClosed() ||

@@ -3,6 +3,7 @@
 #include "webhook/cli/hookscriptcommand.h"
 #include "webhook/cli/namescommand.h"
 #include "webhook/cli/output.h"
+#include "webhook/cli/pickcommand.h"
 #include "webhook/cli/recordcommand.h"
 #include "webhook/cli/runcommand.h"
 #include "webhook/cli/treecommand.h"
@@ -23,6 +24,7 @@ struct Command {
 const Command commands[] = {
     {"run", "run test scripts in a browser", runScriptsCommand},
     {"record", "write what you do in a browser as a script", recordCommand},
+    {"pick", "tell what an object of a page is by a click on it", pickCommand},
     {"names", "check that the names of a page's elements find them again", namesCommand},
     {"tree", "show the objects of a page as a tree", treeCommand},
     {"typings", "print a declaration file by which editors complete test scripts", typingsCommand},

@@ -22,6 +22,7 @@ const int settleIntervalMs = 50;
 const QCommandLineOption settleOption(QStringLiteral("wait"),
                                       QStringLiteral("Let the page work for so long once it is loaded."),
                                       QStringLiteral("seconds"));
+const QCommandLineOption headlessOption(QStringLiteral("headless"), QStringLiteral("Show no window."));
 
 }  // namespace
 
@@ -32,12 +33,18 @@ PageCommand::PageCommand(const QString& description) {
   m_parser.addPositionalArgument(QStringLiteral("URL"), QStringLiteral("The page: an address, or an HTML file."));
 }
 
+void PageCommand::showWindow() {
+  m_showsWindow = true;
+  m_parser.addOption(headlessOption);
+}
+
 std::optional<int> PageCommand::parse(const QStringList& arguments) {
   m_command = arguments.value(0);
   if (const std::optional<int> exitCode = parseOptions(m_parser, arguments)) {
     return exitCode;
   }
   QString error = readBrowserOptions(m_parser, &m_session);
+  m_session.headed |= m_showsWindow && m_session.remoteUrl.isEmpty() && !m_parser.isSet(headlessOption);
   if (error.isEmpty() && m_parser.isSet(settleOption)) {
     error = readSeconds(m_parser, settleOption, &m_settleMs);
   }
@@ -56,6 +63,7 @@ std::optional<int> PageCommand::parse(const QStringList& arguments) {
 
 std::optional<int> PageCommand::open() {
   m_browser = std::make_unique<BrowserControl>(m_session);
+  m_prepare(*m_browser);
   Inspector::self()->setDefaultTimeout(m_session.defaultTimeoutMs);
   const QString error = load();
   return error.isEmpty() ? std::nullopt : std::optional<int>(fail(error));

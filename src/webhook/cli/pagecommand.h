@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -20,6 +21,11 @@ public:
 
   /// For the options of the command itself, before `parse`.
   QCommandLineParser& parser() { return m_parser; }
+
+  /// Has the browser's window shown unless --headless is given; before `parse`.
+  void showWindow();
+  /// What `open` does with the browser before it starts.
+  void prepareWith(const std::function<void(BrowserControl&)>& prepare) { m_prepare = prepare; }
 
   /// Reads the arguments. Answers an exit code when the command is over with that, after saying why.
   std::optional<int> parse(const QStringList& arguments);
@@ -47,6 +53,8 @@ private:
   QString m_command;
   QString m_address;
   int m_settleMs = 0;
+  bool m_showsWindow = false;
+  std::function<void(BrowserControl&)> m_prepare = [](BrowserControl&) {};
   std::unique_ptr<BrowserControl> m_browser;
 };
 

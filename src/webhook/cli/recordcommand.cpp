@@ -8,12 +8,13 @@
 #include "webhook/cli/commandoptions.h"
 #include "webhook/cli/output.h"
 #include "webhook/process/cleanup.h"
-#include "webhook/recorder/eventrecorder.h"
+#include "webhook/recorder/actrecorder.h"
 #include "webhook/recorder/recordingfiles.h"
 #include "webhook/run/browsercontrol.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <atomic>
 #include <limits>
@@ -29,6 +30,10 @@ const QCommandLineOption objectMapOption(
     QStringLiteral("Use the symbolic names of this file, and add to it those of new objects."), QStringLiteral("file"));
 const QCommandLineOption appendOption(QStringLiteral("append"),
                                       QStringLiteral("Add to the script in place of replacing it."));
+const QCommandLineOption secretOption(
+    QStringLiteral("secret"),
+    QStringLiteral("Write passwords as a look-up of this environment variable, which the script is then run with."),
+    QStringLiteral("variable"));
 const QCommandLineOption headlessOption(QStringLiteral("headless"), QStringLiteral("Show no window."));
 
 // How soon the recording ends after somebody ended it.
@@ -37,6 +42,7 @@ const int attentionMs = 50;
 struct RecordOptions {
   SessionOptions session;
   RecordingFiles::Options files;
+  QString secret;
   QString address;
 };
 
@@ -58,6 +64,12 @@ QString readOptions(const QCommandLineParser& parser, RecordOptions* options) {
     if (parser.isSet(*option) && parser.value(*option).isEmpty()) {
       return QStringLiteral("--%1 needs the name of a file.").arg(option->names().constLast());
     }
+  }
+  static const QRegularExpression variable(QStringLiteral("^[A-Za-z_][A-Za-z0-9_]*$"));
+  options->secret = parser.value(secretOption);
+  if (parser.isSet(secretOption) && !variable.match(options->secret).hasMatch()) {
+    return QStringLiteral("--secret takes the name of an environment variable, such as SHOP_PASSWORD, not '%1'.")
+        .arg(options->secret);
   }
   if (options->files.appends && options->files.script.isEmpty()) {
     return QStringLiteral("--append needs a script to add to: give it with -o.");
@@ -88,6 +100,7 @@ public:
     Inspector::self()->attachRecorder(&m_calls);
     Inspector::self()->setDefaultTimeout(options.session.defaultTimeoutMs);
     m_browser.recordWith(&m_logger);
+    m_files.hideSecrets(options.secret, [this](const QString& object) { return m_logger.isPassword(object); });
   }
   ~RecordingRun() {
     Inspector::self()->setRecording(false);
@@ -109,7 +122,7 @@ private:
   const RecordOptions& m_options;
   RecordingFiles m_files;
   RecordedCalls m_calls;
-  EventRecorder m_logger;
+  ActRecorder m_logger;
   BrowserControl m_browser;
   std::atomic<bool> m_isOver{false};
   QString m_failure;
@@ -156,7 +169,7 @@ int recordCommand(const QStringList& arguments) {
       "Exit code: 0 recorded, 1 the page could not be loaded or the recording could not be written, 2 wrong usage,\n"
       "3 the browser could not be started."));
   addBrowserOptions(parser);
-  parser.addOptions({outputOption, objectMapOption, appendOption, headlessOption});
+  parser.addOptions({outputOption, objectMapOption, appendOption, secretOption, headlessOption});
   parser.addPositionalArgument(QStringLiteral("URL"), QStringLiteral("The first page: an address, or an HTML file."));
   if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {
     return *exitCode;

@@ -111,7 +111,10 @@ QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
              "if (window === window.top && !(typeof __corvex__isHooked === 'function' && __corvex__isHooked())) {\n") +
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
          members(config, browser) + inPageText("ownjson.js") + hookScript(config) + dialogs +
-         inPageText("fallback.js") + (browser.isRecorded ? inPageText("recordedwindow.js") : QString()) +
+         inPageText("fallback.js") +
+         (browser.isRecorded ? inPageText("recordedwindow.js") + inPageText("recordedmoves.js") +
+                                   inPageText("recordedchecks.js") + inPageText("recordedacts.js")
+                             : QString()) +
          QStringLiteral("\n}");
 }
 

@@ -45,6 +45,7 @@ void MessageDispatcher::dispatch(const PageMessage& message) {
       qCDebug(webhookLog) << "page:" << message.value(QStringLiteral("text"));
       break;
     case MessageKind::HighlightWidget:
+      Q_EMIT objectHovered(message.value(QStringLiteral("info")));
       break;
     case MessageKind::Unknown:
       qCDebug(webhookLog) << "a page sent an unknown message:" << message.text().left(200);

@@ -17,7 +17,7 @@ class Connection;
 class Dialogs;
 
 /// Takes what pages say of their own accord, by whichever way it comes, to the one that it is for: dialogs, the
-/// framework's list of unmatched properties, a recording, the log.
+/// framework's list of unmatched properties, a recording, who shows what is picked, the log.
 class MessageDispatcher : public QObject {
   Q_OBJECT
 
@@ -29,6 +29,10 @@ public:
   /// Who takes what happens in pages, each message as it comes; borrowed, null for nobody. What came before is not
   /// kept.
   void setEventLogger(WebWrapper::EventLogger* logger) { m_logger = logger; }
+
+Q_SIGNALS:
+  /// While objects are picked, the pointer came to rest on one: its rectangle on the screen, a comma, its name.
+  void objectHovered(const QString& info);
 
 private:
   void dispatch(const PageMessage& message);

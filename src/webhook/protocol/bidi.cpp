@@ -321,11 +321,9 @@ std::optional<QJsonObject> readRefusedException(const QString& refusal) {
 
 Command setViewport(const QString& page, const QSize& size, double pixelRatio) {
   const QJsonObject viewport{{QStringLiteral("width"), size.width()}, {QStringLiteral("height"), size.height()}};
-  QJsonObject parameters{{QStringLiteral("viewport"), viewport}};
-  if (pixelRatio > 0) {
-    parameters.insert(QStringLiteral("devicePixelRatio"), pixelRatio);
-  }
-  return ofPage("browsingContext.setViewport", page, parameters);
+  const QJsonValue ratio = pixelRatio > 0 ? QJsonValue(pixelRatio) : QJsonValue();
+  return ofPage("browsingContext.setViewport", page,
+                {{QStringLiteral("viewport"), viewport}, {QStringLiteral("devicePixelRatio"), ratio}});
 }
 
 Command screenshot(const QString& page, bool wholePage) {

@@ -38,10 +38,11 @@ QString textOf(const QJsonObject& entry) {
   return texts.join(QLatin1Char(' '));
 }
 
-/// Firefox tells what a policy kept from the page as it tells errors of scripts.
-bool isNoticeOfPolicy(const QString& text) {
+/// Firefox tells what a policy kept from the page, and of answers that are no XML, as it tells errors of scripts.
+bool isNotice(const QString& text) {
   return text.startsWith(QLatin1String("Content-Security-Policy")) ||
-         text.startsWith(QLatin1String("Cross-Origin Request Blocked: "));
+         text.startsWith(QLatin1String("Cross-Origin Request Blocked: ")) ||
+         text.startsWith(QLatin1String("XML Parsing Error: "));
 }
 
 }  // namespace
@@ -57,8 +58,8 @@ std::optional<ConsoleMessage> readConsoleMessage(const QString& method, const QJ
   ConsoleMessage message;
   message.level = textAt(entry, "level");
   const bool isOfScript = textAt(entry, "type") == QLatin1String("javascript");
-  const bool isOfPolicy = isNoticeOfPolicy(textAt(entry, "text"));
-  message.isUncaught = isOfScript && !isOfPolicy && message.level == QLatin1String("error");
+  const bool isOfBrowser = isNotice(textAt(entry, "text"));
+  message.isUncaught = isOfScript && !isOfBrowser && message.level == QLatin1String("error");
   message.text = isOfScript ? textAt(entry, "text").section(QLatin1Char('\n'), 0, 0) : textOf(entry);
   for (const char* lead : {"uncaught exception: ", "Uncaught (in promise) ", "Uncaught "}) {
     if (message.isUncaught && message.text.startsWith(QLatin1String(lead))) {

@@ -57,7 +57,28 @@ QJsonObject action(const InputStep& step) {
 
 }  // namespace
 
-Command performActions(const QString& page, const InputSteps& steps) {
+// Firefox takes no press of a button that is held since before the document came.
+InputSteps InputWriter::withReleases(const InputSteps& steps) {
+  InputSteps all;
+  for (const InputStep& step : steps) {
+    const bool isPress = step.kind == InputStep::Press;
+    if (isPress && m_held.contains(step.button)) {
+      all.append(step);
+      all.last().kind = InputStep::Release;
+    }
+    if (isPress || step.kind == InputStep::Release) {
+      m_held.removeAll(step.button);
+    }
+    if (isPress) {
+      m_held.append(step.button);
+    }
+    all.append(step);
+  }
+  return all;
+}
+
+Command InputWriter::write(const QString& page, const InputSteps& given) {
+  const InputSteps steps = withReleases(given);
   QJsonArray actions[3];
   bool isUsed[3] = {};
   for (const InputStep& step : steps) {

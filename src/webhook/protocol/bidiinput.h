@@ -5,7 +5,16 @@
 
 namespace Corvex::Webhook::Bidi {
 
-/// All steps as one request; the browser keeps what is held down.
-Command performActions(const QString& page, const InputSteps& steps);
+/// Writes input for one page; the browser keeps what is held down.
+class InputWriter {
+public:
+  /// All steps as one request.
+  Command write(const QString& page, const InputSteps& steps);
+
+private:
+  InputSteps withReleases(const InputSteps& steps);
+
+  QVector<PointerButton> m_held;
+};
 
 }  // namespace Corvex::Webhook::Bidi

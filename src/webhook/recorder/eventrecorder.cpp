@@ -266,6 +266,9 @@ void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleM
 bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
   recordRepeatedPress();
   m_data = data;
+  if (item(data, "type") == QLatin1String("password")) {
+    m_passwords.insert(objectName);
+  }
   if (event() == QLatin1String("unload")) {
     m_contents.clear();
   }

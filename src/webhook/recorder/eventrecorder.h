@@ -5,6 +5,7 @@
 
 #include <QDeadlineTimer>
 #include <QHash>
+#include <QSet>
 #include <QStringList>
 #include <QVector>
 
@@ -29,6 +30,8 @@ public:
   /// The page that the recording begins with: recorded by `begin`, or before what happens in it earlier.
   void setFirstPage(const QString& address) { m_firstPage = address; }
   void begin();
+  /// Whether what is typed into the object is a password.
+  bool isPassword(const QString& objectName) const { return m_passwords.contains(objectName); }
 
   /// From now on calls name the windows of a browser as scripts see them, and tell of the change from one to another
   /// and of windows that a person closes. Borrows them.
@@ -105,6 +108,7 @@ private:
   bool m_lastIsReturn = false;
   /// The content of each field as the page told it last, by the names of the fields.
   QHash<QString, QString> m_contents;
+  QSet<QString> m_passwords;
 };
 
 }  // namespace Webhook

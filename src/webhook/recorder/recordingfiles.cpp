@@ -1,5 +1,6 @@
 #include "webhook/recorder/recordingfiles.h"
 
+#include "corvexhook/inspector.h"
 #include "corvexhook/objectmap.h"
 #include "webhook/recorder/scriptline.h"
 
@@ -41,8 +42,31 @@ QString RecordingFiles::scriptName(const QString& realName) {
   return name.symbolicName;
 }
 
+void RecordingFiles::hideSecrets(const QString& variable, const std::function<bool(const QString&)>& isSecret) {
+  m_secretVariable = variable;
+  m_isSecret = isSecret;
+}
+
+// The key that sends a form is no secret.
+bool RecordingFiles::hides(const EventData& call) const {
+  const bool isText =
+      call.functionName() == QLatin1String("typeText") || call.functionName() == QLatin1String("setText");
+  return isText && !m_secretVariable.isEmpty() && m_isSecret(call.objectName()) &&
+         call.arguments().at(0)->toString() != QLatin1String("<Return>");
+}
+
+// A drag ends on an object, too.
+EventData RecordingFiles::withSymbolicTarget(const EventData& call) {
+  const bool isDrag = call.functionName() == QLatin1String("dragTo");
+  return isDrag ? EventData(call.functionName(), call.objectName(),
+                            {Inspector::self()->wrapString(scriptName(call.arguments().at(0)->toString()))})
+                : call;
+}
+
 void RecordingFiles::write(const EventData& call) {
-  const QString line = scriptLine(call, namesAnObject(call) ? scriptName(call.objectName()) : call.objectName());
+  const QString name = namesAnObject(call) ? scriptName(call.objectName()) : call.objectName();
+  const QString line =
+      hides(call) ? scriptLineWithSecret(call, name, m_secretVariable) : scriptLine(withSymbolicTarget(call), name);
   // It is in the file before anybody sees it.
   const QString error = m_script.isOpen() ? m_script.write(line) : QString();
   if (!error.isEmpty()) {

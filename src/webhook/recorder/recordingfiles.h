@@ -26,17 +26,24 @@ public:
   /// Answers why the recording could not be written.
   QString open(const Options& options);
 
+  /// Has what is typed into the objects that `isSecret` says written as a look-up of this variable.
+  void hideSecrets(const QString& variable, const std::function<bool(const QString& objectName)>& isSecret);
+
   void write(const EventData& call) override;
   void takeBackLast() override;
 
 private:
   QString scriptName(const QString& realName);
+  EventData withSymbolicTarget(const EventData& call);
+  bool hides(const EventData& call) const;
 
   std::function<void(const QString&)> m_show;
   std::function<void(const QString&)> m_complain;
   LineFile m_script;
   LineFile m_map;
   std::unique_ptr<SymbolicNames> m_names;
+  QString m_secretVariable;
+  std::function<bool(const QString&)> m_isSecret;
 };
 
 }  // namespace Corvex::Webhook

@@ -2,6 +2,7 @@
 
 #include "corvexhook/datetime.h"
 #include "corvexhook/primitives.h"
+#include "shared/visibletext.h"
 
 #include <QStringList>
 #include <QVariant>
@@ -21,8 +22,12 @@ struct FunctionRow {
 };
 
 const FunctionRow functionsWithoutObject[] = {
-    {"startBrowser", true}, {"waitForContextExists", true}, {"setContext", true},   {"closeWindow", false},
-    {"closeAlert", false},  {"closeConfirm", false},        {"closePrompt", false},
+    {"startBrowser", true},  {"waitForContextExists", true},
+    {"setContext", true},    {"closeWindow", false},
+    {"openUrl", true},       {"goBack", false},
+    {"goForward", false},    {"reload", false},
+    {"//", false},           {"closeAlert", false},
+    {"closeConfirm", false}, {"closePrompt", false},
 };
 
 const FunctionRow* rowOf(const EventData& call) {
@@ -92,7 +97,19 @@ QString scriptLiteral(const QString& text) {
 
 bool namesAnObject(const EventData& call) { return !rowOf(call); }
 
+QString scriptLineWithSecret(const EventData& call, const QString& objectName, const QString& variable) {
+  return QStringLiteral("%1(%2, environment.%3);").arg(call.functionName(), scriptLiteral(objectName), variable);
+}
+
 QString scriptLine(const EventData& call, const QString& objectName) {
+  if (call.functionName() == QLatin1String("//")) {
+    return QStringLiteral("// ") + visibleText(call.arguments().at(0)->toString());
+  }
+  if (call.functionName() == QLatin1String("test.compare")) {
+    return QStringLiteral("test.compare(waitForObject(%1).%2, %3);")
+        .arg(scriptLiteral(objectName), call.arguments().at(0)->toString(),
+             argumentText(call.arguments().at(1), call.functionName()));
+  }
   const FunctionRow* const row = rowOf(call);
   QStringList arguments;
   if (!row || row->takesName) {

@@ -28,6 +28,7 @@ const ReasonRow reasonRows[] = {
     {"disabled", "it is disabled"},
     {"moving", "it keeps moving"},
     {"outside", "it cannot be scrolled into view"},
+    {"option", "it is an option of a list that drops down; choose it with selectOption(list, text)"},
 };
 
 // In pixels; no page is that large.

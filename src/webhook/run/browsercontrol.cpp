@@ -122,6 +122,8 @@ QString BrowserControl::openSession() {
   if (m_logger) {
     m_windows->recordPages();
     m_dispatcher->setEventLogger(m_logger);
+  } else if (m_pickLogger) {
+    m_dispatcher->setEventLogger(m_pickLogger);
   }
   QObject::connect(m_session.get(), &BrowserSession::lost, m_windows.get(), [this](const QString& reason) {
     m_lossReason = reason;

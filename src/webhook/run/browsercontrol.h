@@ -51,10 +51,13 @@ public:
 
   /// Has what happens in pages of the next browser told to this logger; borrowed.
   void recordWith(WebWrapper::EventLogger* logger) { m_logger = logger; }
+  /// Has this logger told of the objects that are picked in pages of the next browser; borrowed.
+  void pickWith(WebWrapper::EventLogger* logger) { m_pickLogger = logger; }
 
   /// Null when no browser runs.
   BrowserWindows* windows() const { return m_windows.get(); }
   Dialogs* dialogs() const { return m_dialogs.get(); }
+  MessageDispatcher* dispatcher() const { return m_dispatcher.get(); }
   BrowserSession* session() const { return m_session.get(); }
 
   // Sentences that are empty when all is well.
@@ -100,6 +103,7 @@ private:
   std::unique_ptr<Dialogs> m_dialogs;
   std::unique_ptr<MessageDispatcher> m_dispatcher;
   WebWrapper::EventLogger* m_logger = nullptr;
+  WebWrapper::EventLogger* m_pickLogger = nullptr;
   QString m_scriptFolder;
   QString m_lossReason;
   bool m_browserFailure = false;

@@ -8,13 +8,13 @@
 #include "webhook/run/credentialfunctions.h"
 #include "webhook/run/downloadfunctions.h"
 #include "webhook/run/filedialog.h"
+#include "webhook/run/functionrow.h"
 #include "webhook/run/inputfunctions.h"
 #include "webhook/run/nativefunctions.h"
 #include "webhook/run/navigationfunctions.h"
 #include "webhook/run/pagefunctions.h"
 #include "webhook/run/pageobject.h"
 #include "webhook/run/pictures.h"
-#include "webhook/run/windowcall.h"
 #include "wrappers/web/values/jsobject.h"
 
 namespace Corvex::Webhook {
@@ -92,86 +92,68 @@ FunctionCallResult<QImage> objectPicture(BrowserControl& control, const SharedPt
   return found.failed() ? FunctionCallResult<QImage>::failure(found.error) : pictureOf(*found.value.native);
 }
 
-struct Row {
-  const char* name;
-  const char* usage;
-  int minArguments;
-  int maxArguments;
-  bool needsWindow;
-  ScriptValue (*call)(BrowserControl& control, const ObjectList& arguments);
-  bool takesNull = false;
-};
-
-const Row rows[] = {
-    {"startBrowser", "startBrowser(url)", 1, 1, false,
-     [](BrowserControl& c, const ObjectList& a) { return nothing(c.startBrowser(a[0]->toString())); }},
-    {"scriptPath", "scriptPath(file)", 1, 1, false,
-     [](BrowserControl& c, const ObjectList& a) { return text(c.resolvePath(a[0]->toString())); }},
-    {"closeWindow", "closeWindow()", 0, 0, true,
+const FunctionRow rows[] = {
+    {"startBrowser", "startBrowser(url)", 1, 1,
+     [](BrowserControl& c, const ObjectList& a) { return nothing(c.startBrowser(a[0]->toString())); },
+     FunctionRow::WithoutWindow},
+    {"scriptPath", "scriptPath(file)", 1, 1,
+     [](BrowserControl& c, const ObjectList& a) { return text(c.resolvePath(a[0]->toString())); },
+     FunctionRow::WithoutWindow},
+    {"closeWindow", "closeWindow()", 0, 0,
      [](BrowserControl& c, const ObjectList&) { return nothing(c.closeWindow()); }},
-    {"windows", "windows()", 0, 0, true,
+    {"windows", "windows()", 0, 0,
      [](BrowserControl& c, const ObjectList&) { return texts(windowNames(*c.windows())); }},
-    {"contextNames", "contextNames()", 0, 0, true,
+    {"contextNames", "contextNames()", 0, 0,
      [](BrowserControl& c, const ObjectList&) { return texts(contextNames(*c.windows())); }},
-    {"hasContext", "hasContext(name)", 1, 1, true,
+    {"hasContext", "hasContext(name)", 1, 1,
      [](BrowserControl& c, const ObjectList& a) { return truth(hasContext(*c.windows(), a[0]->toString())); }},
-    {"setContext", "setContext(name)", 1, 1, true,
+    {"setContext", "setContext(name)", 1, 1,
      [](BrowserControl& c, const ObjectList& a) { return nothing(selectContext(*c.windows(), a[0]->toString())); }},
-    {"waitForContextExists", "waitForContextExists(name[, ms])", 1, 2, true,
+    {"waitForContextExists", "waitForContextExists(name[, ms])", 1, 2,
      [](BrowserControl& c, const ObjectList& a) { return waitForContext(c, a[0]->toString(), timeoutOf(a, 1)); }},
-    {"setFrameContext", "setFrameContext(path)", 1, 1, true,
+    {"setFrameContext", "setFrameContext(path)", 1, 1,
      [](BrowserControl& c, const ObjectList& a) { return nothing(selectFrame(*c.windows(), a[0]->toString())); }},
-    {"retrieveJSObject", "retrieveJSObject(code)", 1, 1, true,
+    {"retrieveJSObject", "retrieveJSObject(code)", 1, 1,
      [](BrowserControl& c, const ObjectList& a) { return valueOfPage(c, a[0]->toString()); }},
-    {"takeScreenshot", "takeScreenshot([object, ]file)", 1, 2, true, screenshot},
-    {"screenClick", "screenClick(object[, button])", 1, 2, true,
+    {"takeScreenshot", "takeScreenshot([object, ]file)", 1, 2, screenshot},
+    {"screenClick", "screenClick(object[, button])", 1, 2,
      [](BrowserControl& c, const ObjectList& a) { return nothing(screenClick(c, a)); }},
-    {"screenType", "screenType(keys)", 1, 1, true,
+    {"screenType", "screenType(keys)", 1, 1,
      [](BrowserControl& c, const ObjectList& a) { return nothing(screenType(c, a[0]->toString())); }},
-    {"chooseFile", "chooseFile(path[, ms])", 1, 2, true,
+    {"chooseFile", "chooseFile(path[, ms])", 1, 2,
      [](BrowserControl& c, const ObjectList& a) {
        const QString error = c.whyNoScreen();
        return nothing(error.isEmpty() ? chooseFile(c.resolvePath(a[0]->toString()), timeoutOf(a, 1)) : error);
      }},
-    {"closeAlert", "closeAlert([ms])", 0, 1, true,
+    {"closeAlert", "closeAlert([ms])", 0, 1,
      [](BrowserControl& c, const ObjectList& a) { return nothing(c.dialogs()->closeAlert(timeoutOf(a, 0))); }},
-    {"closeConfirm", "closeConfirm(accept[, ms])", 1, 2, true,
+    {"closeConfirm", "closeConfirm(accept[, ms])", 1, 2,
      [](BrowserControl& c, const ObjectList& a) {
        return nothing(c.dialogs()->closeConfirm(a[0] && a[0]->toBool(), timeoutOf(a, 1)));
      }},
-    {"closePrompt", "closePrompt(text or null[, ms])", 1, 2, true,
+    {"closePrompt", "closePrompt(text or null[, ms])", 1, 2,
      [](BrowserControl& c, const ObjectList& a) {
        // An empty answer is one; only a null cancels.
        const QString answer = a[0] ? QStringLiteral("") + a[0]->toString() : QString();
        return nothing(c.dialogs()->closePrompt(answer, timeoutOf(a, 1)));
      },
-     true},
-    {"lastAlertText", "lastAlertText()", 0, 0, true,
+     FunctionRow::TakesNull},
+    {"lastAlertText", "lastAlertText()", 0, 0,
      [](BrowserControl& c, const ObjectList&) { return lastText(c, "alert"); }},
-    {"lastConfirmText", "lastConfirmText()", 0, 0, true,
+    {"lastConfirmText", "lastConfirmText()", 0, 0,
      [](BrowserControl& c, const ObjectList&) { return lastText(c, "confirm"); }},
-    {"lastPromptText", "lastPromptText()", 0, 0, true,
+    {"lastPromptText", "lastPromptText()", 0, 0,
      [](BrowserControl& c, const ObjectList&) { return lastText(c, "prompt"); }},
-    {"lastPromptDefault", "lastPromptDefault()", 0, 0, true,
+    {"lastPromptDefault", "lastPromptDefault()", 0, 0,
      [](BrowserControl& c, const ObjectList&) { return text(c.dialogs()->lastPromptDefault()); }},
 };
-
-ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& arguments) {
-  const auto call = [&] { return row.call(control, arguments); };
-  return row.needsWindow ? withWindow(control, call) : call();
-}
 
 }  // namespace
 
 Scripting::ScriptHost browserFunctions(BrowserControl& control) {
   Scripting::ScriptHost host;
-  for (const Row& row : rows) {
-    host.functions.push_back(
-        {QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.minArguments, row.maxArguments,
-         [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }, row.takesNull});
-  }
-  for (const auto& family : {inputFunctions(control), navigationFunctions(control), pageFunctions(control),
-                             downloadFunctions(control), credentialFunctions(control)}) {
+  for (const auto& family : {scriptFunctionsOf(rows, control), inputFunctions(control), navigationFunctions(control),
+                             pageFunctions(control), downloadFunctions(control), credentialFunctions(control)}) {
     host.functions.insert(host.functions.end(), family.begin(), family.end());
   }
   host.pictureOf = [&control](const SharedPtr<Object>& object) { return objectPicture(control, object); };

@@ -2,6 +2,7 @@
 
 #include "webhook/browser/authentication.h"
 #include "webhook/run/browsercontrol.h"
+#include "webhook/run/functionrow.h"
 
 namespace Corvex::Webhook {
 
@@ -19,12 +20,13 @@ FunctionCallResult<SharedPtr<Object>> setCredentials(BrowserControl& control, co
   return {};
 }
 
+const FunctionRow row{"setCredentials",          "setCredentials(user, password[, origin])", 2, 3, setCredentials,
+                      FunctionRow::WithoutWindow};
+
 }  // namespace
 
 std::vector<Scripting::ScriptFunction> credentialFunctions(BrowserControl& control) {
-  Scripting::ScriptFunction function{
-      QStringLiteral("setCredentials"), QStringLiteral("setCredentials(user, password[, origin])"), 2, 3,
-      [&control](const ObjectList& arguments) { return setCredentials(control, arguments); }};
+  Scripting::ScriptFunction function = scriptFunctionOf(row, control);
   function.shownArguments = 1;
   return {function};
 }

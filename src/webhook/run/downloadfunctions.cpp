@@ -3,6 +3,7 @@
 #include "corvexhook/inspector.h"
 #include "shared/wait.h"
 #include "webhook/run/browsercontrol.h"
+#include "webhook/run/functionrow.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -90,16 +91,16 @@ ScriptValue saveDownload(BrowserControl& control, const ObjectList& arguments) {
   return {nullptr, error};
 }
 
+const FunctionRow rows[] = {
+    {"waitForDownload", "waitForDownload([ms])", 0, 1, waitForDownload,
+     FunctionRow::WithoutWindow | FunctionRow::GivesJson},
+    {"saveDownload", "saveDownload(path, file or folder)", 2, 2, saveDownload, FunctionRow::WithoutWindow},
+};
+
 }  // namespace
 
 std::vector<Scripting::ScriptFunction> downloadFunctions(BrowserControl& control) {
-  Scripting::ScriptFunction wait{
-      QStringLiteral("waitForDownload"), QStringLiteral("waitForDownload([ms])"), 0, 1,
-      [&control](const ObjectList& arguments) { return waitForDownload(control, arguments); }};
-  wait.givesJson = true;
-  return {wait,
-          {QStringLiteral("saveDownload"), QStringLiteral("saveDownload(path, file or folder)"), 2, 2,
-           [&control](const ObjectList& arguments) { return saveDownload(control, arguments); }}};
+  return scriptFunctionsOf(rows, control);
 }
 
 }  // namespace Corvex::Webhook

@@ -9,6 +9,8 @@
 
 #include <QVariant>
 
+#include <cmath>
+
 namespace Corvex::Webhook {
 
 namespace {
@@ -46,7 +48,7 @@ struct UseResult {
 UseResult readUse(const Call& call) {
   const int count = call.arguments.size();
   for (int i = 1; i < count; ++i) {
-    if (!isNumber(call.arguments[i])) {
+    if (!isNumber(call.arguments[i]) || !std::isfinite(call.number(i))) {
       return {{},
               QStringLiteral("%1: positions, modifiers and button must be numbers, but argument number %2 is none.")
                   .arg(QLatin1String(call.function), QString::number(i + 1))};

@@ -3,6 +3,8 @@
 #include <QRegularExpression>
 #include <QTextBoundaryFinder>
 
+#include <algorithm>
+
 namespace Corvex::Webhook {
 
 namespace {
@@ -20,6 +22,10 @@ void press(InputSteps& steps, const Key& key) {
 
 Key modifierKey(const char* name) { return *keyNamed(QLatin1String(name)); }
 
+bool hasShift(const QVector<Key>& keys) {
+  return std::any_of(keys.begin(), keys.end(), [](const Key& key) { return key.modifier == ShiftHeld; });
+}
+
 /// The keys between angle brackets; empty where they name none.
 QVector<Key> combinationOf(const QString& inside) {
   QVector<Key> keys;
@@ -34,7 +40,7 @@ QVector<Key> combinationOf(const QString& inside) {
     if (!isCharacter && (!named || (!isLast && !named->modifier))) {
       return {};
     }
-    keys << (named ? *named : keyFor(name.toLower()));
+    keys << (named ? *named : keyFor(hasShift(keys) ? name.toUpper() : name.toLower()));
   }
   return keys;
 }

@@ -2,7 +2,8 @@
 
 #include "corvexhook/inspector.h"
 #include "webhook/protocol/inpagetext.h"
-#include "webhook/run/windowcall.h"
+#include "webhook/run/browsercontrol.h"
+#include "webhook/run/functionrow.h"
 
 namespace Corvex::Webhook {
 
@@ -33,36 +34,20 @@ ScriptValue pageTitle(BrowserControl& control, const ObjectList&) {
   return title.succeeded() ? ScriptValue::success(Inspector::self()->wrapString(title.text)) : nothing(title.text);
 }
 
-struct Row {
-  const char* name;
-  const char* usage;
-  int arguments;
-  ScriptValue (*call)(BrowserControl& control, const ObjectList& arguments);
-};
-
-const Row rows[] = {
-    {"openUrl", "openUrl(url)", 1, openUrl},
-    {"goBack", "goBack()", 0, [](BrowserControl& c, const ObjectList&) { return nothing(c.goThroughHistory(-1)); }},
-    {"goForward", "goForward()", 0,
+const FunctionRow rows[] = {
+    {"openUrl", "openUrl(url)", 1, 1, openUrl},
+    {"goBack", "goBack()", 0, 0, [](BrowserControl& c, const ObjectList&) { return nothing(c.goThroughHistory(-1)); }},
+    {"goForward", "goForward()", 0, 0,
      [](BrowserControl& c, const ObjectList&) { return nothing(c.goThroughHistory(1)); }},
-    {"reload", "reload()", 0, [](BrowserControl& c, const ObjectList&) { return nothing(c.reload()); }},
-    {"currentUrl", "currentUrl()", 0, currentUrl},
-    {"pageTitle", "pageTitle()", 0, pageTitle},
+    {"reload", "reload()", 0, 0, [](BrowserControl& c, const ObjectList&) { return nothing(c.reload()); }},
+    {"currentUrl", "currentUrl()", 0, 0, currentUrl},
+    {"pageTitle", "pageTitle()", 0, 0, pageTitle},
 };
-
-ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& arguments) {
-  return withWindow(control, [&] { return row.call(control, arguments); });
-}
 
 }  // namespace
 
 std::vector<Scripting::ScriptFunction> navigationFunctions(BrowserControl& control) {
-  std::vector<Scripting::ScriptFunction> functions;
-  for (const Row& row : rows) {
-    functions.push_back({QString::fromLatin1(row.name), QString::fromLatin1(row.usage), row.arguments, row.arguments,
-                         [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); }});
-  }
-  return functions;
+  return scriptFunctionsOf(rows, control);
 }
 
 }  // namespace Corvex::Webhook

@@ -2,7 +2,8 @@
 
 #include "corvexhook/inspector.h"
 #include "webhook/protocol/inpagetext.h"
-#include "webhook/run/windowcall.h"
+#include "webhook/run/browsercontrol.h"
+#include "webhook/run/functionrow.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -81,11 +82,12 @@ ScriptValue setCookie(BrowserControl& control, const ObjectList& arguments) {
   Cookie cookie;
   cookie.name = arguments[0]->toString();
   cookie.value = arguments[1]->toString();
-  static const QRegularExpression unfit(QStringLiteral("[;\\x00-\\x1f\\x7f]"));
+  static const QRegularExpression unfit(QStringLiteral("[^\\x20-\\x7e]|;"));
   const bool isNamed = !cookie.name.isEmpty() && !cookie.name.contains(QLatin1Char('='));
   if (!isNamed || (cookie.name + cookie.value).contains(unfit)) {
-    return nothing(QStringLiteral(
-        "setCookie needs a name without '=', and name and value without semicolons and control characters."));
+    return nothing(
+        QStringLiteral("setCookie needs a name without '=', and name and value of ASCII characters without semicolons. "
+                       "encodeURIComponent writes any text so."));
   }
   const QString options = arguments.size() > 2 && arguments[2] ? arguments[2]->toString() : QStringLiteral("{}");
   const QJsonDocument document = QJsonDocument::fromJson(options.toUtf8());
@@ -157,48 +159,21 @@ ScriptValue setViewport(BrowserControl& control, const ObjectList& arguments) {
   return nothing(page ? page->setViewport({width, height}, ratio) : QString());
 }
 
-struct Row {
-  const char* name;
-  const char* usage;
-  int minArguments;
-  int maxArguments;
-  ScriptValue (*call)(BrowserControl& control, const ObjectList& arguments);
-  bool givesJson = false;
-  bool takesOptions = false;
-  bool takesNull = false;
-};
-
-const Row rows[] = {
-    {"consoleMessages", "consoleMessages()", 0, 0, consoleMessages, true},
-    {"cookies", "cookies()", 0, 0, cookies, true},
-    {"setCookie", "setCookie(name, value[, options])", 2, 3, setCookie, false, true},
+const FunctionRow rows[] = {
+    {"consoleMessages", "consoleMessages()", 0, 0, consoleMessages, FunctionRow::GivesJson},
+    {"cookies", "cookies()", 0, 0, cookies, FunctionRow::GivesJson},
+    {"setCookie", "setCookie(name, value[, options])", 2, 3, setCookie, FunctionRow::TakesOptions},
     {"deleteCookies", "deleteCookies()", 0, 0, deleteCookies},
     {"localStorageItem", "localStorageItem(name)", 1, 1, localStorageItem},
-    {"setLocalStorageItem", "setLocalStorageItem(name, text or null)", 2, 2, setLocalStorageItem, false, false, true},
+    {"setLocalStorageItem", "setLocalStorageItem(name, text or null)", 2, 2, setLocalStorageItem,
+     FunctionRow::TakesNull},
     {"setViewport", "setViewport(width, height[, ratio])", 2, 3, setViewport},
 };
-
-ScriptValue run(const Row& row, BrowserControl& control, const ObjectList& arguments) {
-  return withWindow(control, [&] { return row.call(control, arguments); });
-}
 
 }  // namespace
 
 std::vector<Scripting::ScriptFunction> pageFunctions(BrowserControl& control) {
-  std::vector<Scripting::ScriptFunction> functions;
-  for (const Row& row : rows) {
-    Scripting::ScriptFunction function;
-    function.name = QLatin1String(row.name);
-    function.usage = QLatin1String(row.usage);
-    function.minArguments = row.minArguments;
-    function.maxArguments = row.maxArguments;
-    function.call = [&control, &row](const ObjectList& arguments) { return run(row, control, arguments); };
-    function.givesJson = row.givesJson;
-    function.takesOptions = row.takesOptions;
-    function.takesNull = row.takesNull;
-    functions.push_back(function);
-  }
-  return functions;
+  return scriptFunctionsOf(rows, control);
 }
 
 }  // namespace Corvex::Webhook

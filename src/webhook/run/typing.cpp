@@ -95,6 +95,22 @@ QString focus(ActionTarget& target, const Field& field, bool selectsAll, QString
   return answer.succeeded() ? QString() : answer.text;
 }
 
+/// An editor may indent and close brackets of what is typed, and takes what is pasted as it is.
+QString pasteIntoEditor(const ActionTarget& target, const InputSteps& selection, const QString& text) {
+  const QString failed = target.perform(selection);
+  const JavaScriptAnswer pasted = failed.isEmpty()
+                                      ? target.ask(QStringLiteral("__corvex__pasteText('") +
+                                                   WebWrapper::escapeForUseAsStringLiteral(text) + QStringLiteral("')"))
+                                      : JavaScriptAnswer();
+  if (!failed.isEmpty() || !pasted.succeeded() || pasted.text == QLatin1String("true")) {
+    return failed.isEmpty() && !pasted.succeeded() ? pasted.text : failed;
+  }
+  const QString error = target.perform(insertion(text));
+  const bool tookNothing =
+      error.isEmpty() && target.ask(QStringLiteral("__corvex__typingCheck.end()")).text == QLatin1String("false");
+  return tookNothing ? target.failure(QStringLiteral("it took nothing of the text")) : error;
+}
+
 /// Types into what takes keys.
 QString type(ActionTarget& target, const Field& field, const QString& text, bool hasKeys) {
   const QVector<KeyTextPart> parts = hasKeys ? parseKeyText(text) : QVector<KeyTextPart>{{text, {}}};
@@ -116,6 +132,9 @@ QString type(ActionTarget& target, const Field& field, const QString& text, bool
   InputSteps steps;
   if (replaces && kind == QLatin1String("editor")) {
     steps += combination("Ctrl", QStringLiteral("a"));
+  }
+  if (kind == QLatin1String("editor") && !hasKeys && !text.isEmpty()) {
+    return pasteIntoEditor(target, steps, text);
   }
   steps += text.isEmpty() ? singleKey("Delete") : hasKeys ? stepsFor(parts) : insertion(text);
   const QString failed = target.perform(steps);

@@ -9,6 +9,10 @@ waitForObject("{tagName='DIV' class='tooltip-inner' innerText='Tip text'}");
 mouseClick(element("BUTTON", "open"));
 typeText(element("INPUT", "inside"), "in the dialog");
 test.compare(findObject(element("INPUT", "inside")).value, "in the dialog");
+// While it fades in, the dialog does not close.
+waitUntil(function () {
+  return evaluated("bootstrap.Modal.getInstance(document.getElementById('dialog'))._isTransitioning") === "false";
+}, "the dialog is there");
 mouseClick(element("BUTTON", "close"));
 mouseClick(element("BUTTON", "open"));
 waitForObject(element("BUTTON", "close"));

@@ -52,3 +52,13 @@ waitForText("SPAN", "basket", "an item");
 setFrameContext("frame");
 clickButton(element("BUTTON", "inner"));
 waitUntil(function () { return textOf("P", "log").indexOf("inner clicked") >= 0; }, "the frame's button is clicked");
+
+// Neither a focus that left the page nor a button that was held over its end is in the way of the next click.
+startBrowser(SITE + "/input.html");
+setFocus(element("BUTTON", "b"));
+pressKeys("<Shift+Tab><Shift+Tab><Shift+Tab>");
+clickButton(element("BUTTON", "b"));
+test.compare(retrieveJSObject("document.hasFocus()"), true);
+mouseDown(element("BUTTON", "b"));
+reload();
+test.verify(/click b$/.test(events(function () { clickButton(element("BUTTON", "b")); })), "a whole click");

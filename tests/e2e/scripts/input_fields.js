@@ -21,6 +21,7 @@ typeText(input("max"), "abcdef");
 test.compare(value("max"), "abc");
 typeText(input("num"), "12.5");
 test.compare(value("num"), "12.5");
+verifyFails(function () { typeText(input("num"), "abc"); }, "it took nothing of the text");
 typeText(input("pass"), "s3cret");
 test.compare(value("pass"), "s3cret");
 typeText(element("TEXTAREA", "area"), "one\ntwo<Return>three");

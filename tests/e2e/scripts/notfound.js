@@ -5,7 +5,7 @@ verifyFails(function () { findObject("{tagName='P' title='none'}"); }, "title");
 verifyFails(function () { findObject("{tagName='P' title.x+1='none'}"); }, "'title.x+1' is no path of properties: '+1' follows 'title.x'");
 verifyFails(function () { findObject("{tagName='VIDEO' title='none'}"); }, "not found");
 verifyFails(function () { waitForObject("{tagName='P' title='none'}", 300); }, "Object '{tagName='P' title='none'}' not found");
-verifyFails(function () { waitForObject("{tagName='P' title='none'}", 300); }, " It was waited for during 3");
+verifyFails(function () { waitForObject("{tagName='P' title='none'}", 300); }, " It was waited for during ");
 ["#main", ".row > a", "div[data-x]", "div.row:hover", "ul > li"].forEach(function (name) {
   verifyFails(function () { findObject(name); }, "It reads as CSS, which is no name here. Name the object by its properties in ");
 });

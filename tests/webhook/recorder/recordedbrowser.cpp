@@ -34,7 +34,7 @@ QString textOfFile(const char* name) {
 void RecordedBrowser::Logger::logEvent(const QString& text) {
   markers += text.contains(QLatin1String("&marker")) ? 1 : 0;
   silence.setRemainingTime(silenceMs);
-  EventRecorder::logEvent(text);
+  ActRecorder::logEvent(text);
 }
 
 RecordedBrowser::RecordedBrowser(bool isRecorded) : m_control(testBrowser()) {

@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "scripting/engine/scriptengine.h"
-#include "webhook/recorder/eventrecorder.h"
+#include "webhook/recorder/actrecorder.h"
 #include "webhook/recorder/recordedcalls.h"
 #include "webhook/recorder/scriptline.h"
 #include "webhook/run/browsercontrol.h"
@@ -42,8 +42,8 @@ private:
     void takeBackLast() override { lines.removeLast(); }
     QStringList lines;
   };
-  struct Logger : Corvex::Webhook::EventRecorder {
-    using EventRecorder::EventRecorder;
+  struct Logger : Corvex::Webhook::ActRecorder {
+    using ActRecorder::ActRecorder;
     void logEvent(const QString& text) override;
     int markers = 0;
     QDeadlineTimer silence;

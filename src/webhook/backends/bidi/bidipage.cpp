@@ -4,7 +4,6 @@
 #include "webhook/backends/bidi/bidisession.h"
 #include "webhook/browser/pageerrors.h"
 #include "webhook/protocol/bidiconsole.h"
-#include "webhook/protocol/bidiinput.h"
 #include "webhook/protocol/devtools.h"
 #include "webhook/protocol/startscript.h"
 
@@ -226,7 +225,7 @@ QString BidiPage::giveInput(PageCall& call, const InputSteps& steps) {
   QString error;
   const auto giveActions = [&] {
     if (error.isEmpty() && !actions.isEmpty()) {
-      error = call.errorOf(call.ask(Bidi::performActions(context, std::exchange(actions, {}))));
+      error = call.errorOf(call.ask(m_input.write(context, std::exchange(actions, {}))));
     }
   };
   for (const InputStep& step : steps) {
@@ -254,9 +253,7 @@ QVector<Cookie> BidiPage::readCookies(const QJsonObject& answer) const {
 }
 
 Command BidiPage::viewportSetting(const QSize& size, double pixelRatio) {
-  if (pixelRatio > 0) {
-    m_plainPixelRatio = pixelRatio;
-  }
+  m_plainPixelRatio = pixelRatio > 0 ? std::optional<double>(pixelRatio) : std::nullopt;
   return Bidi::setViewport(m_context, size, pixelRatio);
 }
 

@@ -4,6 +4,7 @@
 #include "webhook/browser/protocolpage.h"
 #include "webhook/protocol/bidi.h"
 #include "webhook/protocol/bidicookies.h"
+#include "webhook/protocol/bidiinput.h"
 
 namespace Corvex::Webhook {
 
@@ -80,6 +81,7 @@ private:
   std::shared_ptr<Pending> m_realmThere = std::make_shared<Pending>();
   QString m_document;            ///< The navigation that brought it.
   QString m_navigationUnderWay;  ///< Or the last that was.
+  Bidi::InputWriter m_input;
   bool m_framesGuarded = false;
   std::optional<double> m_plainPixelRatio;
   std::shared_ptr<Request> m_devTools;  ///< Asks for the page's DevTools session; other browsers refuse it.

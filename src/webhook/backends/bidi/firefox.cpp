@@ -40,6 +40,7 @@ user_pref("browser.startup.homepage", "about:blank");
 user_pref("browser.startup.page", 0);
 user_pref("datareporting.policy.dataSubmissionEnabled", false);
 user_pref("dom.disable_open_during_load", false);
+user_pref("dom.disable_window_flip", false);
 user_pref("dom.min_background_timeout_value", 4);
 user_pref("dom.min_background_timeout_value_without_budget_throttling", 4);
 user_pref("dom.require_user_interaction_for_beforeunload", false);

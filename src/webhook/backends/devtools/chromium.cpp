@@ -69,7 +69,8 @@ QStringList arguments(const QString& directory, const SessionOptions& options) {
   }
   list.append(QStringLiteral("--user-data-dir=%1/profile").arg(directory));
   if (!options.headed) {
-    list << QStringLiteral("--headless=new") << QStringLiteral("--disable-gpu");
+    // A picture of the whole page takes its scroll bars away and does not bring them back, so they are never there.
+    list << QStringLiteral("--headless=new") << QStringLiteral("--disable-gpu") << QStringLiteral("--hide-scrollbars");
   }
   if (geteuid() == 0) {
     list.append(QStringLiteral("--no-sandbox"));  // its sandbox does not work for root

@@ -2,6 +2,7 @@
 // Needs: runtime/natives, runtime/nodes.
 
 var __corvex__hitTarget = (function () {
+  var controls = { A: 1, BUTTON: 1, INPUT: 1, SELECT: 1, SUMMARY: 1, TEXTAREA: 1 };
   var ofDocument = __corvex__nativeFunction(window.Document && Document.prototype.elementFromPoint);
   var ofShadowRoot = __corvex__nativeFunction(window.ShadowRoot && ShadowRoot.prototype.elementFromPoint) || ofDocument;
 
@@ -54,9 +55,14 @@ var __corvex__hitTarget = (function () {
     }
   }
 
-  // A click there reaches it: on what it holds, on its label, and on what holds it if it lets clicks through.
+  function isPartOfOther(o, hit) {
+    return controls[__corvex__nodeReader.tagName(o)] !== 1 && isWithin(o, hit) && letsPointersThrough(o);
+  }
+
+  // A click there reaches it: on what it holds, on its label, and on what holds it if it lets clicks through. A control
+  // that does so takes none.
   function isOwn(hit, o) {
-    return !!hit && (isWithin(hit, o) || isLabelOf(hit, o) || (letsPointersThrough(o) && isWithin(o, hit)));
+    return !!hit && (isWithin(hit, o) || isLabelOf(hit, o) || isPartOfOther(o, hit));
   }
 
   return { at: at, isOwn: isOwn, isWithin: isWithin, parentOf: parentOf };

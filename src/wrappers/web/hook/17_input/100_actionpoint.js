@@ -147,6 +147,16 @@ var __corvex__actionPoint = (function () {
     return x >= 0 && y >= 0 && x <= box.width && y <= box.height;
   }
 
+  // Whether its list shows its options in the page.
+  function isInOpenList(o) {
+    for (var e = o; e; e = __corvex__nodeReader.parentNode(e)) {
+      if (__corvex__nodeReader.tagName(e) === "SELECT") {
+        return e.multiple || e.size > 1;
+      }
+    }
+    return true;
+  }
+
   function isDisabled(o) {
     try {
       return o.matches(":disabled");
@@ -155,16 +165,19 @@ var __corvex__actionPoint = (function () {
     }
   }
 
-  // "at X Y" in the top window's view, or why not: "gone", "hidden", "beyond", "disabled", "moving", "covered", "outside";
-  // and "page" for what the browser shows in a way of its own. x and y are from the element's corner, or null for a point
-  // of its own choice. attempt counts from 0.
+  // "at X Y" in the top window's view, or why not: "gone", "hidden", "beyond", "disabled", "moving", "covered", "outside",
+  // "option" for one of a list that drops down; and "page" for what the browser shows in a way of its own. x and y are from
+  // the element's corner, or null for a point of its own choice. attempt counts from 0.
   return function (o, x, y, attempt) {
     if (!o || __corvex__nodeReader.nodeType(o) !== 1) {
       return "page";
     }
     var tagName = __corvex__nodeReader.tagName(o);
-    if (tagName === "OPTION" || tagName === "OPTGROUP" || tagName === "AREA") {
+    if (tagName === "AREA") {
       return "page";
+    }
+    if ((tagName === "OPTION" || tagName === "OPTGROUP") && !isInOpenList(o)) {
+      return "option";
     }
     if (!o.isConnected || !viewOf(o)) {
       return "gone";

@@ -66,10 +66,22 @@ var __corvex__pressCheck = (function () {
   };
 })();
 
+// Keys may have led the focus to the browser's own controls, and in a browser that shows no window no press brings it back.
+function __corvex__takeFocusFromBrowser() {
+  try {
+    if (!document.hasFocus()) {
+      window.focus();
+    }
+  } catch (e) {
+    // The page has replaced one of them.
+  }
+}
+
 // An action point, with a check of the press that is to follow.
 function __corvex__pressPoint(o, x, y, attempt) {
   var answer = __corvex__actionPoint(o, x, y, attempt);
   if (answer.substring(0, 3) === "at ") {
+    __corvex__takeFocusFromBrowser();
     __corvex__pressCheck.begin(o);
   }
   return answer;

@@ -26,7 +26,7 @@ var __corvex__typingCheck = (function () {
         add.call(__corvex__nodeReader.ownerDocument(field).defaultView, "input", count, true);
       }
     },
-    // Whether the field took anything; true where the page replaced or changed it.
+    // Whether the field took anything of a text; true where the page replaced or changed it.
     end: function () {
       if (!field) {
         return true;
@@ -35,7 +35,9 @@ var __corvex__typingCheck = (function () {
       if (remove && w) {
         remove.call(w, "input", count, true);
       }
-      var took = inputs > 0 || !field.isConnected || textOf(field) !== before;
+      // A field for numbers may show the letters that it does not take.
+      var isWithoutNumber = field.isConnected && field.type === "number" && field.value === "";
+      var took = !isWithoutNumber && (inputs > 0 || !field.isConnected || textOf(field) !== before);
       field = null;
       return took;
     }
