@@ -27,7 +27,8 @@ QString keyOf(const QString& realName) {
   for (auto property = properties.begin(); property != properties.end(); ++property) {
     const PropertyValue& value = property.value();
     const QString text = value.type() == PropertyValue::NestedName ? keyOf(value.value()) : value.value();
-    parts << QStringLiteral("%1 %2 %3 %4").arg(property.key()).arg(value.modifiers()).arg(value.type()).arg(text);
+    parts << QStringLiteral("%1 %2 %3 %4")
+                 .arg(property.key(), QString::number(value.modifiers()), QString::number(value.type()), text);
   }
   return QLatin1Char('{') + parts.join(QLatin1Char('\n'));
 }

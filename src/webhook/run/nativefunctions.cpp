@@ -1,6 +1,7 @@
 #include "webhook/run/nativefunctions.h"
 
 #include "corvexhook/hook.h"
+#include "shared/wait.h"
 #include "webhook/run/browsercontrol.h"
 #include "webhook/run/pageobject.h"
 #include "wrappers/web/object/webobject.h"
@@ -10,7 +11,19 @@ namespace Corvex::Webhook {
 
 namespace {
 
+const int longestPaintMs = 1000;
+const int attemptIntervalMs = 20;
+
+// Until a page has painted for the first time, Chromium gives it no press of the real pointer.
+void awaitFirstPaint(WebWrapper::HTML_Object& object) {
+  poll(longestPaintMs, attemptIntervalMs, [&object] {
+    const QString count = QStringLiteral("String(window.top.performance.getEntriesByType('paint').length)");
+    return object.evaluateJS(count).text != QLatin1String("0");
+  });
+}
+
 QString clickMiddle(WebWrapper::HTML_Object& object, MouseButton::Value button) {
+  awaitFirstPaint(object);
   const FunctionCallResult<ScreenRectangle> place = object.component->getScreenRect(&object, true);
   if (place.failed()) {
     return place.error;

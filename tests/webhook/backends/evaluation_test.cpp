@@ -159,7 +159,7 @@ TEST_F(EvaluationTest, CodeWithoutEndIsAbortedAndEnded) {
   const JavaScriptAnswer endless = page->evaluate(q("for (;;) {}"), 100);
   EXPECT_TRUE(endless.aborted);
   EXPECT_EQ(endless.text,
-            q("The page did not answer within 100 ms. A script may keep it busy; allow more time or load it "
+            q("The page did not answer within 100 ms. A script may keep it busy; allow more time, or call startBrowser "
               "again."));
   EXPECT_EQ(text("'alive'"), q("alive"));
 }

@@ -9,7 +9,8 @@ void sendObjectPickedToSpy(const QString& objectName) {
   Hook& hook = *Hook::hook;
   const int spy = hook.spyConnection();
   const int connection = spy == -1 ? hook.defaultConnection() : spy;
-  TRACE_POINT("WebWrapper", QStringLiteral("Sending object name \"%1\" to spy: %2").arg(objectName).arg(connection));
+  TRACE_POINT("WebWrapper",
+              QStringLiteral("Sending object name \"%1\" to spy: %2").arg(objectName, QString::number(connection)));
   hook.send(connection, QStringLiteral("objectPicked"), {objectName});
 }
 

@@ -23,7 +23,7 @@ struct ConversionRow {
   const char* arguments[4];
 };
 
-const char* const modifiers = "";
+constexpr const char* modifiers = "";
 
 constexpr ConversionRow conversions[] = {
     {"mousedown", "mousedown", {"x", "y", modifiers, "button"}},

@@ -51,9 +51,10 @@ function __corvex__isOverlayKeyComboPressed(ev) {
   return !!(window.top.__corvex__os === "MacOSX" ? ev.altKey && ev.metaKey : ev.ctrlKey && ev.altKey);
 }
 
-function __corvex__removeInfoDiv() {
+// Removes the first child of the body that isMeant accepts.
+function __corvex__removeInfoDiv(isMeant) {
   for (var node = __corvex__nodeReader.firstChild(document.body); node; node = __corvex__nodeReader.nextSibling(node)) {
-    if (__corvex__isInfoDiv(node)) {
+    if (isMeant(node)) {
       document.body.removeChild(node);
       return;
     }
@@ -137,12 +138,14 @@ function __corvex__checkForObjectOverlayRelatedEvent(scr, ev) {
   }
   if (__corvex__isInfoDiv(scr)) {
     if (ev.type === "mousedown" && __corvex__nodeReader.tagName(scr) === "BUTTON") {
-      __corvex__removeInfoDiv();
+      __corvex__removeInfoDiv(function (node) {
+        return node.__corvex__isinfo;
+      });
     }
     return true;
   }
   if (ev.type === "mousedown") {
-    __corvex__removeInfoDiv();
+    __corvex__removeInfoDiv(__corvex__isInfoDiv);
   }
   // Browsers differ in the number of the left button.
   if (ev.type === "click" && __corvex__isOverlayKeyComboPressed(ev) && (ev.button === 0 || ev.button === 1)) {
