@@ -44,7 +44,7 @@ QString report(const PickedObject& picked) {
 }
 
 /// Answers the exit code.
-int pick(PageCommand& command, const std::atomic<bool>& isOver) {
+int pick(PageCommand& command, EventRecorder& logger, const std::atomic<bool>& isOver) {
   BrowserWindows& windows = *command.browser().windows();
   const bool keeps = command.parser().isSet(keepOption);
   Picking picking(windows);
@@ -54,6 +54,8 @@ int pick(PageCommand& command, const std::atomic<bool>& isOver) {
   int exitCode = keeps ? ExitCode::Success : ExitCode::Failed;
   poll(std::numeric_limits<int>::max(), attentionMs, [&] {
     picking.serve();
+    // A press is worked on at once: nothing comes before it.
+    logger.finish();
     bool isDone = isOver || windows.connections().isEmpty();
     while (!isDone && picking.hasPicked()) {
       exitCode = printOut(report(picking.take()), ExitCode::Success);
@@ -84,7 +86,7 @@ int pickCommand(const QStringList& arguments) {
     return *exitCode;
   }
   Cleanup::setStopFlag(&isOver);
-  const int exitCode = pick(command, isOver);
+  const int exitCode = pick(command, logger, isOver);
   Cleanup::setStopFlag(nullptr);
   return exitCode;
 }

@@ -147,13 +147,14 @@ int RecordingRun::run() {
     complain(notStarted);
     return m_browser.hadBrowserFailure() ? ExitCode::BrowserFailed : ExitCode::Failed;
   }
+  m_logger.watch(*m_browser.windows());
   m_logger.begin();
   poll(std::numeric_limits<int>::max(), attentionMs, [this] {
-    m_logger.flushIdleText();
+    m_logger.keepUp();
     return m_isOver || !m_failure.isEmpty() || m_outputCode != ExitCode::Success ||
            m_browser.windows()->connections().isEmpty();
   });
-  m_logger.flushRecordedTextInput();
+  m_logger.finish();
   Inspector::self()->setRecording(false);
   return m_failure.isEmpty() ? m_outputCode : ExitCode::Failed;
 }

@@ -1,45 +1,15 @@
 #include "webhook/pages/browserdelegates.h"
 
 #include "webhook/pages/connection.h"
+#include "webhook/pages/contextinname.h"
 #include "webhook/pages/webmodel.h"
 #include "webhook/pages/windownames.h"
 #include "wrappers/web/lookup/containers.h"
 #include "wrappers/web/object/wraphtmlobject.h"
-#include "wrappers/web/page/escaping.h"
 
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 
 namespace Corvex::Webhook {
-
-namespace {
-
-const QRegularExpression& contextOfElement() {
-  static const QRegularExpression head(QStringLiteral("^\\{context='[^']*' "));
-  return head;
-}
-
-const QRegularExpression& contextOfDocument() {
-  static const QRegularExpression head(QStringLiteral("^DOCUMENT\\[([^\\]]*)\\]"));
-  return head;
-}
-
-QString asDocument(QString context) {
-  return QStringLiteral("DOCUMENT[%1]").arg(context.replace(QLatin1Char('.'), QLatin1Char('|')));
-}
-
-/// The name with that context in place of the one that it has, if any.
-QString inContext(QString name, const QString& context) {
-  if (name.startsWith(QLatin1Char('{'))) {
-    name.replace(contextOfElement(), QStringLiteral("{"));
-    return QStringLiteral("{context='%1' ").arg(WebWrapper::escapeQuoteWithBackslash(context)) + name.mid(1);
-  }
-  const QRegularExpressionMatch head = contextOfDocument().match(name);
-  const int length = head.hasMatch() ? head.capturedLength() : QStringLiteral("DOCUMENT").size();
-  return name.startsWith(QLatin1String("DOCUMENT")) ? asDocument(context) + name.mid(length) : name;
-}
-
-}  // namespace
 
 WebWrapper::HTMLComponent* BrowserToplevelDelegate::component(SharedPtr<Object> root) const {
   void* data = nullptr;
@@ -56,14 +26,13 @@ SharedPtr<Object> BrowserToplevelDelegate::child(SharedPtr<Object> root, int ind
 }
 
 SharedPtr<Object> BrowserToplevelDelegate::childByName(SharedPtr<Object> root, const QString& name) const {
-  const QRegularExpressionMatch head = contextOfDocument().match(name);
-  if (!head.hasMatch()) {
+  const std::optional<QString> context = contextOfDocument(name);
+  if (!context) {
     return WebToplevelDelegate::childByName(root, name);
   }
-  const QString context = head.captured(1).replace(QLatin1Char('|'), QLatin1Char('.'));
   const auto* const window = static_cast<Connection*>(component(root));
-  const std::optional<QString> local = WindowNames(m_model.connections()).inside(window, context);
-  return local ? WebToplevelDelegate::childByName(root, asDocument(*local)) : SharedPtr<Object>();
+  const std::optional<QString> local = WindowNames(m_model.connections()).inside(window, *context);
+  return local ? WebToplevelDelegate::childByName(root, documentOf(*local)) : SharedPtr<Object>();
 }
 
 SharedPtr<Object> BrowserToplevelDelegate::objectByQualifiedName(SharedPtr<Object> root, const ObjectName& name) const {
@@ -97,7 +66,7 @@ QString BrowserHierarchyDelegate::qualifiedName(SharedPtr<Object> object) const 
   const QString name = HTMLObjectHierarchyDelegate::qualifiedName(object);
   const WebWrapper::HTML_Object* const native = WebWrapper::retrieveObject(object);
   const auto* const window = native ? static_cast<Connection*>(native->component) : nullptr;
-  const bool hasContext = contextOfElement().match(name).hasMatch() || contextOfDocument().match(name).hasMatch();
+  const bool hasContext = namesItsContext(name);
   if (name.isEmpty() || !window || (window == m_model.current() && !hasContext)) {
     return name;
   }

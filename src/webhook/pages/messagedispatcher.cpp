@@ -12,6 +12,7 @@ namespace Corvex::Webhook {
 namespace {
 
 const int drainIntervalMs = 1000;
+const int greetingMs = 50;
 const int drainTimeoutMs = 1000;
 
 const char* const queueOfPage =
@@ -25,6 +26,7 @@ MessageDispatcher::MessageDispatcher(MessageEndpoint& endpoint, BrowserWindows& 
   connect(&endpoint, &MessageEndpoint::messageReceived, this, &MessageDispatcher::dispatch);
   connect(&endpoint, &MessageEndpoint::waitUnanswered, &dialogs, &Dialogs::noteWaitEnded);
   connect(&windows, &BrowserWindows::documentExpected, this, &MessageDispatcher::letIn);
+  connect(&windows, &BrowserWindows::documentExpected, this, &MessageDispatcher::greetSoon);
   connect(&m_drainTimer, &QTimer::timeout, this, &MessageDispatcher::drainQueues);
   m_drainTimer.start(drainIntervalMs);
 }
@@ -85,6 +87,13 @@ void MessageDispatcher::drain(Connection& connection) {
     for (const PageMessage& message : PageMessage::fromSessionQueue(answer.text)) {
       dispatch(message);
     }
+  }
+}
+
+// Pages that are recorded are asked early: only then they know which window they are, and miss nothing.
+void MessageDispatcher::greetSoon() {
+  if (m_logger) {
+    QTimer::singleShot(greetingMs, this, &MessageDispatcher::drainQueues);
   }
 }
 

@@ -38,6 +38,7 @@ private:
   void dispatch(const PageMessage& message);
   void takeLogEvent(const PageMessage& message);
   void drainQueues();
+  void greetSoon();
   void drain(Connection& connection);
   void letIn(const QString& url);
 

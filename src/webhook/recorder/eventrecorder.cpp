@@ -2,11 +2,19 @@
 
 #include "corvexhook/inspector.h"
 #include "corvexhook/recorder.h"
+#include "webhook/pages/browserwindows.h"
+#include "webhook/pages/contextinname.h"
+#include "webhook/pages/windownames.h"
+#include "webhook/recorder/recordedwindows.h"
+#include "wrappers/web/recording/recordedtypes.h"
 
+#include <QDateTime>
 #include <QRegularExpression>
 #include <QStringList>
 #include <QUrl>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Corvex::Webhook {
@@ -23,6 +31,18 @@ const int idleMs = 1000;
 
 QString item(const EventMap& data, const char* key) { return data.value(QLatin1String(key)); }
 
+// How long a message is on its way after another that was sent with it.
+const int patienceMs = 100;
+
+/// As an item of a message.
+QString inEscapes(const QString& text) {
+  QString result;
+  for (const QChar unit : text) {
+    result += QStringLiteral("%u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+  }
+  return result;
+}
+
 /// What was typed into a prompt ends its message, as the page got it: only the browser has encoded it, for an address.
 QString withEscapedAnswer(const QString& text) {
   const QString head = QStringLiteral("event=prompt&ret=");
@@ -31,11 +51,17 @@ QString withEscapedAnswer(const QString& text) {
     return text;
   }
   const int begin = at + head.size();
-  QString result = text.left(begin);
-  for (const QChar unit : QUrl::fromPercentEncoding(text.mid(begin).toUtf8())) {
-    result += QStringLiteral("%u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
-  }
-  return result;
+  return text.left(begin) + inEscapes(QUrl::fromPercentEncoding(text.mid(begin).toUtf8()));
+}
+
+/// Shift, the arrows and others: they change a field only where the page or the browser makes more of them.
+bool isKeyWithoutText(int keyCode) {
+  const struct {
+    int first;
+    int last;
+  } ranges[] = {{9, 9}, {16, 20}, {27, 27}, {33, 40}, {112, 123}};
+  return std::any_of(std::begin(ranges), std::end(ranges),
+                     [keyCode](const auto& range) { return keyCode >= range.first && keyCode <= range.last; });
 }
 
 /// Whether typing the text would take parts of it for keys.
@@ -46,7 +72,89 @@ bool readsAsKeys(const QString& text) {
 
 }  // namespace
 
-void EventRecorder::logEvent(const QString& text) { EventLogger::logEvent(withEscapedAnswer(text)); }
+EventRecorder::EventRecorder(Recorder& calls) : m_calls(calls), m_messages(patienceMs) {}
+
+EventRecorder::~EventRecorder() = default;
+
+void EventRecorder::watch(const BrowserWindows& windows) {
+  m_windows = std::make_unique<RecordedWindows>(windows);
+  m_window = windows.connections().isEmpty() ? QString() : windows.connections().constFirst()->tabId();
+  QObject::connect(&windows, &BrowserWindows::windowClosed, &windows,
+                   [this](Connection* window) { noteClosed(*window); });
+}
+
+void EventRecorder::logEvent(const QString& text) { m_messages.add(withOutsideContext(text)); }
+
+QString EventRecorder::withOutsideContext(const QString& text) const {
+  const EventMap data = m_windows ? WebWrapper::parseEvent(text) : EventMap();
+  const QString context = item(data, "context");
+  if (context.isEmpty()) {
+    return text;
+  }
+  static const QRegularExpression contextItem(QStringLiteral("&context=[^&]*"));
+  const QString window = m_windows->windowOf(item(data, "tabId"), context);
+  return QString(text).replace(contextItem, QStringLiteral("&context=") +
+                                                inEscapes(m_windows->outside(window, context)) +
+                                                QStringLiteral("&window=") + window);
+}
+
+// What pages told before comes first.
+void EventRecorder::noteClosed(const Connection& window) {
+  m_messages.add(QStringLiteral("logevent%1&event=windowClosed&window=%2&context=%3")
+                     .arg(QDateTime::currentMSecsSinceEpoch())
+                     .arg(window.tabId(), inEscapes(m_windows->nameOf(window))));
+}
+
+bool EventRecorder::takeWindow() {
+  const QString window = item(m_data, "window");
+  if (event() == QLatin1String("windowCloses")) {
+    // It may be gone already, and so is what it is known by.
+    const QString tabId = item(m_data, "tabId");
+    m_closing << (tabId.isEmpty() ? item(m_data, "context") : tabId);
+    return true;
+  }
+  if (event() != QLatin1String("windowClosed") || !Inspector::self()->isRecording()) {
+    return event() == QLatin1String("windowClosed");
+  }
+  flushRecordedTextInput();
+  const QString newest = m_windows->newest();
+  // The page does it again; and nothing is left to be done after the last window.
+  const QString context = item(m_data, "context");
+  const bool isByPage = m_closing.removeAll(window) + m_closing.removeAll(context) > 0;
+  if (!isByPage && !newest.isEmpty()) {
+    enterWindow(window, context);
+    append(EventData(QStringLiteral("closeWindow"), QString(), {}), nullptr);
+  }
+  if (m_window == window) {
+    m_window = newest;
+  }
+  return true;
+}
+
+void EventRecorder::enterWindow(const QString& window, const QString& context) {
+  if (!window.isEmpty() && window != std::exchange(m_window, window)) {
+    const QString name = context.left(context.size() - framesOf(context).size());
+    append(EventData(QStringLiteral("setContext"), name, {}), nullptr);
+  }
+}
+
+// Names of elements in frames begin with the context that the page knows.
+QString EventRecorder::adaptQualifiedName(const QString& name, const EventMap& data) {
+  const QString context = item(data, "context");
+  return m_windows && !context.isEmpty() && namesItsContext(name) ? inContext(name, context) : name;
+}
+
+void EventRecorder::workOnNext() {
+  EventLogger::logEvent(withEscapedAnswer(m_messages.takeNext()));
+  recordRepeatedPress();
+}
+
+void EventRecorder::finish() {
+  while (!m_messages.isEmpty()) {
+    workOnNext();
+  }
+  flushRecordedTextInput();
+}
 
 void EventRecorder::recordCall(const QString& objectName, const char* functionName, const ObjectList& arguments,
                                const QTime* time) {
@@ -55,12 +163,37 @@ void EventRecorder::recordCall(const QString& objectName, const char* functionNa
     recordText(objectName, arguments.at(0)->toString(), time);
     return;
   }
+  // Every link and every form leads to one; windows that close are another matter.
+  if (function == QLatin1String("closeWindow")) {
+    return;
+  }
   append(EventData(function, objectName, arguments), time);
+  if (function == QLatin1String("waitForContextExists")) {
+    enterWindow(item(m_data, "window"), objectName);
+  }
   // A click of a person has been recorded at its press.
-  m_lastIsReturn = m_event == QLatin1String("click") && function == QLatin1String("clickButton");
+  m_lastIsReturn = event() == QLatin1String("click") && function == QLatin1String("clickButton") && !m_isReturnDown;
 }
 
-void EventRecorder::flushIdleText() {
+QString EventRecorder::event() const { return item(m_data, "event"); }
+
+// Each press is an act of its own, however often the same object is pressed; the click that follows it is none. The
+// logger takes the press for told already.
+void EventRecorder::recordRepeatedPress() {
+  const QString function = std::exchange(m_repeatedPress, QString());
+  if (!function.isEmpty()) {
+    const int modifiers = WebWrapper::getModifiers(m_data);
+    const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
+    append(EventData(function, m_calls.last().objectName(),
+                     modifiers != 0 ? ObjectList{Inspector::self()->wrapInt(modifiers)} : ObjectList()),
+           &time);
+  }
+}
+
+void EventRecorder::keepUp() {
+  while (m_messages.isNextDue()) {
+    workOnNext();
+  }
   if (m_idle.hasExpired()) {
     m_idle = QDeadlineTimer(QDeadlineTimer::Forever);
     m_isIdleFlush = true;
@@ -80,6 +213,7 @@ void EventRecorder::append(const EventData& call, const QTime* time) {
   begin();
   m_lastIsReturn = false;
   m_openField.clear();
+  m_openSetting.clear();
   m_times.append(time ? *time : QTime());
   m_calls.append(call, time);
 }
@@ -88,7 +222,7 @@ void EventRecorder::append(const EventData& call, const QTime* time) {
 void EventRecorder::recordText(const QString& objectName, const QString& text, const QTime* time) {
   const QString content = m_contents.value(objectName);
   const bool isReturn = text == QLatin1String("<Return>") && content != text;
-  if (isReturn && m_lastIsReturn) {
+  if (isReturn && (m_lastIsReturn || isClickOfReturn())) {
     return;
   }
   const bool isContent = !isReturn && content.size() == text.size() && content.contains(QLatin1Char('\n'));
@@ -130,19 +264,99 @@ void EventRecorder::doubleClickSeen(const QString& objectName, const EventMap& d
 void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleMs); }
 
 bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
-  m_event = item(data, "event");
+  recordRepeatedPress();
+  m_data = data;
   if (item(data, "type") == QLatin1String("password")) {
     m_passwords.insert(objectName);
   }
-  if (m_event.startsWith(QLatin1String("key")) && data.contains(QStringLiteral("value"))) {
-    m_contents.insert(objectName, item(data, "value"));
+  if (event() == QLatin1String("unload")) {
+    m_contents.clear();
   }
-  if (m_event == QLatin1String("unload")) {
-    // Every link and every form leads here; windows that close are another matter.
+  return takeWindow() || takeDialog(event(), data) || takeKey(objectName) || takeFieldSet(objectName) ||
+         takeKeyClick(objectName) || EventLogger::compressedNonRecordingEventData(objectName, data);
+}
+
+bool EventRecorder::takeKey(const QString& objectName) {
+  const bool goesDown = event() == QLatin1String("keydown");
+  if (!goesDown && event() != QLatin1String("keyup")) {
+    m_returnField.clear();
+    return false;
+  }
+  const int keyCode = item(m_data, "keyCode").toInt();
+  if (keyCode == 13) {
+    return takeReturn(objectName, goesDown);
+  }
+  // A field that changed after the Return.
+  if (keyCode == 0) {
+    m_returnField.clear();
+  }
+  const QString content = item(m_data, "value");
+  const bool isTold = m_contents.contains(objectName) && m_contents.value(objectName) == content;
+  const bool isNews = keyCode != 0 && !isKeyWithoutText(keyCode);
+  // A page tells of a field once more when it goes; and what a field held before any key is nobody's doing.
+  const bool isChange = (keyCode == 0 || m_contents.contains(objectName)) && !isTold;
+  const bool changesNothing =
+      item(m_data, "readonly") == QLatin1String("true") || objectName == m_returnField || (!isNews && !isChange);
+  if (!changesNothing) {
+    m_contents.insert(objectName, content);
+  }
+  return changesNothing;
+}
+
+// Pages tell of it when it goes down, as they may be gone before it comes up; some tell of both.
+bool EventRecorder::takeReturn(const QString& objectName, bool goesDown) {
+  const bool isTold = !goesDown && m_isReturnDown;
+  m_isReturnDown = goesDown;
+  if (goesDown) {
+    m_returnField = objectName;
+  }
+  if (isTold) {
+    // What is typed next would take its place.
     flushRecordedTextInput();
+  }
+  m_contents.insert(objectName, item(m_data, "value"));
+  return isTold;
+}
+
+bool EventRecorder::takeFieldSet(const QString& objectName) {
+  if (event() != QLatin1String("fieldSet") || !Inspector::self()->isRecording()) {
+    return false;
+  }
+  flushRecordedTextInput();
+  const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
+  if (m_data.contains(QStringLiteral("checked"))) {
+    const bool isChecked = item(m_data, "checked") == QLatin1String("true");
+    append(EventData(QStringLiteral("setChecked"), objectName, {Inspector::self()->wrapBool(isChecked)}), &time);
     return true;
   }
-  return takeDialog(m_event, data) || EventLogger::compressedNonRecordingEventData(objectName, data);
+  if (m_openSetting == objectName) {
+    removeLastRecordedEvent();
+  }
+  append(EventData(QStringLiteral("setText"), objectName, {Inspector::self()->wrapString(item(m_data, "content"))}),
+         &time);
+  m_openSetting = objectName;
+  return true;
+}
+
+// The logger knows the clicks that keys make of buttons that send forms, and fields tell of the others' state.
+bool EventRecorder::takeKeyClick(const QString& objectName) {
+  if (event() != QLatin1String("keyClick") || !Inspector::self()->isRecording()) {
+    return false;
+  }
+  static const QStringList others{QStringLiteral("submit"), QStringLiteral("checkbox"), QStringLiteral("radio")};
+  const QString type = item(m_data, "type");
+  const bool isButton = WebWrapper::isButtonType(type) && !others.contains(type);
+  if (isButton || WebWrapper::isLink(type)) {
+    flushRecordedTextInput();
+    const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
+    append(EventData(isButton ? QStringLiteral("clickButton") : QStringLiteral("mouseClick"), objectName, {}), &time);
+  }
+  return true;
+}
+
+// A browser makes a click of a Return in a form.
+bool EventRecorder::isClickOfReturn() const {
+  return m_isReturnDown && event() == QLatin1String("click") && item(m_data, "type") == QLatin1String("submit");
 }
 
 bool EventRecorder::takeDialog(const QString& event, const EventMap& data) {
@@ -178,11 +392,14 @@ void EventRecorder::removeLastRecordedEvent() {
   }
 }
 
-// Each press is an act of its own, however often the same object is pressed; the click that follows it is none.
 bool EventRecorder::isLastRecordedCall(const QString& functionName, const QString& objectName) {
   const EventData last = m_calls.last();
-  const bool isPress = m_event == QLatin1String("mousedown") || m_event == QLatin1String("touchend");
-  return !isPress && last.functionName() == functionName && last.objectName() == objectName;
+  const bool isLast = last.functionName() == functionName && last.objectName() == objectName;
+  const bool isPress = event() == QLatin1String("mousedown") || event() == QLatin1String("touchend");
+  if (isLast && (isPress || isClickOfReturn())) {
+    m_repeatedPress = functionName;
+  }
+  return isLast;
 }
 
 }  // namespace Corvex::Webhook

@@ -22,9 +22,12 @@ struct FunctionRow {
 };
 
 const FunctionRow functionsWithoutObject[] = {
-    {"startBrowser", true}, {"waitForContextExists", true}, {"closeWindow", false}, {"openUrl", true},
-    {"goBack", false},      {"goForward", false},           {"reload", false},      {"//", false},
-    {"closeAlert", false},  {"closeConfirm", false},        {"closePrompt", false},
+    {"startBrowser", true},  {"waitForContextExists", true},
+    {"setContext", true},    {"closeWindow", false},
+    {"openUrl", true},       {"goBack", false},
+    {"goForward", false},    {"reload", false},
+    {"//", false},           {"closeAlert", false},
+    {"closeConfirm", false}, {"closePrompt", false},
 };
 
 const FunctionRow* rowOf(const EventData& call) {

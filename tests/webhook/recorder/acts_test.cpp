@@ -48,6 +48,7 @@ protected:
     seen.call = [&](const ObjectList& arguments) {
       const int wanted = arguments.at(0)->toString().toInt();
       poll(5000, 20, [&] {
+        logger.keepUp();
         logger.flushRecordedTextInput();
         return lines().count(QLatin1Char('\n')) >= wanted;
       });
@@ -65,6 +66,7 @@ protected:
     driver.close();
     logger.setFirstPage(server.url(path));
     EXPECT_EQ(engine.run(QStringList{driver.fileName()}).failed(), 0) << qPrintable(script());
+    logger.finish();
     Inspector::self()->setRecording(false);
     Inspector::self()->attachRecorder(nullptr);
     return lines().replace(server.url(""), QString());

@@ -53,7 +53,7 @@ protected:
       logger.logEvent(QString("logevent%1&event=%2").arg(time).arg(message.section('|', 1)));
       begin -= 1000000;
     }
-    logger.flushRecordedTextInput();
+    logger.finish();
     begin += 10000;
   }
   QString recorded(const QStringList& messages) {
@@ -132,6 +132,8 @@ TEST_F(Recording, WhatIsDoneTwiceIsRecordedTwiceAndADoubleClickOnce) {
   const QString field = "&object=f&type=text&x=1&y=2";
   EXPECT_EQ(recorded({"0|mousedown" + button, "1|click" + button, "400|mousedown" + button, "401|click" + button}),
             QString("clickButton(\"b\");\nclickButton(\"b\");"));
+  EXPECT_EQ(recorded({"0|mousedown&ctrlKey=true" + button, "400|mousedown&shiftKey=true" + button}),
+            QString("mouseClick(\"b\", 2);\nmouseClick(\"b\", 4);"));
   EXPECT_EQ(recorded({"0|mousedown&object=s&type=submit", "1|click&object=s&type=submit"}),
             QString("clickButton(\"s\");"));
   EXPECT_EQ(recorded({"0|mousedown" + button, "1|click" + button, "200|mousedown" + button, "201|click" + button,
@@ -153,6 +155,8 @@ TEST_F(Recording, TextIsWhatTheFieldHeld) {
   EXPECT_EQ(recorded({"0|" + field + "a%3CReturn%3E"}), QString("setText(\"f\", \"a<Return>\");"));
   EXPECT_EQ(recorded({"0|" + field + "%3CReturn%3E"}), QString("setText(\"f\", \"<Return>\");"));
   EXPECT_EQ(recorded({"0|" + field + "1%3C2%20%26%203%3E2"}), QString("typeText(\"f\", \"1<2 & 3>2\");"));
+  EXPECT_EQ(recorded({"0|" + field + "a", "1|unload&object=[Window]", "2|mousedown&object=b&type=button"}),
+            QString("typeText(\"f\", \"a\");\nclickButton(\"b\");"));
   EXPECT_EQ(recorded({"0|" + field + "a", "1|" + field + "a&keyCode=13"}),
             QString("typeText(\"f\", \"a\");\ntypeText(\"f\", \"<Return>\");"));
 }
@@ -165,6 +169,43 @@ TEST_F(Recording, AReturnThatPressesTheButtonOfAFormIsOneOfBoth) {
   EXPECT_EQ(recorded({"0|" + field, implied, "2|" + field + "&keyCode=13", "3|mousedown&object=b&type=button",
                       "4|" + field + "&keyCode=13"}),
             pressed + "\nclickButton(\"b\");\ntypeText(\"f\", \"<Return>\");");
+}
+
+// Pages that tell of a Return when it goes down, and of fields that change without a key.
+TEST_F(Recording, NothingThatWasTypedIsLost) {
+  const QString f = "&object=f&type=text&value=";
+  const QString back = "&keyCode=13" + f;
+  const QString button = "&object=s&type=submit";
+  const struct {
+    const char* what;
+    QStringList messages;
+    const char* calls;
+  } rows[] = {
+      {"a page that empties the field and stays, a key that comes up late, a second line",
+       {"0|keyup" + f + "ab", "1|keydown" + back + "ab", "2|keyup&keyCode=66" + f, "3|keyup" + back,
+        "4|keyup&keyCode=0" + f + "c", "5|keyup&keyCode=67" + f + "c"},
+       "typeText(f, ab) typeText(f, <Return>) typeText(f, c)"},
+      {"a form whose button it presses, twice",
+       {"0|keyup" + f + "ab", "1|keydown" + back + "ab", "2|click" + button, "3|keyup" + back + "ab",
+        "4|keydown" + back + "ab", "5|click" + button, "6|keyup" + back + "ab"},
+       "typeText(f, ab) clickButton(s) clickButton(s)"},
+      {"a page that is left at once", {"0|keydown" + back + "ab", "1|unload&object=[Window]"}, "typeText(f, <Return>)"},
+      {"keys without text, and a field that cannot be changed",
+       {"0|keyup&keyCode=9" + f + "old", "1|keyup&keyCode=65&readonly=true" + f + "old", "2|keyup&keyCode=66" + f + "o",
+        "3|keyup&keyCode=37" + f + "o", "4|keyup&keyCode=40" + f + "offered",
+        "5|keyup&keyCode=9&object=g&type=text&value=1"},
+       "typeText(f, offered)"},
+      {"a slider on its way, a check box, buttons by the space bar",
+       {"0|fieldSet&object=r&type=range&content=1", "1|fieldSet&object=r&type=range&content=2",
+        "2|fieldSet&object=c&type=checkbox&checked=false", "3|keyClick&object=c&type=checkbox",
+        "4|keyClick&object=b&type=button", "5|keyClick&object=b&type=button", "6|keyClick&object=a&type=A"},
+       "setText(r, 2) setChecked(c, false) clickButton(b) clickButton(b) mouseClick(a)"},
+  };
+  for (const auto& row : rows) {
+    QString calls = recorded(row.messages).remove('"').replace(";\n", " ");
+    calls.chop(1);
+    EXPECT_EQ(calls, QString(row.calls)) << row.what;
+  }
 }
 
 TEST_F(Recording, DialogsAreAnsweredAfterWhatOpenedThem) {

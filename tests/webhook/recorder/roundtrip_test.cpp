@@ -14,7 +14,7 @@
 #include "support/programrun.h"
 #include "support/testbrowser.h"
 #include "support/testserver.h"
-#include "webhook/recorder/eventrecorder.h"
+#include "webhook/recorder/actrecorder.h"
 #include "webhook/recorder/recordingfiles.h"
 #include "webhook/run/browsercontrol.h"
 #include "webhook/run/browserfunctions.h"
@@ -40,7 +40,7 @@ protected:
     RecordingFiles files([](const QString&) {}, [](const QString& error) { ADD_FAILURE() << qPrintable(error); });
     ASSERT_EQ(files.open({scriptPath(), mapPath(), false}), QString());
     RecordedCalls calls(files);
-    EventRecorder logger(calls);
+    ActRecorder logger(calls);
     Inspector::self()->attachRecorder(&calls);
     Inspector::self()->setRecording(true);
     logger.setFirstPage(page);
@@ -51,7 +51,7 @@ protected:
     wait.name = QStringLiteral("waitForRecording");
     wait.call = [&](const ObjectList&) {
       poll(10000, 20, [&] {
-        logger.flushRecordedTextInput();
+        logger.finish();
         return lastLineOf(script()).startsWith(lastLine);
       });
       return FunctionCallResult<SharedPtr<Object>>{nullptr, QString()};

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "wrappers/web/export.h"
+
 #include <QString>
 
 namespace Corvex::WebWrapper {
 
 /// What the type text of a recorded object says about it. Upper and lower case differ.
-bool isLink(const QString& type);
+CORVEX_WEBWRAPPER_EXPORT bool isLink(const QString& type);
 bool isTextFieldType(const QString& type);
-bool isButtonType(const QString& type);
+CORVEX_WEBWRAPPER_EXPORT bool isButtonType(const QString& type);
 bool isSelect(const QString& type);
 bool isMenuItem(const QString& type);
 bool isDateChooser(const QString& type);

@@ -66,6 +66,24 @@ const change = (target) => ({ type: "change", target });
   }, line);
 });
 
+test("the Return that ends a composition is none, and what scripts make up changes no field", { page: "<input id=t>" },
+  (kit) => {
+    startRecording(kit);
+    const t = kit.el("t");
+    const types = () => takeSent(kit).map((line) => (/event=(\w+)[^]*keyCode=(\w+)/.exec(line) || ["", line]).slice(1).join(" "));
+    const happen = (type, more) => __corvex__takeFieldEvent(Object.assign({ type, target: t, isTrusted: true }, more));
+    happen("keydown", { keyCode: 229 });
+    __corvex__handler(key(t, { keyCode: 13 }));
+    happen("input", { isTrusted: false });
+    happen("mousedown");
+    const quiet = types();
+    happen("input");
+    happen("keydown", { keyCode: 13 });
+    __corvex__handler(key(t, { keyCode: 13 }));
+    return [quiet, types()];
+    // The field and the key on their way out of the page.
+  }, [[], ["kept POST logeventN&", "kept POST logeventN&", "keyup 13"]]);
+
 test("without a hook an object has its generated name, which is escaped once", { page: "<button id=t name='x y'>b" },
   (kit) => {
     kit.flags(Object.assign({ recording: true, browsertabid: undefined }, PROPERTY_NAMES));

@@ -1,7 +1,7 @@
 // Gives: the handlers of the events of documents and windows, and the messages that the driver gets of them.
-// Needs: recording/event, recording/payload, recording/picking, recording/overlay, runtime/natives, runtime/state,
-//   runtime/nodes, runtime/contexts, runtime/text, runtime/eventobject, runtime/transport, runtime/longpoll,
-//   runtime/listeners, touch.
+// Needs: recording/event, recording/payload, recording/picking, recording/overlay, recording/fields, runtime/natives,
+//   runtime/state, runtime/nodes, runtime/contexts, runtime/text, runtime/eventobject, runtime/transport,
+//   runtime/longpoll, runtime/listeners, touch.
 
 function __corvex__enterEventContext(win, d, source) {
   if (d) {
@@ -113,13 +113,16 @@ function __corvex__recordedText(e, w, srcElem, o) {
             __corvex__isHookedWasmCanvas(o))) {
     return "";
   }
+  if (__corvex__isKeyOfComposition(e)) {
+    return "";
+  }
   var text = __corvex__eventToStr(e, srcElem, o) + __corvex__tabIdLogEventParameter();
   if (!o) {
     return text;
   }
   // The event of a selection may come through another window than the one that shows it.
   var own = __corvex__isSelectionElement(o) && __corvex__findDocument(window, __corvex__getDocumentForNode(o));
-  return text + "&context=" + __corvex__contextOfForUrl(own || w);
+  return text + "&context=" + __corvex__contextOfForUrl(own || w) + __corvex__fields.items;
 }
 
 // Firefox drops the open requests of a page that goes away: before version 68 the page waits until the message is taken. A
@@ -140,7 +143,8 @@ function __corvex__logEvent(e, w) {
   }
   var isPicking = !!window.__corvex__pickObject;
   var srcElem = __corvex__srcElement(e);
-  var o = isPicking ? __corvex__pickableObject(srcElem) : __corvex__eventObject(srcElem);
+  var o = isPicking ? __corvex__pickableObject(srcElem)
+    : __corvex__fields.items ? srcElem : __corvex__eventObject(srcElem);
   var text = "event=";
   if (__corvex__isHookedWasmCanvas(srcElem)) {
     return undefined;
@@ -164,6 +168,7 @@ function __corvex__logEvent(e, w) {
   // No connection for an event without information.
   if (text !== "event=") {
     __corvex__sendLogEventData(e, text, __corvex__sendsWithoutWaiting(e));
+    __corvex__noteTold(e, srcElem);
   }
   return window.__corvex__ie ? undefined : true;
 }

@@ -143,8 +143,13 @@ function __corvex__sendQuietly(payload, async) {
   }
 }
 
+// Messages overtake each other: each has a later stamp than those before it, even in the same millisecond.
+var __corvex__lastStamp = 0;
+
 function __corvex__getLogEventUrl(data) {
-  return "logevent" + __corvex__natives.milliseconds() + "&" + (data || "");
+  var now = __corvex__natives.milliseconds();
+  __corvex__lastStamp = now > __corvex__lastStamp ? now : __corvex__lastStamp + 1;
+  return "logevent" + __corvex__lastStamp + "&" + (data || "");
 }
 
 // ev: not used. data: the text after the head.

@@ -35,6 +35,8 @@ function __corvex__watchFrameReload(f, w) {
 
 function __corvex__hookDocumentOfFrame(f, w) {
   __corvex__markAsHooked(w.document);
+  __corvex__listenForFields(w);
+  __corvex__listenForFrames(w.document);
   __corvex__listenInDocument(w.document, __corvex__frameListeners);
   __corvex__hookupTouchEvents(w);
   __corvex__watchFrameReload(f, w);

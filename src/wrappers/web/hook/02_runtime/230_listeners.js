@@ -1,5 +1,6 @@
 // Gives: the listeners of the own document and of frames, and the change listeners of controls.
-// Needs: recording/picking, recording/capture, recording/touch, runtime/builtins, runtime/eventobject, runtime/frames.
+// Needs: recording/picking, recording/capture, recording/touch, recording/fields, runtime/builtins, runtime/nodes,
+//   runtime/eventobject, runtime/frames.
 
 var __corvex__quietMousemove = __corvex__quiet(__corvex__mousemove);
 var __corvex__quietTouchstart = __corvex__quiet(__corvex__touchstart);
@@ -49,8 +50,34 @@ function __corvex__listenInDocument(doc, rows) {
   }
 }
 
+var __corvex__quietFieldEvent = __corvex__quiet(__corvex__takeFieldEvent);
+
+// Before the page's own listeners, which may change what there is to tell.
+function __corvex__listenForFields(win) {
+  var types = ["input", "change", "keydown", "mousedown", "click", "focusout", "pagehide"];
+  for (var i = 0; win.addEventListener && i < types.length; ++i) {
+    win.addEventListener(types[i], __corvex__quietFieldEvent, true);
+  }
+}
+
+// What happens in a frame before the next sweep must not be lost while a recording runs.
+var __corvex__quietFrameLoaded = __corvex__quiet(function (e) {
+  var tagName = window.__corvex__recording && e && e.isTrusted && __corvex__nodeReader.tagName(e.target);
+  if (tagName === "IFRAME" || tagName === "FRAME") {
+    __corvex__hookInFrame(e.target);
+  }
+});
+
+function __corvex__listenForFrames(doc) {
+  if (doc.addEventListener) {
+    doc.addEventListener("load", __corvex__quietFrameLoaded, true);
+  }
+}
+
 function __corvex__listenInOwnDocument() {
   __corvex__markAsHooked(document);
+  __corvex__listenForFields(window);
+  __corvex__listenForFrames(document);
   __corvex__listenInDocument(document, __corvex__ownListeners);
   __corvex__hookupTouchEvents(window);
 }

@@ -1,0 +1,132 @@
+// What a script does in a page is recorded, and the recording does the same to the page in a fresh browser.
+
+#include <gtest/gtest.h>
+
+#include "support/printing.h"
+#include "support/testbrowser.h"
+#include "support/testserver.h"
+#include "webhook/recorder/recordedbrowser.h"
+
+using TestSupport::RecordedBrowser;
+
+namespace {
+
+/// What a person does in a page, and something of what is to be seen then.
+struct Act {
+  const char* page;
+  QByteArray statements;
+  const char* seen;
+};
+
+class Replay : public testing::Test {
+protected:
+  void check(const std::vector<Act>& acts) {
+    QStringList lines;
+    QStringList states;
+    {
+      RecordedBrowser person(true);
+      for (const Act& act : acts) {
+        person.show(server.url(QLatin1String(act.page)));
+        const QString error = person.act(QString::fromUtf8(act.statements));
+        EXPECT_EQ(error, QString()) << act.statements.constData();
+        lines << person.recorded().join('\n');
+        states << person.state();
+        EXPECT_TRUE(states.constLast().contains(QString::fromUtf8(act.seen))) << qPrintable(states.constLast());
+      }
+    }
+    RecordedBrowser script(false);
+    for (size_t i = 0; i < acts.size(); ++i) {
+      const int at = static_cast<int>(i);
+      script.show(server.url(QLatin1String(acts[i].page)));
+      EXPECT_EQ(script.act(lines[at]), QString()) << acts[i].statements.constData() << qPrintable("\n->\n" + lines[at]);
+      EXPECT_EQ(script.stateAwaited(states[at]), states[at])
+          << acts[i].statements.constData() << qPrintable("\n->\n" + lines[at]);
+    }
+  }
+
+  TestSupport::TestServer server;
+};
+
+TEST_F(Replay, OfTextThatComesWithoutKeysOrGoesWithThem) {
+  server.add("/form.html", {R"(<form action='next.html'><input id='name' name='n'></form>
+<form action='next.html'><input id='city' name='c'><button>Send</button></form>
+<input id='mid' oninput='if (value.length === 3) location = "next.html?" + value'>
+<input id='chat' onkeydown='if (event.key === "Enter") { said.textContent += value + ";"; value = ""; }'>
+<input id='pasted'><p id='said'></p>
+<script>addEventListener('keyup', function (e) { if (e.target === pasted) { e.stopImmediatePropagation(); } }, true);</script>)"});
+  server.add("/next.html", {R"(<p id='p'></p><input id='more'><script>p.textContent = location.search;</script>)"});
+  server.add("/fields.html", {R"(<input id='first'><input id='fixed' readonly value='x'><input id='old' value='old'>
+<div id='rich' contenteditable>a</div><input id='day' type='date'><input id='level' type='range' max='9'><input id='yes' type='checkbox'><input id='r1' type='radio' name='r'><input id='r2' type='radio' name='r'>
+<select id='list'><option>one<option>two<option>three</select>
+<button id='b' type='button' onclick='said.textContent += "pressed;"'>Press</button><a id='a' href='#there'>Link</a><p id='said'></p>)"});
+  std::vector<Act> acts = {
+      {"/form.html", R"(typeText("{tagName='INPUT' id='name'}", "Ada & <Co>"); pressKeys("<Return>");)", "?n=Ada"},
+      {"/form.html",
+       R"(typeText("{tagName='INPUT' id='city'}", "Rom<Return>"); typeText("{tagName='INPUT' id='more'}", "m");)",
+       "?c=Rom"},
+      {"/form.html", R"(typeText("{tagName='INPUT' id='chat'}", "one<Return>two<Return>three");)", "one;two;"},
+      {"/form.html", R"(setText("{tagName='INPUT' id='pasted'}", "p & q"); typeText("{tagName='INPUT' id='city'}", "x");
+mouseClick("{tagName='BUTTON'}");)",
+       "?c=x"},
+      {"/form.html", R"(typeText("{tagName='INPUT' id='pasted'}", "quiet");)", "quiet"},
+      {"/fields.html",
+       R"(typeText("{tagName='DIV' id='rich'}", "rich"); mouseClick("{tagName='INPUT' id='first'}");
+pressKeys("<Tab><Tab><Tab>"); pressKeys("x<Tab>02292024"); mouseClick("{tagName='INPUT' id='level'}");
+pressKeys("<Right><Right><Tab><Space><Tab><Space><Down><Tab><Down><Tab><Space><Space><Tab><Return>");)",
+       "pressed;pressed;"},
+  };
+  // Firefox may drop what a page sends while it leaves.
+  if (!TestSupport::isFirefox()) {
+    acts.push_back({"/form.html",
+                    R"(typeText("{tagName='INPUT' id='mid'}", "abc"); waitForObject("{tagName='INPUT' id='more'}");)",
+                    "?abc"});
+  }
+  check(acts);
+}
+
+TEST_F(Replay, OfWindowsThatPeopleAndPagesOpenAndClose) {
+  server.add("/w/page.html", {R"(<input id='f'><a id='link' target='_blank' href='page.html?2'>More</a>
+<button id='pop' onclick='window.open("pop.html?" + f.value, "", "width=300,height=200")'>Pop</button><p id='said'></p>)"});
+  server.add("/w/pop.html",
+             {R"(<input id='f'><button id='tell' onclick='opener.said.textContent += f.value + ";"'>Tell</button>
+<button id='done' onclick='opener.said.textContent += "done;"; setTimeout(function () { window.close(); }, 50)'>Done</button>)"});
+  // People take longer to look at a window than a page takes to listen.
+  const QByteArray popup = R"(function enter() { waitForContextExists("pop.html"); setContext("pop.html");
+waitFor(function () { return retrieveJSObject("document.__corvex__hooked__events === true"); }); }
+mouseClick("{tagName='BUTTON' id='pop'}"); enter(); mouseClick("{tagName='BUTTON' id='done'}");
+waitFor(function () { return windows().length === 1; });
+typeText("{tagName='INPUT' id='f'}", "second"); mouseClick("{tagName='BUTTON' id='pop'}"); enter();
+typeText("{tagName='INPUT' id='f'}", "told"); mouseClick("{tagName='BUTTON' id='tell'}"); closeWindow();
+typeText("{tagName='INPUT' id='f'}", "last");)";
+  check({
+      {"/w/page.html", R"(mouseClick("{tagName='A' id='link'}"); waitForContextExists("page.html<2>");
+typeText("{tagName='INPUT' id='f'}", "one"); setContext("page.html<2>"); typeText("{tagName='INPUT' id='f'}", "two");
+setContext("page.html"); typeText("{tagName='INPUT' id='f'}", "three");)",
+       "INPUT f \"two\""},
+      {"/w/page.html", popup, "done;told;"},
+  });
+}
+
+TEST_F(Replay, OfFramesAndShadowTrees) {
+  server.add("/f/page.html", {R"(<button id='late' onclick='document.body.insertAdjacentHTML("beforeend",
+"<iframe id=i src=inner.html?late></iframe>")'>Late</button><iframe src='inner.html?first'></iframe><x-box></x-box><script>
+var root = document.querySelector('x-box').attachShadow({ mode: 'open' });
+root.innerHTML = "<input id='deep'><button id='b'>Deep</button><p id='said'></p>";
+root.querySelector('button').onclick = function () { root.querySelector('p').textContent += root.querySelector('input').value; };
+</script>)"});
+  server.add("/f/inner.html", {R"(<input id='f'><select id='s'><option>a<option>b</select><input type='checkbox' id='c'>
+<button id='b' onclick='this.textContent += f.value'>Take</button><iframe src='leaf.html'></iframe>)"});
+  server.add("/f/leaf.html", {R"(Leaf <input id='leaf' onchange='parent.location = "inner.html?" + value'>)"});
+  check({{"/f/page.html",
+          R"(var first = "{context='page.html.FRAME1' tagName='", late = "{context='page.html.FRAME2' tagName='";
+mouseClick("{tagName='BUTTON' id='late'}"); waitForObject(late + "INPUT' id='f'}"); typeText(late + "INPUT' id='f'}", "quick<Return>");
+mouseClick(late + "BUTTON' id='b'}"); mouseClick(late + "INPUT' id='c'}");
+selectOption(first + "SELECT' id='s'}", "b"); typeText(first + "INPUT' id='f'}", "one"); mouseClick(first + "BUTTON' id='b'}");
+typeText("{context='page.html.FRAME2.FRAME1' tagName='INPUT' id='leaf'}", "leaf<Return>");
+waitForObject("{context='page.html.FRAME2' tagName='BUTTON' simplifiedInnerText='Take'}");
+var box = "{container={tagName='X-BOX'} tagName='";
+typeText(box + "INPUT' id='deep'}", "deep"); mouseClick(box + "BUTTON' id='b'}"); mouseClick(box + "BUTTON' id='b'}");)",
+          "deepdeep"}});
+}
+
+}  // namespace
