@@ -3,7 +3,7 @@
 #include <QDeadlineTimer>
 #include <QPointer>
 
-#include "webhook/protocol/channel.h"
+#include "webhook/protocol/transport/channel.h"
 
 namespace Corvex::Webhook {
 

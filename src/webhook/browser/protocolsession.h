@@ -7,7 +7,7 @@
 #include "webhook/browser/browsersession.h"
 #include "webhook/browser/ownedbrowser.h"
 #include "webhook/browser/protocolpage.h"
-#include "webhook/protocol/channel.h"
+#include "webhook/protocol/transport/channel.h"
 
 namespace Corvex::Webhook {
 

@@ -14,7 +14,7 @@
 #include "support/printing.h"
 #include "webhook/process/childprocess.h"
 #include "webhook/process/temporarydirectory.h"
-#include "webhook/protocol/pipetransport.h"
+#include "webhook/protocol/transport/pipetransport.h"
 
 using namespace Corvex;
 using namespace Corvex::Webhook;

@@ -1,4 +1,4 @@
-#include "webhook/protocol/channel.h"
+#include "webhook/protocol/transport/channel.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +7,8 @@
 
 #include "support/messagecapture.h"
 #include "support/printing.h"
-#include "webhook/protocol/bidi.h"
-#include "webhook/protocol/devtools.h"
+#include "webhook/protocol/bidi/bidi.h"
+#include "webhook/protocol/devtools/devtools.h"
 #include "webhook/protocol/faketransport.h"
 
 using namespace Corvex;

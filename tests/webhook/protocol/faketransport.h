@@ -5,7 +5,7 @@
 #include <QList>
 #include <functional>
 
-#include "webhook/protocol/transport.h"
+#include "webhook/protocol/transport/transport.h"
 
 /// The other side of a connection as a script: notes what is sent and says what it is told to say.
 class FakeTransport : public Corvex::Webhook::Transport {

@@ -6,10 +6,10 @@
 #include <QJsonDocument>
 
 #include "support/printing.h"
-#include "webhook/protocol/bidiconsole.h"
-#include "webhook/protocol/bidicookies.h"
-#include "webhook/protocol/devtoolsconsole.h"
-#include "webhook/protocol/devtoolscookies.h"
+#include "webhook/protocol/bidi/bidiconsole.h"
+#include "webhook/protocol/bidi/bidicookies.h"
+#include "webhook/protocol/devtools/devtoolsconsole.h"
+#include "webhook/protocol/devtools/devtoolscookies.h"
 
 using namespace Corvex::Webhook;
 

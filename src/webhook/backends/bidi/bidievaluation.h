@@ -4,7 +4,7 @@
 
 #include "webhook/browser/browserpage.h"
 #include "webhook/browser/pagecall.h"
-#include "webhook/protocol/bidi.h"
+#include "webhook/protocol/bidi/bidi.h"
 
 namespace Corvex::Webhook {
 

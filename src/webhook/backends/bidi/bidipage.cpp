@@ -3,8 +3,8 @@
 #include "webhook/backends/bidi/bidievaluation.h"
 #include "webhook/backends/bidi/bidisession.h"
 #include "webhook/browser/pageerrors.h"
-#include "webhook/protocol/bidiconsole.h"
-#include "webhook/protocol/devtools.h"
+#include "webhook/protocol/bidi/bidiconsole.h"
+#include "webhook/protocol/devtools/devtools.h"
 #include "webhook/protocol/startscript.h"
 
 #include <QUrl>

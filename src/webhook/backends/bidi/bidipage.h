@@ -2,9 +2,9 @@
 
 #include "webhook/backends/bidi/bidievaluation.h"
 #include "webhook/browser/protocolpage.h"
-#include "webhook/protocol/bidi.h"
-#include "webhook/protocol/bidicookies.h"
-#include "webhook/protocol/bidiinput.h"
+#include "webhook/protocol/bidi/bidi.h"
+#include "webhook/protocol/bidi/bidicookies.h"
+#include "webhook/protocol/bidi/bidiinput.h"
 
 namespace Corvex::Webhook {
 

@@ -5,11 +5,11 @@
 #include "webhook/backends/bidi/firefox.h"
 #include "webhook/backends/bidi/webdriver.h"
 #include "webhook/browser/pageerrors.h"
-#include "webhook/protocol/bidiauth.h"
-#include "webhook/protocol/bidiconsole.h"
-#include "webhook/protocol/bididownloads.h"
+#include "webhook/protocol/bidi/bidiauth.h"
+#include "webhook/protocol/bidi/bidiconsole.h"
+#include "webhook/protocol/bidi/bididownloads.h"
 #include "webhook/protocol/startscript.h"
-#include "webhook/protocol/websockettransport.h"
+#include "webhook/protocol/transport/websockettransport.h"
 
 namespace Corvex::Webhook {
 

@@ -7,7 +7,7 @@
 
 #include "shared/textfile.h"
 #include "shared/wait.h"
-#include "webhook/protocol/bidi.h"
+#include "webhook/protocol/bidi/bidi.h"
 
 namespace Corvex::Webhook {
 

@@ -6,7 +6,7 @@
 
 #include "webhook/browser/browsersession.h"
 #include "webhook/browser/launchedbrowser.h"
-#include "webhook/protocol/pipetransport.h"
+#include "webhook/protocol/transport/pipetransport.h"
 
 /// Finding and starting a browser built on Chromium.
 namespace Corvex::Webhook::Chromium {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "webhook/browser/pageerrors.h"
-#include "webhook/protocol/devtools.h"
+#include "webhook/protocol/devtools/devtools.h"
 
 namespace Corvex::Webhook {
 

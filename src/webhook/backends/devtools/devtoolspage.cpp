@@ -3,8 +3,8 @@
 #include "webhook/backends/devtools/devtoolsevaluation.h"
 #include "webhook/browser/browsersession.h"
 #include "webhook/browser/pageerrors.h"
-#include "webhook/protocol/devtoolsauth.h"
-#include "webhook/protocol/devtoolsconsole.h"
+#include "webhook/protocol/devtools/devtoolsauth.h"
+#include "webhook/protocol/devtools/devtoolsconsole.h"
 
 #include <QUrl>
 

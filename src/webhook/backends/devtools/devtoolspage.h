@@ -2,9 +2,9 @@
 
 #include "webhook/browser/authentication.h"
 #include "webhook/browser/protocolpage.h"
-#include "webhook/protocol/devtools.h"
-#include "webhook/protocol/devtoolscookies.h"
-#include "webhook/protocol/devtoolsinput.h"
+#include "webhook/protocol/devtools/devtools.h"
+#include "webhook/protocol/devtools/devtoolscookies.h"
+#include "webhook/protocol/devtools/devtoolsinput.h"
 
 namespace Corvex::Webhook {
 

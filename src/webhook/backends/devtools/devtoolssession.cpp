@@ -5,8 +5,8 @@
 
 #include "webhook/backends/devtools/chromium.h"
 #include "webhook/browser/pageerrors.h"
-#include "webhook/protocol/devtoolsdownloads.h"
-#include "webhook/protocol/websockettransport.h"
+#include "webhook/protocol/devtools/devtoolsdownloads.h"
+#include "webhook/protocol/transport/websockettransport.h"
 
 namespace Corvex::Webhook {
 

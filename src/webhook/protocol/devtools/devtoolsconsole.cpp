@@ -1,4 +1,4 @@
-#include "webhook/protocol/devtoolsconsole.h"
+#include "webhook/protocol/devtools/devtoolsconsole.h"
 
 #include <QJsonArray>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "webhook/protocol/devtoolscookies.h"
+#include "webhook/protocol/devtools/devtoolscookies.h"
 
 #include <QJsonArray>
 

@@ -9,7 +9,7 @@
 
 #include "shared/wait.h"
 #include "webhook/protocol/dialect.h"
-#include "webhook/protocol/transport.h"
+#include "webhook/protocol/transport/transport.h"
 
 namespace Corvex::Webhook {
 

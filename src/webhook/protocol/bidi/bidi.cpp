@@ -1,4 +1,4 @@
-#include "webhook/protocol/bidi.h"
+#include "webhook/protocol/bidi/bidi.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

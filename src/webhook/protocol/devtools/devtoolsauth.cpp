@@ -1,4 +1,4 @@
-#include "webhook/protocol/devtoolsauth.h"
+#include "webhook/protocol/devtools/devtoolsauth.h"
 
 #include <QJsonArray>
 

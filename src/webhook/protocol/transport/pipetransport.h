@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "webhook/process/filedescriptor.h"
-#include "webhook/protocol/transport.h"
+#include "webhook/protocol/transport/transport.h"
 
 namespace Corvex::Webhook {
 

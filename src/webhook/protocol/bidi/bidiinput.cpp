@@ -1,4 +1,4 @@
-#include "webhook/protocol/bidiinput.h"
+#include "webhook/protocol/bidi/bidiinput.h"
 
 #include <QJsonArray>
 #include <QtMath>

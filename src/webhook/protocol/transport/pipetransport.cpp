@@ -1,4 +1,4 @@
-#include "webhook/protocol/pipetransport.h"
+#include "webhook/protocol/transport/pipetransport.h"
 
 #include <fcntl.h>
 #include <sys/socket.h>

@@ -1,4 +1,4 @@
-#include "webhook/protocol/devtoolsinput.h"
+#include "webhook/protocol/devtools/devtoolsinput.h"
 
 namespace Corvex::Webhook::DevTools {
 

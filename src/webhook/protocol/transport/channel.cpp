@@ -1,4 +1,4 @@
-#include "webhook/protocol/channel.h"
+#include "webhook/protocol/transport/channel.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "webhook/protocol/websockettransport.h"
+#include "webhook/protocol/transport/websockettransport.h"
 
 #include <netinet/in.h>
 #include <netinet/tcp.h>

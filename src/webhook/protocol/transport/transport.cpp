@@ -1,4 +1,4 @@
-#include "webhook/protocol/transport.h"
+#include "webhook/protocol/transport/transport.h"
 
 #include <QPointer>
 #include <utility>

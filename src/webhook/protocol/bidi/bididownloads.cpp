@@ -1,4 +1,4 @@
-#include "webhook/protocol/bididownloads.h"
+#include "webhook/protocol/bidi/bididownloads.h"
 
 #include <QJsonArray>
 

@@ -1,4 +1,4 @@
-#include "webhook/protocol/devtoolsdownloads.h"
+#include "webhook/protocol/devtools/devtoolsdownloads.h"
 
 namespace Corvex::Webhook::DevTools {
 

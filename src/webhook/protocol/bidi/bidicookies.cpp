@@ -1,4 +1,4 @@
-#include "webhook/protocol/bidicookies.h"
+#include "webhook/protocol/bidi/bidicookies.h"
 
 #include <QJsonArray>
 

@@ -4,7 +4,7 @@
 #include <QUrl>
 #include <memory>
 
-#include "webhook/protocol/transport.h"
+#include "webhook/protocol/transport/transport.h"
 
 class QWebSocket;
 

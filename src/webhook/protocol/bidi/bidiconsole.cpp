@@ -1,4 +1,4 @@
-#include "webhook/protocol/bidiconsole.h"
+#include "webhook/protocol/bidi/bidiconsole.h"
 
 #include <QJsonArray>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "webhook/protocol/bidiauth.h"
+#include "webhook/protocol/bidi/bidiauth.h"
 
 #include <QJsonArray>
 

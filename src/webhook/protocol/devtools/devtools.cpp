@@ -1,4 +1,4 @@
-#include "webhook/protocol/devtools.h"
+#include "webhook/protocol/devtools/devtools.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
