@@ -25,6 +25,7 @@ const Room rooms[] = {
     {"tracelib", "shared"},
     {"corvexhook/x11", "shared"},
     {"corvexhook", "shared tracelib corvexhook/x11"},
+    {"corvexhook/dump", "corvexhook"},
     {"scripting", "corvexhook"},
     {"scripting/report", "scripting"},
     {"scripting/objects", "scripting"},
@@ -48,7 +49,7 @@ const Room rooms[] = {
     {"wrappers/web/input", "wrappers/web/readiness wrappers/web/widgets"},
     {"wrappers/web/picking", "wrappers/web/page"},
     {"wrappers/web/recording", "wrappers/web/glue wrappers/web/picking"},
-    {"wrappers/web/dump", "wrappers/web/readiness"},
+    {"wrappers/web/dump", "wrappers/web/readiness corvexhook/dump"},
     {"wrappers/web/lookup", "wrappers/web/itemviews"},
     {"wrappers/web/catalogue",
      "wrappers/web/values wrappers/web/style wrappers/web/xpath wrappers/web/toolkits wrappers/web/tables "

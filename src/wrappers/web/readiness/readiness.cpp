@@ -73,19 +73,29 @@ FunctionCallResult<bool> isObjectReady(HTML_Object* object) {
   return disabled.failed() ? disabled : Result::success(!disabled.value);
 }
 
-FunctionCallResult<QImage> grabObjectScreenshotInPage(HTMLComponent* component, const ScreenRectangle& rect) {
-  const FunctionCallResult<QImage> page = component->grabPageScreenshot();
+FunctionCallResult<QImage> partOfPageImage(const FunctionCallResult<QImage>& page, const ScreenRectangle& rect) {
   if (page.failed()) {
     return page;
   }
   if (page.value.isNull()) {
     return FunctionCallResult<QImage>::failure(QStringLiteral("Invalid image obtained for html page screenshot."));
   }
+  if (page.value.depth() == 32 && page.value.rect().contains(QRect(rect.x, rect.y, rect.width, rect.height))) {
+    const uchar* const corner = page.value.constScanLine(rect.y) + 4 * static_cast<std::ptrdiff_t>(rect.x);
+    // The part keeps the whole.
+    return FunctionCallResult<QImage>::success(QImage(
+        corner, rect.width, rect.height, page.value.bytesPerLine(), page.value.format(),
+        [](void* whole) { delete static_cast<QImage*>(whole); }, new QImage(page.value)));
+  }
   QImage image(rect.width, rect.height, QImage::Format_ARGB32_Premultiplied);
   if (!image.isNull()) {
     QPainter(&image).drawImage(QPoint(0, 0), page.value, QRect(rect.x, rect.y, rect.width, rect.height));
   }
   return FunctionCallResult<QImage>::success(image);
+}
+
+FunctionCallResult<QImage> grabObjectScreenshotInPage(HTMLComponent* component, const ScreenRectangle& rect) {
+  return partOfPageImage(component->grabPageScreenshot(), rect);
 }
 
 }  // namespace Corvex::WebWrapper

@@ -22,4 +22,7 @@ CORVEX_WEBWRAPPER_EXPORT FunctionCallResult<bool> isObjectReady(HTML_Object* obj
 CORVEX_WEBWRAPPER_EXPORT FunctionCallResult<QImage> grabObjectScreenshotInPage(HTMLComponent* component,
                                                                                const ScreenRectangle& rect);
 
+/// The same of an image that is there already. A part that lies inside shares the memory of the whole.
+FunctionCallResult<QImage> partOfPageImage(const FunctionCallResult<QImage>& page, const ScreenRectangle& rect);
+
 }  // namespace Corvex::WebWrapper
