@@ -74,6 +74,11 @@ module.exports = [
     languageOptions: { ecmaVersion: 2015 }
   },
   {
+    // A page of our own.
+    files: ['src/webhook/inspect/viewer/*.js'],
+    languageOptions: { ecmaVersion: 2018 }
+  },
+  {
     // What these declare is for the code that they are given.
     files: ['guard.js', 'picturerect.js', 'asklines.js'].map((name) => 'src/webhook/**/' + name),
     rules: { 'no-unused-vars': 'off' }

@@ -6,12 +6,6 @@ namespace {
 
 using UIAbstraction::UIElement;
 
-const DumpObjectTreeDelegate* delegateOf(const SharedPtr<Object>& object) {
-  return object ? static_cast<const DumpObjectTreeDelegate*>(
-                      DelegateFactory::self()->delegate(object->objectClass(), Delegate::DumpObjectTreeDelegateType))
-                : nullptr;
-}
-
 void addProperties(const SharedPtr<Object>& object, const DumpObjectTreeDelegate& delegate, const DumpFilter& filters,
                    UIElement* element) {
   const FilterObject* const filter = filterObjectForCorvexObject(object, filters);
@@ -27,6 +21,12 @@ void addProperties(const SharedPtr<Object>& object, const DumpObjectTreeDelegate
 
 }  // namespace
 
+const DumpObjectTreeDelegate* dumpDelegate(const SharedPtr<Object>& object) {
+  return object ? static_cast<const DumpObjectTreeDelegate*>(
+                      DelegateFactory::self()->delegate(object->objectClass(), Delegate::DumpObjectTreeDelegateType))
+                : nullptr;
+}
+
 DumpObjectTreeDelegate::~DumpObjectTreeDelegate() = default;
 
 bool DumpObjectTreeDelegate::isTransparent(SharedPtr<Object>) const { return false; }
@@ -35,7 +35,7 @@ QString DumpObjectTreeDelegate::simplifiedType(SharedPtr<Object>) const { return
 
 UIElement* dumpObjectTreeImpl(const SharedPtr<Object>& object, bool includeProperties, const DumpFilter& filters,
                               UIElement* parentElement) {
-  const DumpObjectTreeDelegate* const delegate = delegateOf(object);
+  const DumpObjectTreeDelegate* const delegate = dumpDelegate(object);
   if (!delegate) {
     return nullptr;
   }
@@ -56,7 +56,7 @@ UIElement* dumpObjectTreeImpl(const SharedPtr<Object>& object, bool includePrope
   ObjectList children;
   delegate->children(object, &children);
   for (const SharedPtr<Object>& child : children) {
-    const DumpObjectTreeDelegate* const next = delegateOf(child);
+    const DumpObjectTreeDelegate* const next = dumpDelegate(child);
     UIElement* added = nullptr;
     if (next) {
       next->dumpObject(child, includeProperties, &added, filters, element);
@@ -68,7 +68,7 @@ UIElement* dumpObjectTreeImpl(const SharedPtr<Object>& object, bool includePrope
 FunctionCallResult<std::shared_ptr<UIElement>> dumpObjectTree(const SharedPtr<Object>& object,
                                                               const DumpFilter& filters) {
   using Result = FunctionCallResult<std::shared_ptr<UIElement>>;
-  const DumpObjectTreeDelegate* const delegate = delegateOf(object);
+  const DumpObjectTreeDelegate* const delegate = dumpDelegate(object);
   QString error;
   if (!delegate) {
     return Result::failure(QStringLiteral("Objects of this class cannot be dumped."));

@@ -7,6 +7,9 @@
 
 namespace Corvex {
 
+/// The delegate of the object's class; null for no object, and for one whose class has none.
+CORVEXHOOK_EXPORT const DumpObjectTreeDelegate* dumpDelegate(const SharedPtr<Object>& object);
+
 /// The object and all that is below it, as its class's delegate reads them.
 CORVEXHOOK_EXPORT FunctionCallResult<std::shared_ptr<UIAbstraction::UIElement>> dumpObjectTree(
     const SharedPtr<Object>& object, const DumpFilter& filters);

@@ -1,5 +1,6 @@
 #include "webhook/cli/commandline.h"
 
+#include "webhook/cli/dumpcommand.h"
 #include "webhook/cli/hookscriptcommand.h"
 #include "webhook/cli/namescommand.h"
 #include "webhook/cli/output.h"
@@ -25,6 +26,7 @@ const Command commands[] = {
     {"run", "run test scripts in a browser", runScriptsCommand},
     {"record", "write what you do in a browser as a script", recordCommand},
     {"pick", "tell what an object of a page is by a click on it", pickCommand},
+    {"dump", "write a page as a file that shows its picture and its objects", dumpCommand},
     {"names", "check that the names of a page's elements find them again", namesCommand},
     {"tree", "show the objects of a page as a tree", treeCommand},
     {"typings", "print a declaration file by which editors complete test scripts", typingsCommand},

@@ -2,11 +2,11 @@
 
 #include "corvexhook/delegate.h"
 #include "corvexhook/inspector.h"
-#include "shared/functioncallresult.h"
 #include "shared/jsescape.h"
+#include "webhook/inspect/askforeach.h"
+#include "webhook/inspect/contextdocument.h"
 #include "webhook/pages/connection.h"
 #include "webhook/pages/contexts.h"
-#include "webhook/protocol/inpagetext.h"
 #include "wrappers/web/lookup/itemchildren.h"
 #include "wrappers/web/lookup/webobjectdelegate.h"
 #include "wrappers/web/object/wraphtmlobject.h"
@@ -21,26 +21,6 @@
 namespace Corvex::Webhook {
 
 namespace {
-
-// A call of the page for so many objects takes a fraction of a second.
-const std::size_t objectsPerCall = 250;
-const unsigned int callTimeoutMs = 60000;
-
-/// What the page answers for each of some objects, or why it answers nothing.
-FunctionCallResult<QStringList> askPage(Connection& page, const char* question, const ObjectList& objects) {
-  QString calls;
-  for (const SharedPtr<Object>& object : objects) {
-    calls += QStringLiteral("add(function () { return %1; });\n").arg(WebWrapper::retrieveObject(object)->reference);
-  }
-  const QString code = inPageText("asklines.js").arg(QLatin1String(question), calls);
-  const WebWrapper::JavaScriptAnswer answer = page.evaluateJS(code, callTimeoutMs);
-  QStringList lines = answer.text.split(QLatin1Char('\n'));
-  if (!answer.succeeded() || lines.size() != static_cast<int>(objects.size()) + 1) {
-    return FunctionCallResult<QStringList>::failure(answer.text);
-  }
-  lines.removeLast();
-  return FunctionCallResult<QStringList>::success(lines);
-}
 
 /// The one walk over the documents of a page and what is below them.
 class TreeReader {
@@ -84,7 +64,7 @@ std::set<std::size_t> childless(Connection& page, const Items& found, std::size_
     if (!isFull || objects.size() < 2) {
       continue;
     }
-    const QStringList answers = askPage(page, "hasChildren", objects).value;
+    const QStringList answers = askForEach(page, "hasChildren", objects).value;
     for (int k = 0; k < answers.size(); ++k) {
       if (answers.at(k) == QLatin1String("false")) {
         leaves.insert(places[k]);
@@ -96,37 +76,8 @@ std::set<std::size_t> childless(Connection& page, const Items& found, std::size_
   return leaves;
 }
 
-SharedPtr<Object> rootOf(const Connection* page) {
-  for (const SharedPtr<Object>& root : Inspector::self()->rootObjects()) {
-    void* data = nullptr;
-    if (root->get(&data) && data == page) {
-      return root;
-    }
-  }
-  return nullptr;
-}
-
-SharedPtr<Object> documentOf(const Context& context) {
-  const SharedPtr<Object> root = rootOf(context.connection);
-  const ObjectHierarchyDelegate* const delegate = hierarchyDelegate(root);
-  if (!delegate) {
-    return nullptr;
-  }
-  QString name = context.localName;
-  const SharedPtr<Object> document =
-      delegate->childByName(root, QStringLiteral("DOCUMENT[%1]").arg(name.replace(QLatin1Char('.'), QLatin1Char('|'))));
-  const WebWrapper::HTML_Object* native = WebWrapper::retrieveObject(document);
-  if (!native) {
-    return nullptr;
-  }
-  // Where a name leads to no window, the answer is another document.
-  const WebWrapper::JavaScriptAnswer shown =
-      native->evaluateJS(QStringLiteral("__corvex__contextOf(%1.defaultView)").arg(native->reference));
-  return shown.succeeded() && shown.text == context.localName ? document : SharedPtr<Object>();
-}
-
 void TreeReader::read(const Context& context) {
-  const SharedPtr<Object> document = documentOf(context);
+  const SharedPtr<Object> document = documentOfContext(context);
   const QString error = Inspector::self()->takeScriptError();
   if (!document) {
     fail(QStringLiteral("The document of '%1' could not be reached. %2").arg(context.name, error).trimmed());
@@ -207,7 +158,7 @@ void TreeReader::name(Connection& page, const std::vector<int>& places) {
   for (const int place : places) {
     objects.push_back(m_objects[place]);
   }
-  const FunctionCallResult<QStringList> names = askPage(page, "name", objects);
+  const FunctionCallResult<QStringList> names = askForEach(page, "name", objects);
   if (names.failed()) {
     fail(QStringLiteral("The page gave no names: %1").arg(names.error));
     return;

@@ -5,6 +5,19 @@ __corvex__whilePageStays(function () {
     name: function (object) {
       return escape(__corvex__nameOf(object));
     },
+    // How far from the corner of the page's image the image of a document begins that a frame shows.
+    frameOffset: function (doc) {
+      var x = 0;
+      var y = 0;
+      var ratio = __corvex__imagePixelRatio();
+      for (var win = doc.defaultView; win && win !== window.top && win.frameElement; win = win.parent) {
+        var frame = win.frameElement;
+        var rect = window.top.__corvex.getElementRectangleInDocument(frame, 1);
+        x += rect.x + Math.round(((frame.clientLeft || 0) - win.pageXOffset) * ratio);
+        y += rect.y + Math.round(((frame.clientTop || 0) - win.pageYOffset) * ratio);
+      }
+      return x + "," + y;
+    },
     hasChildren: function (object) {
       return !!(object.qx_Widget || __corvexDOMAPI.firstChild(object) || __corvex__nodeReader.shadowRoot(object));
     }

@@ -1,0 +1,31 @@
+#include "webhook/inspect/askforeach.h"
+
+#include "webhook/pages/connection.h"
+#include "webhook/protocol/inpagetext.h"
+#include "wrappers/web/object/webobject.h"
+#include "wrappers/web/object/wraphtmlobject.h"
+
+namespace Corvex::Webhook {
+
+namespace {
+
+const unsigned int callTimeoutMs = 60000;
+
+}  // namespace
+
+FunctionCallResult<QStringList> askForEach(Connection& page, const char* question, const ObjectList& objects) {
+  QString calls;
+  for (const SharedPtr<Object>& object : objects) {
+    calls += QStringLiteral("add(function () { return %1; });\n").arg(WebWrapper::retrieveObject(object)->reference);
+  }
+  const QString code = inPageText("asklines.js").arg(QLatin1String(question), calls);
+  const WebWrapper::JavaScriptAnswer answer = page.evaluateJS(code, callTimeoutMs);
+  QStringList lines = answer.text.split(QLatin1Char('\n'));
+  if (!answer.succeeded() || lines.size() != objects.size() + 1) {
+    return FunctionCallResult<QStringList>::failure(answer.text);
+  }
+  lines.removeLast();
+  return FunctionCallResult<QStringList>::success(lines);
+}
+
+}  // namespace Corvex::Webhook

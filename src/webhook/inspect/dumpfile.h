@@ -1,0 +1,26 @@
+#pragma once
+
+#include "webhook/inspect/pagedump.h"
+
+#include <QByteArray>
+
+namespace Corvex::Webhook {
+
+/// How a dump is written down.
+enum class DumpFormat { Html, Json, Xml };
+
+/// By the ending of the file's name; HTML for any that is not known.
+DumpFormat dumpFormatOf(const QString& file);
+
+/// One page that shows the dump offline: nothing of it is taken from elsewhere, and no text of the dumped page is code
+/// or markup there. Values of more than 500 characters are cut, and so is the picture's quality where it is large.
+QByteArray dumpAsHtml(const PageDump& dump);
+/// {url, title, documents: [object]}; an object is {context, class, name, qualifiedName, matches, bounds, properties,
+/// children}, without a context where it is no document and without bounds where it is not shown.
+QByteArray dumpAsJson(const PageDump& dump);
+/// The same: elements "object" with attributes of those names, in them elements "property" with a "name".
+QByteArray dumpAsXml(const PageDump& dump);
+
+QByteArray dumpAs(DumpFormat format, const PageDump& dump);
+
+}  // namespace Corvex::Webhook

@@ -1,0 +1,91 @@
+#include "webhook/inspect/dumpfile.h"
+
+#include "shared/visibletext.h"
+
+#include <QBuffer>
+#include <QDateTime>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+const int longestValue = 500;
+// Large ones become JPEG files, which show a page well enough to point at it.
+const int largestPngPicture = 1000000;
+const int jpegQuality = 70;
+
+QByteArray partOfViewer(const char* name) {
+  QFile file(QStringLiteral(":/webhook/viewer/") + QLatin1String(name));
+  if (!file.open(QIODevice::ReadOnly)) {
+    qFatal("The viewer's file '%s' is not built in.", name);
+  }
+  return file.readAll();
+}
+
+/// The picture's address; empty without a picture.
+QString asAddress(const QImage& picture) {
+  for (const char* format : {"png", "jpeg"}) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    const bool isPng = qstrcmp(format, "png") == 0;
+    const bool isWritten = buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, format, isPng ? -1 : jpegQuality);
+    if (isWritten && (!isPng || bytes.size() <= largestPngPicture)) {
+      return QStringLiteral("data:image/%1;base64,").arg(QLatin1String(format)) + QString::fromLatin1(bytes.toBase64());
+    }
+  }
+  return QString();
+}
+
+QString cut(const QString& value) {
+  return visibleText(value.size() <= longestValue ? value : value.left(longestValue) + QChar(0x2026));
+}
+
+QJsonArray asRow(const DumpedObject& object) {
+  const GlobalBounds& bounds = object.bounds;
+  const bool isShown = bounds.width > 0 && bounds.height > 0;
+  QJsonArray properties;
+  for (const UIAbstraction::UIProperty& property : object.properties) {
+    if (!property.value.isEmpty()) {
+      properties.append(QJsonArray{property.name, cut(property.value)});
+    }
+  }
+  QJsonArray row{
+      object.depth,   object.className,
+      object.name,    visibleText(object.qualifiedName),
+      object.matches, isShown ? QJsonValue(QJsonArray{bounds.x, bounds.y, bounds.width, bounds.height}) : QJsonValue(),
+      properties};
+  if (!object.context.isEmpty()) {
+    row.append(visibleText(object.context));
+  }
+  return row;
+}
+
+/// As the content of a script element, where nothing else may end it.
+QByteArray inScriptElement(QByteArray json) { return json.replace('<', "\\u003c"); }
+
+}  // namespace
+
+QByteArray dumpAsHtml(const PageDump& dump) {
+  QJsonArray objects;
+  for (const DumpedObject& object : dump.objects) {
+    objects.append(asRow(object));
+  }
+  const QJsonObject data{{QStringLiteral("url"), visibleText(dump.url)},
+                         {QStringLiteral("title"), visibleText(dump.title)},
+                         {QStringLiteral("time"), QDateTime::currentDateTime().toString(Qt::ISODate)},
+                         {QStringLiteral("problem"), visibleText(dump.error)},
+                         {QStringLiteral("picture"), asAddress(dump.picture)},
+                         {QStringLiteral("pictureWidth"), dump.picture.width()},
+                         {QStringLiteral("objects"), objects}};
+  // The data comes last: it may hold what reads as a place.
+  return partOfViewer("dump.html")
+      .replace("%STYLE%", partOfViewer("dump.css"))
+      .replace("%SCRIPT%", partOfViewer("dump.js"))
+      .replace("%DATA%", inScriptElement(QJsonDocument(data).toJson(QJsonDocument::Compact)));
+}
+
+}  // namespace Corvex::Webhook

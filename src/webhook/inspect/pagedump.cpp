@@ -1,0 +1,190 @@
+#include "webhook/inspect/pagedump.h"
+
+#include "corvexhook/dump/dumpobjecttree.h"
+#include "corvexhook/inspector.h"
+#include "shared/jsescape.h"
+#include "webhook/inspect/askforeach.h"
+#include "webhook/inspect/contextdocument.h"
+#include "webhook/pages/connection.h"
+#include "webhook/pages/contexts.h"
+#include "webhook/protocol/inpagetext.h"
+#include "wrappers/web/object/webobject.h"
+#include "wrappers/web/page/escaping.h"
+
+#include <QHash>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+using UIAbstraction::UIElement;
+
+const unsigned int countTimeoutMs = 60000;
+
+/// Reads one page, document by document.
+class DumpReader {
+public:
+  DumpReader(Connection& page, const QStringList& properties)
+      : m_page(page),
+        m_filters{{FilterObject(QLatin1String(WebWrapper::HTML_Object::ScriptName), properties)}, false} {}
+
+  void read(const Context& context);
+  void countMatches();
+  PageDump take() { return std::move(m_dump); }
+
+private:
+  void add(const UIElement& element, const SharedPtr<Object>& object, const DumpObjectTreeDelegate& delegate,
+           int depth);
+  void moveIntoFrame(const SharedPtr<Object>& document, int from);
+  void nameAll(int from);
+  void fail(const QString& what, const QString& why) {
+    if (m_dump.error.isEmpty()) {
+      m_dump.error = what.arg(why).trimmed();
+    }
+  }
+
+  Connection& m_page;
+  const DumpFilter m_filters;
+  PageDump m_dump;
+  ObjectList m_objects;
+};
+
+void DumpReader::read(const Context& context) {
+  const SharedPtr<Object> document = documentOfContext(context);
+  const QString lost = Inspector::self()->takeScriptError();
+  const DumpObjectTreeDelegate* const delegate = document ? dumpDelegate(document) : nullptr;
+  if (!delegate) {
+    fail(QStringLiteral("The document of '%1' could not be reached. %2").arg(context.name), lost);
+    return;
+  }
+  QString error;
+  if (!delegate->enterDump(document, m_filters, &error)) {
+    fail(QStringLiteral("%1"), error);
+    return;
+  }
+  UIElement root;
+  UIElement* element = nullptr;
+  delegate->dumpObject(document, true, &element, m_filters, &root);
+  const int from = m_dump.objects.size();
+  add(*element, document, *delegate, 0);
+  m_dump.objects[from].context = context.name;
+  moveIntoFrame(document, from);
+  nameAll(from);
+  delegate->leaveDump(&error);
+}
+
+void DumpReader::add(const UIElement& element, const SharedPtr<Object>& object, const DumpObjectTreeDelegate& delegate,
+                     int depth) {
+  DumpedObject dumped;
+  dumped.depth = depth;
+  dumped.className = element.type();
+  dumped.name = element.name();
+  dumped.bounds = element.bounds();
+  dumped.properties = element.identifyingProperties() + element.concreteProperties();
+  m_dump.objects.append(dumped);
+  m_objects.push_back(object);
+  ObjectList children;
+  delegate.children(object, &children);
+  // The walk that made the elements has met the same objects in this order.
+  for (int i = 0; i < children.size() && i < static_cast<int>(element.children().size()); ++i) {
+    add(*element.children()[static_cast<std::size_t>(i)], children[i], delegate, depth + 1);
+  }
+}
+
+// Rectangles are those of the object's own document.
+void DumpReader::moveIntoFrame(const SharedPtr<Object>& document, int from) {
+  ObjectList one;
+  one.push_back(document);
+  const QStringList offset = askForEach(m_page, "frameOffset", one).value.value(0).split(QLatin1Char(','));
+  for (int i = from; i < m_dump.objects.size(); ++i) {
+    m_dump.objects[i].bounds.x += offset.value(0).toInt();
+    m_dump.objects[i].bounds.y += offset.value(1).toInt();
+  }
+}
+
+void DumpReader::nameAll(int from) {
+  for (int begin = from; begin < m_dump.objects.size(); begin += objectsPerCall) {
+    ObjectList some;
+    for (int i = begin; i < qMin(begin + objectsPerCall, m_dump.objects.size()); ++i) {
+      some.push_back(m_objects[i]);
+    }
+    const FunctionCallResult<QStringList> names = askForEach(m_page, "name", some);
+    if (names.failed()) {
+      fail(QStringLiteral("The page gave no names: %1"), names.error);
+      return;
+    }
+    for (int i = 0; i < names.value.size(); ++i) {
+      const QString& line = names.value.at(i);
+      if (!line.startsWith(QLatin1Char('!'))) {
+        m_dump.objects[begin + i].qualifiedName = WebWrapper::unescape(undoEscape(line));
+      }
+    }
+  }
+}
+
+/// A name below a container is looked for there only, and a path of names fits one object at most.
+bool isCountedByPage(const QString& name) {
+  return name.startsWith(QLatin1Char('{')) && !name.contains(QLatin1String("container=")) &&
+         !name.contains(QLatin1String(" occurrence="));
+}
+
+void DumpReader::countMatches() {
+  QHash<QString, int> counts;
+  QStringList asked;
+  for (const DumpedObject& object : qAsConst(m_dump.objects)) {
+    int& count = counts[object.qualifiedName];
+    if (++count == 1 && isCountedByPage(object.qualifiedName)) {
+      asked << object.qualifiedName;
+    }
+  }
+  for (int begin = 0; begin < asked.size(); begin += objectsPerCall) {
+    const QStringList some = asked.mid(begin, objectsPerCall);
+    QStringList literals;
+    for (const QString& name : some) {
+      literals << QLatin1Char('"') + WebWrapper::escapeObjectNameForUseAsStringLiteral(name) + QLatin1Char('"');
+    }
+    const WebWrapper::JavaScriptAnswer answer =
+        m_page.evaluateJS(inPageText("countmatches.js").arg(literals.join(QLatin1Char(','))), countTimeoutMs);
+    const QStringList numbers = answer.text.split(QLatin1Char(' '));
+    if (!answer.succeeded() || numbers.size() != some.size()) {
+      fail(QStringLiteral("The page did not count what its names fit: %1"), answer.text);
+      return;
+    }
+    for (int i = 0; i < some.size(); ++i) {
+      counts[some.at(i)] = numbers.at(i).toInt();
+    }
+  }
+  for (DumpedObject& object : m_dump.objects) {
+    object.matches = object.qualifiedName.isEmpty() ? 0 : counts.value(object.qualifiedName);
+  }
+}
+
+}  // namespace
+
+// Texts of elements with others in them hold the same again and again: each object has its own text anyway.
+QStringList usualProperties() {
+  return QStringLiteral("tagName id name type title value href src checked visible enabled className")
+      .split(QLatin1Char(' '));
+}
+
+PageDump readDump(const BrowserWindows& windows, Connection& page, const QStringList& properties) {
+  DumpReader reader(page, properties);
+  for (const Context& context : allContexts(windows)) {
+    if (context.connection == &page) {
+      reader.read(context);
+    }
+  }
+  reader.countMatches();
+  PageDump dump = reader.take();
+  dump.url = page.page()->url();
+  dump.title = page.evaluateJS(QStringLiteral("document.title"), 1000).text;
+  const FunctionCallResult<QImage> picture =
+      page.supportsPageScreenshot() ? page.grabPageScreenshot() : FunctionCallResult<QImage>{};
+  dump.picture = picture.value;
+  if (picture.failed() && dump.error.isEmpty()) {
+    dump.error = QStringLiteral("The page gave no picture: %1").arg(picture.error);
+  }
+  return dump;
+}
+
+}  // namespace Corvex::Webhook
