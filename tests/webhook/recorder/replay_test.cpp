@@ -5,7 +5,7 @@
 #include "support/printing.h"
 #include "support/testbrowser.h"
 #include "support/testserver.h"
-#include "webhook/recorder/recordedbrowser.h"
+#include "support/recordedbrowser.h"
 
 using TestSupport::RecordedBrowser;
 
@@ -26,7 +26,7 @@ protected:
     {
       RecordedBrowser person(true);
       for (const Act& act : acts) {
-        person.show(server.url(QLatin1String(act.page)));
+        EXPECT_EQ(person.show(server.url(QLatin1String(act.page))), QString());
         const QString error = person.act(QString::fromUtf8(act.statements));
         EXPECT_EQ(error, QString()) << act.statements.constData();
         lines << person.recorded().join('\n');
@@ -37,7 +37,7 @@ protected:
     RecordedBrowser script(false);
     for (size_t i = 0; i < acts.size(); ++i) {
       const int at = static_cast<int>(i);
-      script.show(server.url(QLatin1String(acts[i].page)));
+      EXPECT_EQ(script.show(server.url(QLatin1String(acts[i].page))), QString());
       EXPECT_EQ(script.act(lines[at]), QString()) << acts[i].statements.constData() << qPrintable("\n->\n" + lines[at]);
       EXPECT_EQ(script.stateAwaited(states[at]), states[at])
           << acts[i].statements.constData() << qPrintable("\n->\n" + lines[at]);
