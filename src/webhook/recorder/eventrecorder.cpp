@@ -167,7 +167,9 @@ void EventRecorder::recordCall(const QString& objectName, const char* functionNa
   if (function == QLatin1String("closeWindow")) {
     return;
   }
-  append(EventData(function, objectName, arguments), time);
+  // Then the place is none in the object.
+  const bool isBeside = m_data.contains(QStringLiteral("beside"));
+  append(EventData(function, objectName, isBeside ? ObjectList() : arguments), time);
   if (function == QLatin1String("waitForContextExists")) {
     enterWindow(item(m_data, "window"), objectName);
   }
@@ -323,6 +325,7 @@ bool EventRecorder::takeFieldSet(const QString& objectName) {
     return false;
   }
   flushRecordedTextInput();
+  enterContext(item(m_data, "context"));
   const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
   if (m_data.contains(QStringLiteral("checked"))) {
     const bool isChecked = item(m_data, "checked") == QLatin1String("true");
@@ -348,6 +351,7 @@ bool EventRecorder::takeKeyClick(const QString& objectName) {
   const bool isButton = WebWrapper::isButtonType(type) && !others.contains(type);
   if (isButton || WebWrapper::isLink(type)) {
     flushRecordedTextInput();
+    enterContext(item(m_data, "context"));
     const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
     append(EventData(isButton ? QStringLiteral("clickButton") : QStringLiteral("mouseClick"), objectName, {}), &time);
   }

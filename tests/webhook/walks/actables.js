@@ -2,8 +2,9 @@
 // Else the one of this number, in view: "kind|x|y|what it is", or "" where something is on top of it.
 (function (index) {
   var textTypes = /^(text|search|url|tel|email|password|number)$/;
-  var keyTypes = /^(date|month|week|time|datetime-local|range)$/;
-  var never = /^(file|hidden|color|image)$/;
+  var keyTypes = /^range$/;
+  // Some show windows of the browser's own, and others are filled in parts, of which a page knows nothing.
+  var never = /^(file|hidden|color|image|month|week|time|datetime-local)$/;
   var clicked = "a[href],button,input,summary,label,option,[onclick],[role=tab],[role=button],[role=checkbox],[role=option],[role=menuitem]";
   var found = [];
 
@@ -36,6 +37,9 @@
     }
     if (node.tagName === "INPUT" && keyTypes.test(type)) {
       return "keys";
+    }
+    if (node.tagName === "INPUT" && node.type === "date") {
+      return "date";
     }
     if (node.isContentEditable) {
       return node.parentNode.isContentEditable ? "" : "text";
@@ -100,7 +104,7 @@
   }
   var thing = found[index];
   var point = thing && place(thing);
-  if (point && thing.kind === "list" || point && thing.kind === "keys") {
+  if (point && /^(list|date)$/.test(thing.kind)) {
     // As a person comes there with the Tab key; a press would open a list of the browser's own.
     thing.node.focus();
   }

@@ -15,7 +15,7 @@ const PageRow pages[] = {
     {"rooms", "/walks/rooms.html"},
     {"backbone", "/packages/todomvc/examples/backbone/index.html"},
     {"react-todo", "/packages/todomvc/examples/react/index.html"},
-    {"jqueryui", "/packages/jquery-ui-dist/index.html"},
+    {"jqueryui", "/walks/jqueryui.html"},
     {"bootstrap", "/walks/bootstrap.html"},
     {"react", "/e2e/foreign/react.html"},
     {"vue", "/e2e/foreign/vue.html"},

@@ -17,6 +17,12 @@ const int askTimeoutMs = 3000;
 const int longestMoveMs = 4000;
 const int attempts = 20;
 
+// Changes while anything in the page moves.
+const QString moves = QStringLiteral(
+    "document.getAnimations().filter(function (a) { return a.playState === 'running'; }).length + ' ' + "
+    "[].map.call(document.querySelectorAll('*'), function (e) { var r = e.getBoundingClientRect(); "
+    "return [r.left, r.top, r.width, r.height, getComputedStyle(e).opacity]; })");
+
 // Keys in angle brackets would be keys; these are characters.
 const char* const words[] = {"milk",   "Ada & Co", "a<b",  "\"so\"",      "Zoë", "тест",
                              "o'Neil", "100%",     "日本", "two  blanks", "x"};
@@ -141,9 +147,19 @@ void Walker::useThing() {
     // Who clicks a link or a button that sends something twice clicks what comes next.
     const bool mayTwice = !thing.name.contains(QLatin1String("A ")) && !thing.name.contains(QLatin1String("submit"));
     click(thing, mayTwice && below(6) == 0 ? 2 : 1);
+  } else if (thing.kind == QLatin1String("date")) {
+    static const char* const dates[] = {"02292024", "12311999"};
+    // A field that gets the date that it has tells nobody.
+    const QString text = QString::fromLatin1(dates[m_dates++ % 2]);
+    m_done << QStringLiteral("type %1 into %2").arg(text, thing.name);
+    keys(text);
   } else {
     static const char* const arrows[] = {"<Down>", "<Down><Down>", "<Up>", "<Home>", "<End>"};
     const QString text = QString::fromLatin1(arrows[below(5)]);
+    if (thing.kind == QLatin1String("keys")) {
+      click(thing, 1);
+      settle();
+    }
     m_done << QStringLiteral("press %1 on %2").arg(text, thing.name);
     keys(text);
   }
@@ -209,7 +225,11 @@ void Walker::settle() {
         return true;
       }
     }
-    const QString before = std::exchange(last, m_browser.state());
+    QString now = m_browser.state();
+    for (Connection* connection : windows().connections()) {
+      now += connection->evaluateJS(moves, askTimeoutMs).text;
+    }
+    const QString before = std::exchange(last, now);
     return before == last;
   });
 }

@@ -49,6 +49,7 @@ private:
   TestSupport::RecordedBrowser& m_browser;
   std::mt19937 m_random;
   bool m_mayGoBack;
+  int m_dates = 0;
   QString m_window;
   QString m_firstAddress;
   QStringList m_done;
