@@ -95,6 +95,12 @@ QStringList RecordedBrowser::recorded() {
   return m_lines.lines;
 }
 
+void RecordedBrowser::restPointer() {
+  for (Connection* window : m_control.windows()->connections()) {
+    window->perform({InputStep()});
+  }
+}
+
 QString RecordedBrowser::state() {
   static const QString code = textOfFile("pagestate.js");
   QString result;

@@ -28,6 +28,8 @@ public:
   QString act(const QString& statements);
   /// The script lines of what happened since `show`.
   QStringList recorded();
+  /// Takes the pointer away from all things.
+  void restPointer();
   /// The content of all windows: addresses, texts, fields.
   QString state();
   /// The same once it is this one, or after a while.

@@ -267,6 +267,7 @@ void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleM
 
 bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
   recordRepeatedPress();
+  m_isKeyClick = m_isKeyClick && event() == QLatin1String("keyClick");
   m_data = data;
   if (item(data, "type") == QLatin1String("password")) {
     m_passwords.insert(objectName);
@@ -347,6 +348,7 @@ bool EventRecorder::takeKeyClick(const QString& objectName) {
     return false;
   }
   static const QStringList others{QStringLiteral("submit"), QStringLiteral("checkbox"), QStringLiteral("radio")};
+  m_isKeyClick = true;
   const QString type = item(m_data, "type");
   const bool isButton = WebWrapper::isButtonType(type) && !others.contains(type);
   if (isButton || WebWrapper::isLink(type)) {
@@ -400,7 +402,8 @@ bool EventRecorder::isLastRecordedCall(const QString& functionName, const QStrin
   const EventData last = m_calls.last();
   const bool isLast = last.functionName() == functionName && last.objectName() == objectName;
   const bool isPress = event() == QLatin1String("mousedown") || event() == QLatin1String("touchend");
-  if (isLast && (isPress || isClickOfReturn())) {
+  const bool isKeyClick = m_isKeyClick && event() == QLatin1String("click");
+  if (isLast && (isPress || isKeyClick || isClickOfReturn())) {
     m_repeatedPress = functionName;
   }
   return isLast;

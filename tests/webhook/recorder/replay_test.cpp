@@ -83,6 +83,29 @@ pressKeys("<Right><Right><Tab><Space><Tab><Space><Down><Tab><Down><Tab><Space><S
   });
 }
 
+TEST_F(Replay, OfAnOrderAndOfDialogs) {
+  server.serveFolder(QStringLiteral(CORVEX_TEST_SOURCE "/../examples/shop"), QStringLiteral("/shop/"));
+  server.add("/dialogs.html", {R"(<button id='a' onclick='alert("Hello")'>Alert</button>
+<button id='c' onclick='this.textContent = confirm("Sure?")'>Confirm</button>
+<button id='p' onclick='this.textContent = prompt("Name?", "")'>Prompt</button>
+<button id='i' onclick='n.textContent = 1 + Number(n.textContent)'>Count</button><p id='n'>0</p>)"});
+  check({
+      {"/shop/index.html", R"(typeText("{tagName='INPUT' name='search'}", "o");
+mouseClick("{tagName='INPUT' name='instock'}"); mouseClick("{tagName='BUTTON' id='add-pot'}");
+mouseClick("{tagName='BUTTON' id='add-pot'}"); mouseClick("{tagName='A' name='basket'}");
+typeText("{tagName='INPUT' name='name'}", "Ada & \"Co\" <b>"); typeText("{tagName='INPUT' name='mail'}", "ada@example.com");
+pressKeys("<Tab><Down>"); mouseClick("{tagName='INPUT' value='invoice'}");
+typeText("{tagName='TEXTAREA' name='note'}", "Ring twice.\nThe dog is kind."); mouseClick("{tagName='BUTTON' name='place'}");
+waitForObject("{tagName='P' id='message' simplifiedInnerText?='Thank*'}");)",
+       "98.00"},
+      {"/dialogs.html",
+       R"(mouseClick("{tagName='BUTTON' id='i'}"); mouseClick("{tagName='BUTTON' id='a'}"); closeAlert();
+mouseClick("{tagName='BUTTON' id='c'}"); closeConfirm(true);
+mouseClick("{tagName='BUTTON' id='p'}"); closePrompt("Zoë 100%"); doubleClick("{tagName='BUTTON' id='i'}");)",
+       "true Zoë 100% Count 3"},
+  });
+}
+
 TEST_F(Replay, OfWindowsThatPeopleAndPagesOpenAndClose) {
   server.add("/w/page.html", {R"(<input id='f'><a id='link' target='_blank' href='page.html?2'>More</a>
 <button id='pop' onclick='window.open("pop.html?" + f.value, "", "width=300,height=200")'>Pop</button><p id='said'></p>)"});

@@ -1,5 +1,5 @@
-// What a person could act on in a window now, in the order of its documents. `index` below 0: how many things there are.
-// Else the one of this number, in view: "kind|x|y|what it is", or "" where something is on top of it.
+// What a person could act on in a window now, in the order of its documents. `index` -1: how many things there are; -2:
+// whether what has the focus leads to another origin. Else the one of this number, in view: "kind|x|y|what it is", or "" where something is on top of it.
 (function (index) {
   var textTypes = /^(text|search|url|tel|email|password|number)$/;
   var keyTypes = /^range$/;
@@ -98,6 +98,14 @@
       String(text).replace(/\s+/g, " ").trim().slice(0, 30);
   }
 
+  function focused(doc) {
+    var node = doc.activeElement;
+    return node && node.contentDocument ? focused(node.contentDocument) : node;
+  }
+
+  if (index < -1) {
+    return !!focused(document) && leadsAway(focused(document));
+  }
   collect(document, []);
   if (index < 0) {
     return found.length;
@@ -105,7 +113,9 @@
   var thing = found[index];
   var point = thing && place(thing);
   if (point && /^(list|date)$/.test(thing.kind)) {
-    // As a person comes there with the Tab key; a press would open a list of the browser's own.
+    // As a person comes there with the Tab key; a press would open a list of the browser's own. A date begins with its
+    // first part.
+    thing.node.blur();
     thing.node.focus();
   }
   return point ? [thing.kind, point[0], point[1], nameOf(thing)].join("|") : "";

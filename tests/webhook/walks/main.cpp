@@ -62,6 +62,7 @@ void record(Walk& walk, Browser& browser, bool mayGoBack) {
     return;
   }
   walk.acts = Walker(*browser, walk.seed, mayGoBack).walk();
+  (*browser).restPointer();
   walk.script = (*browser).recorded().join('\n');
   walk.state = (*browser).state();
 }
@@ -74,6 +75,7 @@ void replay(Walk& walk, Browser& browser) {
     walk.miss = (*browser).act(walk.script);
   }
   if (walk.isEqual()) {
+    (*browser).restPointer();
     walk.miss = firstDifference(walk.state, (*browser).stateAwaited(walk.state));
   }
   if (!walk.isEqual()) {

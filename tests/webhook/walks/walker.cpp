@@ -18,7 +18,7 @@ const int longestMoveMs = 4000;
 const int attempts = 20;
 
 // Changes while anything in the page moves.
-const QString moves = QStringLiteral(
+const QString layout = QStringLiteral(
     "document.getAnimations().filter(function (a) { return a.playState === 'running'; }).length + ' ' + "
     "[].map.call(document.querySelectorAll('*'), function (e) { var r = e.getBoundingClientRect(); "
     "return [r.left, r.top, r.width, r.height, getComputedStyle(e).opacity]; })");
@@ -120,11 +120,17 @@ bool Walker::changeWindow() {
 }
 
 bool Walker::useKeyboard() {
-  static const char* const combinations[] = {"<Tab>", "<Tab><Space>", "<Tab><Return>", "<Tab><Tab>",
-                                             "<Shift+Tab><Space>"};
-  const QString text = QString::fromLatin1(combinations[below(5)]);
-  m_done << QStringLiteral("press ") + text;
-  keys(text);
+  static const char* const moves[] = {"<Tab>", "<Tab><Tab>", "<Shift+Tab>"};
+  static const char* const presses[] = {"", "<Space>", "<Return>"};
+  const QString move = QString::fromLatin1(moves[below(3)]);
+  QString press = QString::fromLatin1(presses[below(3)]);
+  keys(move);
+  settle();
+  if (window().evaluateJS(actables() + QStringLiteral("(-2)"), askTimeoutMs).text == QLatin1String("true")) {
+    press.clear();
+  }
+  m_done << QStringLiteral("press ") + move + press;
+  keys(press);
   return true;
 }
 
@@ -166,6 +172,8 @@ void Walker::useThing() {
 }
 
 bool Walker::chooseThing(Thing& thing) {
+  // What shows only while the pointer rests somewhere is not recorded.
+  m_browser.restPointer();
   for (int i = 0; i < attempts; ++i) {
     const int count = window().evaluateJS(actables() + QStringLiteral("(-1)"), askTimeoutMs).text.toInt();
     if (count == 0) {
@@ -227,7 +235,7 @@ void Walker::settle() {
     }
     QString now = m_browser.state();
     for (Connection* connection : windows().connections()) {
-      now += connection->evaluateJS(moves, askTimeoutMs).text;
+      now += connection->evaluateJS(layout, askTimeoutMs).text;
     }
     const QString before = std::exchange(last, now);
     return before == last;
