@@ -167,7 +167,9 @@ void EventRecorder::recordCall(const QString& objectName, const char* functionNa
   if (function == QLatin1String("closeWindow")) {
     return;
   }
-  append(EventData(function, objectName, arguments), time);
+  // Then the place is none in the object.
+  const bool isBeside = m_data.contains(QStringLiteral("beside"));
+  append(EventData(function, objectName, isBeside ? ObjectList() : arguments), time);
   if (function == QLatin1String("waitForContextExists")) {
     enterWindow(item(m_data, "window"), objectName);
   }
@@ -265,6 +267,7 @@ void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleM
 
 bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
   recordRepeatedPress();
+  m_isKeyClick = m_isKeyClick && event() == QLatin1String("keyClick");
   m_data = data;
   if (item(data, "type") == QLatin1String("password")) {
     m_passwords.insert(objectName);
@@ -323,6 +326,7 @@ bool EventRecorder::takeFieldSet(const QString& objectName) {
     return false;
   }
   flushRecordedTextInput();
+  enterContext(item(m_data, "context"));
   const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
   if (m_data.contains(QStringLiteral("checked"))) {
     const bool isChecked = item(m_data, "checked") == QLatin1String("true");
@@ -344,10 +348,12 @@ bool EventRecorder::takeKeyClick(const QString& objectName) {
     return false;
   }
   static const QStringList others{QStringLiteral("submit"), QStringLiteral("checkbox"), QStringLiteral("radio")};
+  m_isKeyClick = true;
   const QString type = item(m_data, "type");
   const bool isButton = WebWrapper::isButtonType(type) && !others.contains(type);
   if (isButton || WebWrapper::isLink(type)) {
     flushRecordedTextInput();
+    enterContext(item(m_data, "context"));
     const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
     append(EventData(isButton ? QStringLiteral("clickButton") : QStringLiteral("mouseClick"), objectName, {}), &time);
   }
@@ -396,7 +402,8 @@ bool EventRecorder::isLastRecordedCall(const QString& functionName, const QStrin
   const EventData last = m_calls.last();
   const bool isLast = last.functionName() == functionName && last.objectName() == objectName;
   const bool isPress = event() == QLatin1String("mousedown") || event() == QLatin1String("touchend");
-  if (isLast && (isPress || isClickOfReturn())) {
+  const bool isKeyClick = m_isKeyClick && event() == QLatin1String("click");
+  if (isLast && (isPress || isKeyClick || isClickOfReturn())) {
     m_repeatedPress = functionName;
   }
   return isLast;

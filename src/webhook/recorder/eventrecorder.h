@@ -104,6 +104,8 @@ private:
   bool m_isReturnDown = false;
   /// Where it was pressed last. What comes up there afterwards went down before.
   QString m_returnField;
+  /// Whether a page told of a click by a key, and not yet of the click itself.
+  bool m_isKeyClick = false;
   /// Whether the last call is a click that a browser made of a Return.
   bool m_lastIsReturn = false;
   /// The content of each field as the page told it last, by the names of the fields.

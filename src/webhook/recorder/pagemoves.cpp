@@ -29,12 +29,13 @@ PageMoves::Calls PageMoves::noteArrived(const WebWrapper::EventMap& data) {
     m_entries.append(entry);
     m_entries = m_entries.mid(qMax(0, m_entries.size() - mostEntries));
   }
-  const bool isFirst = before.isEmpty() || item("first") == QLatin1String("true");
+  const bool isReload = item("how") == QLatin1String("reload");
+  const bool isFirst = before.isEmpty() || (item("first") == QLatin1String("true") && !isReload);
   const bool isByPage = item("who") == QLatin1String("page") || (isPageMove && item("who").isEmpty());
   if (isFirst || isByPage) {
     return {};
   }
-  if (item("how") == QLatin1String("reload")) {
+  if (isReload) {
     return {"reload", 1};
   }
   const int steps = item("steps").toInt();

@@ -200,6 +200,14 @@ TEST_F(Recording, NothingThatWasTypedIsLost) {
         "2|fieldSet&object=c&type=checkbox&checked=false", "3|keyClick&object=c&type=checkbox",
         "4|keyClick&object=b&type=button", "5|keyClick&object=b&type=button", "6|keyClick&object=a&type=A"},
        "setText(r, 2) setChecked(c, false) clickButton(b) clickButton(b) mouseClick(a)"},
+      {"a button by its key after a press",
+       {"0|mousedown&object=b&type=submit", "1|click&object=b&type=submit", "2|keyClick&object=b&type=submit",
+        "3|click&object=b&type=submit", "4|click&object=b&type=submit"},
+       "clickButton(b) clickButton(b)"},
+      {"a link by its key, in a page that got another name",
+       {"0|click&object=x&type=A&context=one", "1|keyClick&object=a&type=A&context=two",
+        "2|click&object=a&type=A&context=two"},
+       "waitForContextExists(one) waitForContextExists(two) mouseClick(a)"},
   };
   for (const auto& row : rows) {
     QString calls = recorded(row.messages).remove('"').replace(";\n", " ");

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "support/printing.h"
+#include "support/recordedbrowser.h"
 #include "support/testbrowser.h"
 #include "support/testserver.h"
-#include "webhook/recorder/recordedbrowser.h"
 
 using TestSupport::RecordedBrowser;
 
@@ -26,7 +26,7 @@ protected:
     {
       RecordedBrowser person(true);
       for (const Act& act : acts) {
-        person.show(server.url(QLatin1String(act.page)));
+        EXPECT_EQ(person.show(server.url(QLatin1String(act.page))), QString());
         const QString error = person.act(QString::fromUtf8(act.statements));
         EXPECT_EQ(error, QString()) << act.statements.constData();
         lines << person.recorded().join('\n');
@@ -37,7 +37,7 @@ protected:
     RecordedBrowser script(false);
     for (size_t i = 0; i < acts.size(); ++i) {
       const int at = static_cast<int>(i);
-      script.show(server.url(QLatin1String(acts[i].page)));
+      EXPECT_EQ(script.show(server.url(QLatin1String(acts[i].page))), QString());
       EXPECT_EQ(script.act(lines[at]), QString()) << acts[i].statements.constData() << qPrintable("\n->\n" + lines[at]);
       EXPECT_EQ(script.stateAwaited(states[at]), states[at])
           << acts[i].statements.constData() << qPrintable("\n->\n" + lines[at]);
@@ -55,11 +55,13 @@ TEST_F(Replay, OfTextThatComesWithoutKeysOrGoesWithThem) {
 <input id='pasted'><p id='said'></p>
 <script>addEventListener('keyup', function (e) { if (e.target === pasted) { e.stopImmediatePropagation(); } }, true);</script>)"});
   server.add("/next.html", {R"(<p id='p'></p><input id='more'><script>p.textContent = location.search;</script>)"});
-  server.add("/fields.html", {R"(<input id='first'><input id='fixed' readonly value='x'><input id='old' value='old'>
+  server.add(
+      "/fields.html",
+      {R"(<label for='first'>Name</label><input id='first'><input id='fixed' readonly value='x'><input id='old' value='old'>
 <div id='rich' contenteditable>a</div><input id='day' type='date'><input id='level' type='range' max='9'><input id='yes' type='checkbox'><input id='r1' type='radio' name='r'><input id='r2' type='radio' name='r'>
 <select id='list'><option>one<option>two<option>three</select>
 <button id='b' type='button' onclick='said.textContent += "pressed;"'>Press</button><a id='a' href='#there'>Link</a><p id='said'></p>)"});
-  std::vector<Act> acts = {
+  check({
       {"/form.html", R"(typeText("{tagName='INPUT' id='name'}", "Ada & <Co>"); pressKeys("<Return>");)", "?n=Ada"},
       {"/form.html",
        R"(typeText("{tagName='INPUT' id='city'}", "Rom<Return>"); typeText("{tagName='INPUT' id='more'}", "m");)",
@@ -74,14 +76,34 @@ mouseClick("{tagName='BUTTON'}");)",
 pressKeys("<Tab><Tab><Tab>"); pressKeys("x<Tab>02292024"); mouseClick("{tagName='INPUT' id='level'}");
 pressKeys("<Right><Right><Tab><Space><Tab><Space><Down><Tab><Down><Tab><Space><Space><Tab><Return>");)",
        "pressed;pressed;"},
-  };
-  // Firefox may drop what a page sends while it leaves.
-  if (!TestSupport::isFirefox()) {
-    acts.push_back({"/form.html",
-                    R"(typeText("{tagName='INPUT' id='mid'}", "abc"); waitForObject("{tagName='INPUT' id='more'}");)",
-                    "?abc"});
-  }
-  check(acts);
+      {"/form.html", R"(typeText("{tagName='INPUT' id='mid'}", "abc"); waitForObject("{tagName='INPUT' id='more'}");)",
+       "?abc"},
+      // A label stands for its field, and lies beside it.
+      {"/fields.html", R"(doubleClick("{tagName='LABEL'}"); mouseClick("{tagName='BUTTON'}");)", "pressed;"},
+  });
+}
+
+TEST_F(Replay, OfAnOrderAndOfDialogs) {
+  server.serveFolder(QStringLiteral(CORVEX_TEST_SOURCE "/../examples/shop"), QStringLiteral("/shop/"));
+  server.add("/dialogs.html", {R"(<button id='a' onclick='alert("Hello")'>Alert</button>
+<button id='c' onclick='this.textContent = confirm("Sure?")'>Confirm</button>
+<button id='p' onclick='this.textContent = prompt("Name?", "")'>Prompt</button>
+<button id='i' onclick='n.textContent = 1 + Number(n.textContent)'>Count</button><p id='n'>0</p>)"});
+  check({
+      {"/shop/index.html", R"(typeText("{tagName='INPUT' name='search'}", "o");
+mouseClick("{tagName='INPUT' name='instock'}"); mouseClick("{tagName='BUTTON' id='add-pot'}");
+mouseClick("{tagName='BUTTON' id='add-pot'}"); mouseClick("{tagName='A' name='basket'}");
+typeText("{tagName='INPUT' name='name'}", "Ada & \"Co\" <b>"); typeText("{tagName='INPUT' name='mail'}", "ada@example.com");
+pressKeys("<Tab><Down>"); mouseClick("{tagName='INPUT' value='invoice'}");
+typeText("{tagName='TEXTAREA' name='note'}", "Ring twice.\nThe dog is kind."); mouseClick("{tagName='BUTTON' name='place'}");
+waitForObject("{tagName='P' id='message' simplifiedInnerText?='Thank*'}");)",
+       "98.00"},
+      {"/dialogs.html",
+       R"(mouseClick("{tagName='BUTTON' id='i'}"); mouseClick("{tagName='BUTTON' id='a'}"); closeAlert();
+mouseClick("{tagName='BUTTON' id='c'}"); closeConfirm(true);
+mouseClick("{tagName='BUTTON' id='p'}"); closePrompt("Zoë 100%"); doubleClick("{tagName='BUTTON' id='i'}");)",
+       "true Zoë 100% Count 3"},
+  });
 }
 
 TEST_F(Replay, OfWindowsThatPeopleAndPagesOpenAndClose) {
@@ -111,7 +133,7 @@ TEST_F(Replay, OfFramesAndShadowTrees) {
   server.add("/f/page.html", {R"(<button id='late' onclick='document.body.insertAdjacentHTML("beforeend",
 "<iframe id=i src=inner.html?late></iframe>")'>Late</button><iframe src='inner.html?first'></iframe><x-box></x-box><script>
 var root = document.querySelector('x-box').attachShadow({ mode: 'open' });
-root.innerHTML = "<input id='deep'><button id='b'>Deep</button><p id='said'></p>";
+root.innerHTML = "<input id='deep'><button id='b'>Deep</button><input id='tick' type='checkbox'><select id='list'><option>a<option>b</select><p id='said'></p>";
 root.querySelector('button').onclick = function () { root.querySelector('p').textContent += root.querySelector('input').value; };
 </script>)"});
   server.add("/f/inner.html", {R"(<input id='f'><select id='s'><option>a<option>b</select><input type='checkbox' id='c'>
@@ -125,8 +147,14 @@ selectOption(first + "SELECT' id='s'}", "b"); typeText(first + "INPUT' id='f'}",
 typeText("{context='page.html.FRAME2.FRAME1' tagName='INPUT' id='leaf'}", "leaf<Return>");
 waitForObject("{context='page.html.FRAME2' tagName='BUTTON' simplifiedInnerText='Take'}");
 var box = "{container={tagName='X-BOX'} tagName='";
-typeText(box + "INPUT' id='deep'}", "deep"); mouseClick(box + "BUTTON' id='b'}"); mouseClick(box + "BUTTON' id='b'}");)",
-          "deepdeep"}});
+typeText(box + "INPUT' id='deep'}", "deep"); mouseClick(box + "BUTTON' id='b'}"); mouseClick(box + "BUTTON' id='b'}");
+pressKeys("<Tab><Space><Tab><Down>");)",
+          "deepdeep"},
+         // Frames go after the page that shows them.
+         {"/f/page.html",
+          R"(typeText("{context='page.html.FRAME1' tagName='INPUT' id='f'}", "gone"); reload();
+typeText("{container={tagName='X-BOX'} tagName='INPUT' id='deep'}", "there");)",
+          "there"}});
 }
 
 }  // namespace

@@ -23,6 +23,7 @@
       (e.navigationType === "traverse" || (e.hashChange && e.sourceElement === null));
     mover = isByPerson ? "person" : "page";
     if (!isByPerson && !e.destination.sameDocument && e.downloadRequest === null) {
+      __corvex__tellFieldAtOnce();
       // Firefox would drop it with the page.
       send("leaving", false);
     }

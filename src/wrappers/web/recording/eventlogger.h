@@ -67,6 +67,9 @@ public:
   EventLogger& operator=(const EventLogger&) = delete;
 
 protected:
+  /// Records that the context is waited for, if it is another one than before. Text that was typed comes first.
+  void enterContext(const QString& context);
+
   /// While it is set, only answers of evaluations are taken.
   bool waitingForEvalAnswer = false;
 
@@ -80,8 +83,6 @@ private:
     QTime time;
     QString type;
   };
-
-  void enterContext(const QString& context);
 
   bool lastPressWasSubmit = false;
   std::deque<QString> pendingEvents;

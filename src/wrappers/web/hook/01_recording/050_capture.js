@@ -106,6 +106,13 @@ function __corvex__isRecordedOtherwise(e, o, srcElem) {
     (e.type === "click" && isSpinnerButton);
 }
 
+// A double click on a label counts for its control, which is somewhere else.
+function __corvex__besideItem(e, o, srcElem) {
+  var isBeside = e.type === "dblclick" && !!o &&
+    __corvex__labelledControl(__corvex__findUsableParentElement(srcElem)) === o;
+  return isBeside ? "&beside" : "";
+}
+
 // The items that follow "event="; the empty text for what others record.
 function __corvex__recordedText(e, w, srcElem, o) {
   // An applet is recorded by what hooks its Java side.
@@ -116,7 +123,8 @@ function __corvex__recordedText(e, w, srcElem, o) {
   if (__corvex__isKeyOfComposition(e)) {
     return "";
   }
-  var text = __corvex__eventToStr(e, srcElem, o) + __corvex__tabIdLogEventParameter();
+  var text = __corvex__eventToStr(e, srcElem, o) + __corvex__besideItem(e, o, srcElem) +
+    __corvex__tabIdLogEventParameter();
   if (!o) {
     return text;
   }
@@ -128,6 +136,9 @@ function __corvex__recordedText(e, w, srcElem, o) {
 // Firefox drops the open requests of a page that goes away: before version 68 the page waits until the message is taken. A
 // key must not hold up the next.
 function __corvex__sendsWithoutWaiting(e) {
+  if (__corvex__fields.waits) {
+    return false;
+  }
   return !window.top.__corvex__mozilla || window.top.__corvex.browsermajorversion >= 68 || e.type === "keyup" ||
     e.type === "keydown";
 }

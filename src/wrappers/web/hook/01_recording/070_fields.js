@@ -13,6 +13,8 @@ var __corvex__fields = {
   // The field in which Return was pressed last, until something else changes or is pressed.
   returnField: null,
   isComposing: false,
+  // Whether the page is to wait until a message is taken.
+  waits: false,
   // What the message that is under way has besides.
   items: ""
 };
@@ -116,6 +118,25 @@ function __corvex__tellBeforeLeaving(tell) {
   }
 }
 
+// What a key told a moment ago may be dropped with the page.
+function __corvex__tellChangedField() {
+  var sinceChange = __corvex__natives.milliseconds() - __corvex__fields.changedAt;
+  if (sinceChange < __corvex__fieldRestMs && !__corvex__fields.returnField) {
+    __corvex__fields.isUntold = true;
+  }
+  __corvex__tellField();
+}
+
+// For a page that moves itself: Firefox would drop the message with it.
+function __corvex__tellFieldAtOnce() {
+  __corvex__fields.waits = true;
+  try {
+    __corvex__tellChangedField();
+  } finally {
+    __corvex__fields.waits = false;
+  }
+}
+
 // The page may leave, or empty the field, before the key comes up. Documents of frames tell of keys that go down anyway.
 function __corvex__noteReturn(source) {
   __corvex__tellField();
@@ -129,8 +150,17 @@ function __corvex__noteReturn(source) {
 }
 
 var __corvex__fieldHandlers = {
-  input: function (source) {
-    if (!__corvex__kindOfField(source) || __corvex__kindOfField(source) === "check") {
+  // Shadow trees let this event out, and keep that of a change.
+  input: function (source, e) {
+    var kind = __corvex__kindOfField(source);
+    if (kind === "check" && __corvex__fields.isByKey) {
+      __corvex__sendForField("fieldSet", source, 0, "&checked=" + source.checked);
+    }
+    if (!kind) {
+      // It may be the first that is heard of a list.
+      __corvex__install__handler(e);
+    }
+    if (!kind || kind === "check") {
       return;
     }
     __corvex__noteField(source);
@@ -141,14 +171,12 @@ var __corvex__fieldHandlers = {
   },
   change: function (source, e) {
     var kind = __corvex__kindOfField(source);
-    if (kind === "check" && __corvex__fields.isByKey) {
-      __corvex__sendForField("fieldSet", source, 0, "&checked=" + source.checked);
-    } else if (kind === "value") {
+    if (kind === "value") {
       __corvex__noteField(source);
     } else if (kind === "text") {
       __corvex__tellField();
     }
-    // It may be the first that is heard of a list, or of a field for files.
+    // It may be the first that is heard of a field for files.
     __corvex__install__handler(e);
   },
   keydown: function (source, e) {
@@ -181,13 +209,15 @@ var __corvex__fieldHandlers = {
       __corvex__tellField();
     }
   },
-  // What a key told a moment ago may be dropped with the page.
-  pagehide: function () {
-    var sinceChange = __corvex__natives.milliseconds() - __corvex__fields.changedAt;
-    if (sinceChange < __corvex__fieldRestMs && !__corvex__fields.returnField) {
-      __corvex__fields.isUntold = true;
+  // Frames go after the page that shows them, and are nowhere then.
+  pagehide: function (source) {
+    var field = __corvex__fields.field;
+    var isGone = source === document || (field && __corvex__nodeReader.ownerDocument(field) === source);
+    if (!isGone) {
+      return;
     }
-    __corvex__tellBeforeLeaving(__corvex__tellField);
+    __corvex__tellBeforeLeaving(__corvex__tellChangedField);
+    __corvex__fields.field = null;
   }
 };
 

@@ -59,20 +59,36 @@ var __corvex__actionPoint = (function () {
     return { x: x, y: y };
   }
 
-  function reachAny(o, x, y, many) {
-    __corvex__lastCover = null;
-    if (x !== null) {
-      var box = __corvex__askNode.Element.getBoundingClientRect(o);
-      return reach(o, box.left + x, box.top + y);
-    }
-    var rect = rectOf(o);
-    for (var i = 0; rect && i < (many ? places.length : 1); ++i) {
+  // Somewhere in a rectangle.
+  function reachWithin(o, rect, attempts) {
+    for (var i = 0; rect && i < attempts; ++i) {
       var point = reach(o, rect.left + rect.width * places[i][0], rect.top + rect.height * places[i][1]);
       if (point) {
         return point;
       }
     }
     return null;
+  }
+
+  // Styles like to hide a check box, and show its label in its place.
+  function reachByLabel(o) {
+    var labels = __corvex__nodeReader.tagName(o) === "INPUT" && o.labels;
+    for (var i = 0; labels && i < labels.length; ++i) {
+      var point = reachWithin(o, rectOf(labels[i]), 1);
+      if (point) {
+        return point;
+      }
+    }
+    return null;
+  }
+
+  function reachAny(o, x, y, many) {
+    __corvex__lastCover = null;
+    if (x !== null) {
+      var box = __corvex__askNode.Element.getBoundingClientRect(o);
+      return reach(o, box.left + x, box.top + y);
+    }
+    return reachWithin(o, rectOf(o), many ? places.length : 1) || (many ? reachByLabel(o) : null);
   }
 
   function bringIntoView(o, attempt) {

@@ -17,7 +17,8 @@
         addField(node);
       }
       if (node.shadowRoot) {
-        lines.push("shadow " + node.shadowRoot.textContent.replace(/\s+/g, " "));
+        lines.push("shadow");
+        addText(node.shadowRoot);
         add(node.shadowRoot);
       }
       if (/^I?FRAME$/.test(node.tagName)) {
@@ -29,9 +30,19 @@
       }
     });
   }
+  function addText(root) {
+    var texts = [], node, walker = root.ownerDocument.createTreeWalker(root, 4);
+    while ((node = walker.nextNode())) {
+      var holder = node.parentNode;
+      if (holder.nodeType !== 1 || (holder.getClientRects().length && getComputedStyle(holder).visibility === "visible")) {
+        texts.push(node.data);
+      }
+    }
+    lines.push(texts.join(" ").replace(/\s+/g, " "));
+  }
   function addDocument(doc) {
     lines.push(doc.location.pathname + doc.location.search + doc.location.hash);
-    lines.push(doc.body ? doc.body.innerText.replace(/\s+/g, " ") : "");
+    addText(doc.body || doc);
     add(doc);
   }
   addDocument(document);

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "scripting/engine/scriptengine.h"
+#include "support/testbrowser.h"
 #include "webhook/recorder/actrecorder.h"
 #include "webhook/recorder/recordedcalls.h"
 #include "webhook/recorder/scriptline.h"
@@ -17,15 +18,18 @@ namespace TestSupport {
 /// A browser in which scripts act, with its own input. What happens is recorded if it is to be, with real names.
 class RecordedBrowser {
 public:
-  explicit RecordedBrowser(bool isRecorded);
+  explicit RecordedBrowser(bool isRecorded, const Corvex::Webhook::SessionOptions& options = testBrowser());
   ~RecordedBrowser();
 
   /// Leaves one window, with this page; starts the browser if need be. What was recorded is forgotten.
-  void show(const QString& page);
+  /// Answers what went wrong.
+  QString show(const QString& page);
   /// Runs statements of a script; answers what went wrong.
   QString act(const QString& statements);
   /// The script lines of what happened since `show`.
   QStringList recorded();
+  /// Takes the pointer away from all things.
+  void restPointer();
   /// The content of all windows: addresses, texts, fields.
   QString state();
   /// The same once it is this one, or after a while.

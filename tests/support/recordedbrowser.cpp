@@ -1,12 +1,8 @@
-#include "webhook/recorder/recordedbrowser.h"
-
-#include <gtest/gtest.h>
+#include "support/recordedbrowser.h"
 
 #include "corvexhook/inspector.h"
 #include "shared/wait.h"
 #include "support/files.h"
-#include "support/printing.h"
-#include "support/testbrowser.h"
 #include "webhook/run/browserfunctions.h"
 
 using namespace Corvex;
@@ -26,7 +22,7 @@ const QString endOfMessages = QStringLiteral(
     "send(); __corvex__tellBeforeLeaving(send); 0");
 
 QString textOfFile(const char* name) {
-  return QString::fromUtf8(readFile(QStringLiteral(CORVEX_TEST_FOLDER "/recorder/") + QLatin1String(name)));
+  return QString::fromUtf8(readFile(QStringLiteral(CORVEX_TEST_SOURCE "/support/") + QLatin1String(name)));
 }
 
 }  // namespace
@@ -37,7 +33,7 @@ void RecordedBrowser::Logger::logEvent(const QString& text) {
   ActRecorder::logEvent(text);
 }
 
-RecordedBrowser::RecordedBrowser(bool isRecorded) : m_control(testBrowser()) {
+RecordedBrowser::RecordedBrowser(bool isRecorded, const SessionOptions& options) : m_control(options) {
   qputenv("CORVEX_PREFIX", CORVEX_TEST_PREFIX);
   if (isRecorded) {
     Inspector::self()->attachRecorder(&m_calls);
@@ -52,7 +48,7 @@ RecordedBrowser::~RecordedBrowser() {
   Inspector::self()->attachRecorder(nullptr);
 }
 
-void RecordedBrowser::show(const QString& page) {
+QString RecordedBrowser::show(const QString& page) {
   QString error;
   if (!m_control.windows()) {
     error = m_control.startBrowser(page);
@@ -66,9 +62,9 @@ void RecordedBrowser::show(const QString& page) {
     }
     error = m_control.openUrl(page);
   }
-  EXPECT_EQ(error, QString());
   awaitMessages();
   m_lines.lines.clear();
+  return error;
 }
 
 QString RecordedBrowser::act(const QString& statements) {
@@ -97,6 +93,12 @@ void RecordedBrowser::awaitMessages() {
 QStringList RecordedBrowser::recorded() {
   awaitMessages();
   return m_lines.lines;
+}
+
+void RecordedBrowser::restPointer() {
+  for (Connection* window : m_control.windows()->connections()) {
+    window->perform({InputStep()});
+  }
 }
 
 QString RecordedBrowser::state() {
