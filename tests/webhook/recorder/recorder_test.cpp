@@ -88,6 +88,8 @@ TEST_F(Recording, ACallIsOneReadableLine) {
       {{"typeText", ":a", texts(QString("a\n\t\r\u00e4\u2028\u202e") + QChar(0) + QString::fromUtf8("\U0001F600"))},
        u8"typeText(\":a\", \"a\\n\\t\\r\u00e4\\u2028\\u202e\\u0000\U0001F600\");"},
       {{"setText", ":f", texts("C:\\fakepath\\a b.png")}, "setText(\":f\", scriptPath(\"a b.png\"));"},
+      {{"setText", ":f", texts("C:\\fakepath\\../../a")}, "setText(\":f\", scriptPath(\"a\"));"},
+      {{"//", "", texts("1\nrun();\u2028run();")}, "// 1\\nrun();\\u2028run();"},
       {{"startBrowser", "http://h/\n", {}}, "startBrowser(\"http://h/\\n\");"},
       {{"waitForContextExists", "a.html<2>", {}}, "waitForContextExists(\"a.html<2>\");"},
       {{"closeWindow", "[Window]", {}}, "closeWindow();"},
