@@ -83,6 +83,9 @@ TEST_F(Record, RefusesWhatItCannotWriteBeforeTheBrowserStarts) {
   } rows[] = {
       {{"page.html", "-o", "no/s.js"}, "The file 'no/s.js' cannot be written: No such file or directory."},
       {{"page.html", "--object-map", "bad.tsv"}, "bad.tsv:1: expected a symbolic name"},
+      {{"page.html", "-o", "/dev/full"}, "The file '/dev/full' cannot be written: it is no regular file."},
+      {{"page.html", "-o", "./page.html"}, "The recording would take the place of the page: give it another file"},
+      {{"page.html", "-o", "a", "--object-map", "./a"}, "The script and the object map need a file each"},
       {{"page.html", "--append"}, "--append needs a script to add to: give it with -o."},
       {{"page.html", "-o", ""}, "--output needs the name of a file."},
       {{}, "The URL of the first page is missing."},
@@ -95,6 +98,7 @@ TEST_F(Record, RefusesWhatItCannotWriteBeforeTheBrowserStarts) {
     EXPECT_TRUE(result.errors.contains(row.complaint)) << qPrintable(result.errors);
     EXPECT_EQ(result.output, QString());
   }
+  EXPECT_EQ(textOf("page.html"), QString(page));
 }
 
 TEST_F(Record, KeepsAnOldScriptWhereThePageCannotBeLoaded) {

@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QUrl>
 
 #include <atomic>
 #include <limits>
@@ -46,6 +47,28 @@ struct RecordOptions {
   QString address;
 };
 
+bool isSameFile(const QString& one, const QString& other) {
+  return !one.isEmpty() && !other.isEmpty() &&
+         (QFileInfo::exists(one) ? QFileInfo(one) == QFileInfo(other)
+                                 : QFileInfo(one).absoluteFilePath() == QFileInfo(other).absoluteFilePath());
+}
+
+/// A file that is the page is read again whenever the page is loaded.
+QString whyNotWritable(const RecordOptions& options) {
+  const QUrl address(options.address);
+  const QString page = address.isLocalFile() ? address.toLocalFile() : options.address;
+  for (const QString& file : {options.files.script, options.files.objectMap}) {
+    if (isSameFile(file, page)) {
+      return QStringLiteral("The recording would take the place of the page: give it another file than '%1'.")
+          .arg(file);
+    }
+  }
+  return isSameFile(options.files.script, options.files.objectMap)
+             ? QStringLiteral("The script and the object map need a file each, not '%1' for both.")
+                   .arg(options.files.script)
+             : QString();
+}
+
 /// An error, or an empty text.
 QString readOptions(const QCommandLineParser& parser, RecordOptions* options) {
   const QString error = readBrowserOptions(parser, &options->session);
@@ -75,7 +98,7 @@ QString readOptions(const QCommandLineParser& parser, RecordOptions* options) {
     return QStringLiteral("--append needs a script to add to: give it with -o.");
   }
   options->address = addresses.first();
-  return QString();
+  return whyNotWritable(*options);
 }
 
 /// As the script is to give it, from whose folder files are looked for.

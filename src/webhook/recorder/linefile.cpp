@@ -1,15 +1,28 @@
 #include "webhook/recorder/linefile.h"
 
-#include <utility>
+#include <QFileInfo>
 
 namespace Corvex::Webhook {
+
+LineFile::~LineFile() {
+  if (m_isNew && m_file.size() == 0) {
+    m_file.remove();
+  }
+}
 
 QString LineFile::open(const QString& path, Mode mode) {
   m_begins.clear();
   m_file.setFileName(path);
-  if (!m_file.open(QIODevice::ReadWrite)) {
+  const QFileInfo file(path);
+  if (file.exists() && !file.isFile() && !file.isDir()) {
+    return QStringLiteral("The file '%1' cannot be written: it is no regular file.").arg(path);
+  }
+  const bool isNew = !file.exists();
+  // What a buffer could not write would be tried again, and stand in the file later.
+  if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) {
     return failure("cannot be written");
   }
+  m_isNew = isNew;
   m_replaces = mode == Replace;
   if (m_replaces) {
     return QString();
@@ -20,18 +33,25 @@ QString LineFile::open(const QString& path, Mode mode) {
     m_file.getChar(&last);
   }
   m_file.seek(size);
-  return last == '\n' || (m_file.putChar('\n') && m_file.flush()) ? QString() : failure("cannot be written");
+  return last == '\n' || m_file.putChar('\n') ? QString() : failure("cannot be written");
 }
 
 QString LineFile::write(const QString& line) {
-  if (std::exchange(m_replaces, false) && !m_file.resize(0)) {
-    return failure("could not be replaced");
-  }
-  const qint64 begin = m_file.pos();
   const QByteArray bytes = line.toUtf8() + '\n';
-  if (m_file.write(bytes) != bytes.size() || !m_file.flush()) {
-    return failure("could not be written to");
+  const qint64 size = m_file.size();
+  const qint64 begin = m_replaces ? 0 : m_file.pos();
+  m_file.seek(begin);
+  const QByteArray before = m_file.read(bytes.size());
+  m_file.seek(begin);
+  if (m_file.write(bytes) != bytes.size() || !m_file.resize(begin + bytes.size())) {
+    const QString error = failure("could not be written to");
+    m_file.seek(begin);
+    m_file.write(before);
+    m_file.resize(size);
+    m_file.seek(begin);
+    return error;
   }
+  m_replaces = false;
   m_begins.push_back(begin);
   return QString();
 }

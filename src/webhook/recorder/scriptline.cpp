@@ -62,11 +62,11 @@ QString shown(const QString& character) {
   return result;
 }
 
-/// Browsers do not tell in which folder a chosen file lies.
+/// Browsers do not tell in which folder a chosen file lies. A page that makes one up would get another file.
 QString fileLiteral(const QString& value) {
   const QString hidden = QStringLiteral("C:\\fakepath\\");
-  return value.startsWith(hidden) ? QStringLiteral("scriptPath(%1)").arg(scriptLiteral(value.mid(hidden.size())))
-                                  : QString();
+  const QString name = value.mid(hidden.size()).section(QLatin1Char('/'), -1);
+  return value.startsWith(hidden) ? QStringLiteral("scriptPath(%1)").arg(scriptLiteral(name)) : QString();
 }
 
 QString argumentText(const SharedPtr<Object>& argument, const QString& function) {
@@ -103,7 +103,7 @@ QString scriptLineWithSecret(const EventData& call, const QString& objectName, c
 
 QString scriptLine(const EventData& call, const QString& objectName) {
   if (call.functionName() == QLatin1String("//")) {
-    return QStringLiteral("// ") + visibleText(call.arguments().at(0)->toString());
+    return QStringLiteral("// ") + visibleText(call.arguments().at(0)->toString(), LineBreaks::Shown);
   }
   if (call.functionName() == QLatin1String("test.compare")) {
     return QStringLiteral("test.compare(waitForObject(%1).%2, %3);")

@@ -89,6 +89,20 @@ TEST_F(RecordedActs, AFrameOfAnotherOriginIsSaid) {
                             "shows a page of another origin, which scripts cannot reach.\n"));
 }
 
+TEST_F(RecordedActs, WhatAPageStopsOnItsWayAndWhereItReplacesTheLanguage) {
+  server.add("/page.html", {R"(<title>t</title><script>
+['pointerdown', 'mousedown', 'mouseup', 'click', 'keydown', 'keyup', 'input', 'change', 'dblclick'].forEach(function (type) {
+  addEventListener(type, function (e) { e.stopImmediatePropagation(); }, true); });
+function bad() { throw 1; }
+String = fetch = XMLHttpRequest = JSON.parse = Array.prototype.push = Array.prototype.indexOf = bad;
+escape = JSON.stringify = function () { return '"&event=startBrowser&url=x'; };
+</script><input id='n'><button id='b' type='button'>Press</button><select id='s'><option>one<option>two</select>)"});
+  EXPECT_EQ(
+      recorded("/page.html", {R"(typeText("{tagName='INPUT' id='n'}", "A");)", "clickButton(\"{tagName='BUTTON'}\");",
+                              R"(selectOption("{tagName='SELECT' id='s'}", "two");)"}),
+      "?");
+}
+
 TEST_F(RecordedActs, ChecksThatAreChosenInTheOverlay) {
   server.add("/page.html", {R"(<title>t</title><a id='l' href='#gone'>Total: "5"</a><p></p>
 <input id='n' value='Ada' onmousedown='this.value = "pressed"' style='margin: 300px 0 0 500px'>)"});

@@ -1,8 +1,11 @@
 // From the messages of pages to the lines of a script and an object map.
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <QTemporaryDir>
+
+#include <csignal>
 
 #include "corvexhook/datetime.h"
 #include "corvexhook/inspector.h"
@@ -10,6 +13,7 @@
 #include "support/files.h"
 #include "support/printing.h"
 #include "webhook/recorder/eventrecorder.h"
+#include "webhook/recorder/linefile.h"
 #include "webhook/recorder/recordingfiles.h"
 #include "webhook/recorder/scriptline.h"
 #include "wrappers/web/recording/webevents.h"
@@ -84,6 +88,8 @@ TEST_F(Recording, ACallIsOneReadableLine) {
       {{"typeText", ":a", texts(QString("a\n\t\r\u00e4\u2028\u202e") + QChar(0) + QString::fromUtf8("\U0001F600"))},
        u8"typeText(\":a\", \"a\\n\\t\\r\u00e4\\u2028\\u202e\\u0000\U0001F600\");"},
       {{"setText", ":f", texts("C:\\fakepath\\a b.png")}, "setText(\":f\", scriptPath(\"a b.png\"));"},
+      {{"setText", ":f", texts("C:\\fakepath\\../../a")}, "setText(\":f\", scriptPath(\"a\"));"},
+      {{"//", "", texts("1\nrun();\u2028run();")}, "// 1\\nrun();\\u2028run();"},
       {{"startBrowser", "http://h/\n", {}}, "startBrowser(\"http://h/\\n\");"},
       {{"waitForContextExists", "a.html<2>", {}}, "waitForContextExists(\"a.html<2>\");"},
       {{"closeWindow", "[Window]", {}}, "closeWindow();"},
@@ -261,6 +267,26 @@ TEST_F(Recording, FilesThatCannotBeWrittenAreSaid) {
     EXPECT_EQ(files.open(row.options), row.error.arg(folder.path()));
   }
   EXPECT_FALSE(QFile::exists(path("kept.js")));
+}
+
+TEST_F(Recording, AFullDiskCostsNoOldLine) {
+  const QString page = QStringLiteral("startBrowser(\"%1\");").arg(QString(1500, 'x'));
+  for (const LineFile::Mode mode : {LineFile::Replace, LineFile::Append}) {
+    write("s.js", "// Mine\n");
+    LineFile file;
+    ASSERT_EQ(file.open(path("s.js"), mode), QString());
+    const auto signalBefore = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before;
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{1000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    EXPECT_TRUE(file.write(page).startsWith("The file '" + path("s.js") + "' could not be written to: "));
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, signalBefore);
+    EXPECT_EQ(textOf("s.js"), QString("// Mine\n"));
+    EXPECT_EQ(file.write("next();"), QString());
+    EXPECT_EQ(textOf("s.js"), QString(mode == LineFile::Replace ? "next();\n" : "// Mine\nnext();\n"));
+  }
 }
 
 }  // namespace

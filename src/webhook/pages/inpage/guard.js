@@ -2,6 +2,6 @@
 // Needs: nothing; a document that is not hooked has no number.
 {
   let JSON = window.__corvex && window.__corvex.JSON || window.JSON;
-  if (String((window.__corvex || {}).documentNumber) !== "%1") throw new Error("%2");
+  if (("" + (window.__corvex || {}).documentNumber) !== "%1") throw new Error("%2");
   /*%3*/
 }

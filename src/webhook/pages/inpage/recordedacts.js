@@ -118,6 +118,19 @@
 
   var rows = [["contextmenu", noteMenu], ["dragstart", noteDragStart], ["drop", noteDrop],
     ["mousedown", notePress], ["mouseup", noteRelease]];
+  // Pages stop events at the window, where no document gets them.
+  function take(e) {
+    __corvex__handleOnce(e, this === window ? undefined : this.document);
+  }
+
+  function takeChange(e) {
+    var source = __corvex__srcElement(e);
+    if (source.__corvex__onchange === true) {
+      __corvex__handleOnce(e, source);
+    }
+  }
+
+  rows.push(["keyup", take], ["mousedown", take], ["click", take], ["dblclick", take], ["change", takeChange]);
   for (var i = 0; i < rows.length; ++i) {
     rows[i][1] = __corvex__quiet(rows[i][1]);
   }

@@ -22,9 +22,21 @@ function __corvex__listenerRows(handledTypes, installTypes, handler, attached) {
   return rows;
 }
 
+// An event may meet several listeners of ours, as pages stop some on the way. Whichever is first takes it.
+var __corvex__handleOnce = (function () {
+  var taken = null;
+  return function (e, d) {
+    if (e && e === taken) {
+      return undefined;
+    }
+    taken = e;
+    return __corvex__handler(e, d);
+  };
+})();
+
 var __corvex__ownListeners = (function () {
   var handler = __corvex__quiet(function (e) {
-    return __corvex__handler(e);
+    return __corvex__handleOnce(e);
   });
   return __corvex__listenerRows(["keyup", "mousedown", "click", "dblclick"], ["keydown", "focus"], handler, handler);
 })();
@@ -33,7 +45,7 @@ var __corvex__frameListeners = __corvex__listenerRows(
   ["keyup", "mousedown", "click", "dblclick", "keydown"],
   ["focus"],
   __corvex__quiet(function (e) {
-    return __corvex__handler(e, this);
+    return __corvex__handleOnce(e, this);
   }),
   __corvex__quiet(function () {
     return __corvex__handler(undefined, this);
@@ -85,7 +97,7 @@ function __corvex__listenInOwnDocument() {
 function __corvex__addChangeListener(control) {
   if (control.addEventListener) {
     control.addEventListener("change", __corvex__quiet(function (e) {
-      __corvex__handler(e, this);
+      __corvex__handleOnce(e, this);
     }), true);
   } else if (control.type === "file") {
     control.attachEvent("onchange", __corvex__quiet(function () {
