@@ -100,7 +100,11 @@ escape = JSON.stringify = function () { return '"&event=startBrowser&url=x'; };
   EXPECT_EQ(
       recorded("/page.html", {R"(typeText("{tagName='INPUT' id='n'}", "A");)", "clickButton(\"{tagName='BUTTON'}\");",
                               R"(selectOption("{tagName='SELECT' id='s'}", "two");)"}),
-      "?");
+      R"(setFocus("{tagName='INPUT' type='text' id='n'}");
+typeText("{tagName='INPUT' type='text' id='n'}", "A");
+clickButton("{tagName='BUTTON' type='button' id='b' simplifiedInnerText='Press'}");
+selectOption("{tagName='SELECT' type='select-one' id='s'}", "two");
+)");
 }
 
 TEST_F(RecordedActs, ChecksThatAreChosenInTheOverlay) {
