@@ -8,7 +8,6 @@
 
 #include <QFileInfo>
 #include <QLocale>
-#include <QSaveFile>
 
 namespace Corvex::Webhook {
 
@@ -35,13 +34,6 @@ QStringList readProperties(const QCommandLineParser& parser) {
     properties << name.trimmed();
   }
   return parser.isSet(filterOption) ? properties : usualProperties();
-}
-
-/// Answers why not, or an empty text.
-QString write(const QString& path, const QByteArray& bytes) {
-  QSaveFile file(path);
-  const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-  return isWritten ? QString() : QStringLiteral("The file '%1' cannot be written: %2.").arg(path, file.errorString());
 }
 
 /// Before the browser starts: a long wait for nothing is worse.
@@ -78,15 +70,15 @@ int dumpCommand(const QStringList& arguments) {
   if (!lost.isEmpty() || dump.objects.isEmpty()) {
     return command.fail(lost.isEmpty() ? dump.error : lost);
   }
-  const QByteArray bytes = dumpAs(dumpFormatOf(path), dump);
-  const QString error = write(path, bytes);
+  const QString error = saveDump(dump, path);
   if (!error.isEmpty()) {
     return command.fail(error);
   }
-  const int exitCode = printOut(QStringLiteral("%1: %2 objects, %3\n")
-                                    .arg(path, QString::number(dump.objects.size()),
-                                         QLocale::c().formattedDataSize(bytes.size(), 1, QLocale::DataSizeSIFormat)),
-                                ExitCode::Success);
+  const int exitCode =
+      printOut(QStringLiteral("%1: %2 objects, %3\n")
+                   .arg(path, QString::number(dump.objects.size()),
+                        QLocale::c().formattedDataSize(QFileInfo(path).size(), 1, QLocale::DataSizeSIFormat)),
+               ExitCode::Success);
   return dump.error.isEmpty() ? exitCode : command.fail(dump.error);
 }
 

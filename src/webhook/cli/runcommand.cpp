@@ -11,6 +11,7 @@
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
 #include "webhook/cli/output.h"
+#include "webhook/cli/savetree.h"
 #include "webhook/cli/scriptchoice.h"
 #include "webhook/run/browsercontrol.h"
 #include "webhook/run/browserfunctions.h"
@@ -168,6 +169,7 @@ int runScripts(const RunOptions& options) {
   }
   Inspector::self()->setDefaultTimeout(options.session.defaultTimeoutMs);
   ScriptHost host = browserFunctions(browser);
+  host.functions.push_back(saveTreeFunction(browser));
   host.arguments = options.arguments;
   ScriptEngine engine(host, &listeners);
   engine.setScriptTimeout(options.scriptTimeoutMs);

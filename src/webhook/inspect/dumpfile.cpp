@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSaveFile>
 #include <QXmlStreamWriter>
 
 namespace Corvex::Webhook {
@@ -118,6 +119,13 @@ QByteArray dumpAsXml(const PageDump& dump) {
 
 QByteArray dumpAs(DumpFormat format, const PageDump& dump) {
   return format == DumpFormat::Json ? dumpAsJson(dump) : format == DumpFormat::Xml ? dumpAsXml(dump) : dumpAsHtml(dump);
+}
+
+QString saveDump(const PageDump& dump, const QString& path) {
+  const QByteArray bytes = dumpAs(dumpFormatOf(path), dump);
+  QSaveFile file(path);
+  const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+  return isWritten ? QString() : QStringLiteral("The file '%1' cannot be written: %2.").arg(path, file.errorString());
 }
 
 }  // namespace Corvex::Webhook

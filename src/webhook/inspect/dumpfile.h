@@ -23,4 +23,8 @@ QByteArray dumpAsXml(const PageDump& dump);
 
 QByteArray dumpAs(DumpFormat format, const PageDump& dump);
 
+/// In the format of the file's ending. A file that is there already is replaced once the new one is complete. Answers
+/// why not, or an empty text.
+QString saveDump(const PageDump& dump, const QString& path);
+
 }  // namespace Corvex::Webhook

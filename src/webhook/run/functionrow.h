@@ -19,7 +19,7 @@ struct FunctionRow {
   int traits = 0;
 };
 
-/// `control` outlives the function.
+/// The row and `control` outlive the function.
 Scripting::ScriptFunction scriptFunctionOf(const FunctionRow& row, BrowserControl& control);
 
 template <std::size_t Count>

@@ -125,6 +125,15 @@ declare function takeScreenshot(file: string): void;
 declare function takeScreenshot(object: ObjectOrName, file: string): void;
 
 /**
+ * Writes the page as one file that opens offline: its picture, and its objects with names, places and properties, as
+ * `corvexweb dump` does.
+ * @param file The file, which ends in `.html`, `.json` or `.xml`. A relative path starts at the script.
+ * @example
+ * saveTree("page.html");
+ */
+declare function saveTree(file: string): void;
+
+/**
  * The value of code in the page's own scope: texts, numbers, true, false and null as they are, anything structured but a
  * function as a `JsObject`. What the page throws is the error.
  * @param code JavaScript of the page.
