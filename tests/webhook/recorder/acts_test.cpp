@@ -146,7 +146,7 @@ clickButton("{tagName='BUTTON' id='b'}"); seen(3); selectOption("{tagName='SELEC
 
 TEST_F(RecordedActs, ChecksThatAreChosenInTheOverlay) {
   server.add("/page.html", {R"(<title>t</title><a id='l' href='#gone'>Total: "5"</a><p></p>
-<input id='n' value='A' onmousedown='this.value = "pressed"' style='margin: 300px 0 0 500px'>)"});
+<input id='n' value='Ada' onmousedown='this.value = "pressed"' style='margin: 300px 0 0 500px'>)"});
   EXPECT_EQ(recorded("/page.html", R"(mouseClick("{tagName='A'}", 4, 4, 3);
 mouseClick("{tagName='BUTTON' simplifiedInnerText='Check text'}"); seen(1);
 mouseClick("{tagName='A'}", 4, 4, 3); mouseClick("{tagName='BUTTON' simplifiedInnerText='Check visible'}"); seen(2);

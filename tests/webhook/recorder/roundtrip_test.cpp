@@ -110,6 +110,7 @@ TEST_F(RoundTrip, OfDialogsAndADoubleClick) {
   server.add("/page.html", {R"(<button id='a' onclick='alert("Hello")'>Alert</button>
 <button id='c' onclick='this.textContent = confirm("Sure?")'>Confirm</button>
 <button id='p' onclick='this.textContent = prompt("Name?", "")'>Prompt</button>
+<button id='q' onclick='this.textContent = prompt("Again?", "yes") || "none"'>Again</button>
 <button id='i' onclick='n.textContent = 1 + Number(n.textContent)'>Count</button><p id='n'>0</p>)"});
   const QString page = server.url("/page.html");
   const QString actions = R"(
@@ -120,13 +121,45 @@ mouseClick("{tagName='BUTTON' id='c'}");
 closeConfirm(true);
 mouseClick("{tagName='BUTTON' id='p'}");
 closePrompt("Zoë 100%");
+mouseClick("{tagName='BUTTON' id='q'}");
+closePrompt(null);
 doubleClick("{tagName='BUTTON' id='i'}");)";
   const QString checks = R"(
 waitForValue("{tagName='P' id='n'}", "innerText", "3");
 test.compare(findObject("{tagName='BUTTON' id='c'}").innerText, "true");
-test.compare(findObject("{tagName='BUTTON' id='p'}").innerText, "Zoë 100%");)";
+test.compare(findObject("{tagName='BUTTON' id='p'}").innerText, "Zoë 100%");
+test.compare(findObject("{tagName='BUTTON' id='q'}").innerText, "none");)";
   record(page, actions, "doubleClick(\":Count\"", checks);
+  EXPECT_TRUE(script().contains("clickButton(\":Again\");\nclosePrompt(null);\n")) << qPrintable(script());
   replay(checks);
+}
+
+TEST_F(RoundTrip, OfMenusThatOpenUnderThePointer) {
+  server.add("/page.html", {R"(<style>li ul, #late { display: none } li:hover > ul { display: block }</style>
+<button id='b'>Open</button><i id='late' onclick='1'>Late</i><ul><li><a href='#m'>Menu</a><ul><li><a href='#s'>More</a>
+<ul><li><a id='deep' href='#deep'>Deep</a></ul></ul></ul><p id='p' onclick='1'>Somewhere</p><script>
+b.onmouseenter = function () { setTimeout(function () { late.style.display = 'inline'; }, 100); };
+</script>)"});
+  // A person lets a page rest between a press and the next.
+  const QString actions = R"(
+function press(name) {
+  mouseClick(name);
+  var end = Date.now() + 600;
+  waitFor(function () { return Date.now() > end; });
+}
+press("{tagName='P' id='p'}");
+hover("{tagName='A' simplifiedInnerText='Menu'}");
+hover("{tagName='A' simplifiedInnerText='More'}");
+press("{tagName='A' id='deep'}");
+press("{tagName='P' id='p'}");
+hover("{tagName='BUTTON' id='b'}");
+mouseClick("{tagName='I' id='late'}");)";
+  record(server.url("/page.html"), actions, "mouseClick(\":late\"", QString());
+  for (const char* lines : {"hover(\":Menu\");\nhover(\":More\");\nmouseClick(\":Deep\");\nmouseClick(\":p\"",
+                            "hover(\":Open\");\nmouseClick(\":late\""}) {
+    EXPECT_TRUE(script().contains(lines)) << qPrintable(script());
+  }
+  replay("test.verify(currentUrl().indexOf('#deep') > 0);");
 }
 
 }  // namespace
