@@ -103,18 +103,18 @@ TEST_F(RecordedActs, MovesOfAPersonAndNotThoseOfPages) {
 
 TEST_F(RecordedActs, MenusDragsAndWhatIsKnownToThePageAlone) {
   server.add("/page.html",
-             {R"(<title>t</title><style>div, canvas { position: absolute; width: 80px; height: 40px }</style>
+             {R"(<title>t</title><style>div, li, canvas { position: absolute; width: 80px; height: 40px }</style>
 <div id='menu' onclick='1' oncontextmenu='return false'>Menu</div>
 <div id='own' draggable='true' onclick='1' style='left: 100px'>Own</div>
 <div id='tray' ondragover='event.preventDefault()' ondrop='event.preventDefault()' style='left: 200px'>Tray</div>
-<div id='moved' onclick='1' style='top: 100px; left: 10px'
+<li id='moved' onclick='1' style='top: 100px; left: 10px'
   onmousedown='event.preventDefault(); document.onmousemove = function (e) { moved.style.left = e.clientX - 20 + "px"; }'
-  onmouseup='document.onmousemove = null'>Moved</div>
+  onmouseup='document.onmousemove = null'>Moved</li>
 <div id='box' style='top: 100px; left: 300px'>Box</div><canvas id='c' style='top: 200px'></canvas>)"});
   EXPECT_EQ(
       recorded("/page.html", R"(openContextMenu("{tagName='DIV' id='menu'}", 5, 6); seen(1);
 dragTo("{tagName='DIV' id='own'}", "{tagName='DIV' id='tray'}"); seen(2);
-dragTo("{tagName='DIV' id='moved'}", "{tagName='DIV' id='box'}"); seen(3);
+dragTo("{tagName='LI' id='moved'}", "{tagName='DIV' id='box'}"); seen(3);
 mouseClick("{tagName='CANVAS' id='c'}"); seen(5);)"),
       "openContextMenu(\":menu\", 5, 6);\ndragTo(\":own\", \":tray\");\ndragTo(\":moved\", \":box\");\n"
       "// A press on the canvas {visible='true' tagName='CANVAS' id='c'} is recorded by its place at most: what is "

@@ -87,12 +87,17 @@
     return null;
   }
 
+  // What is dragged there is its own knob, or marks its text.
+  function isField(object) {
+    return /^(INPUT|TEXTAREA|SELECT)$/.test(__corvex__nodeReader.tagName(object));
+  }
+
   // Pages that move objects by the pointer's events prevent what the browser would do, such as selecting text.
   function noteRelease(e) {
     var from = pressed;
     pressed = null;
     if (!from || dragged || Math.abs(e.clientX - from.x) + Math.abs(e.clientY - from.y) < dragDistance ||
-        String(window.getSelection()) || "value" in from.object) {
+        String(window.getSelection()) || isField(from.object)) {
       return;
     }
     var to = targetOf(e, from.object);
