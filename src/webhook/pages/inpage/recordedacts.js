@@ -87,6 +87,28 @@
     return null;
   }
 
+  // A list that makes room for what is dragged moves the object that stood there towards where the drag began.
+  function siblingPassed(e, from) {
+    var nearest = null;
+    var least = Infinity;
+    var node = __corvex__nodeReader.firstChild(__corvex__nodeReader.parentNode(from.object));
+    for (; node; node = __corvex__nodeReader.nextSibling(node)) {
+      if (node === from.object || __corvex__nodeReader.tagName(node) !== __corvex__nodeReader.tagName(from.object)) {
+        continue;
+      }
+      var box = __corvex__askNode.Element.getBoundingClientRect(node);
+      var x = (box.left + box.right) / 2 - e.clientX;
+      var y = (box.top + box.bottom) / 2 - e.clientY;
+      var distance = Math.abs(x) + Math.abs(y);
+      if (distance < least && x * (from.x - e.clientX) + y * (from.y - e.clientY) > 0 &&
+          __corvex__isVisible(node) && distance < 2 * (box.width + box.height)) {
+        nearest = node;
+        least = distance;
+      }
+    }
+    return nearest && __corvex__eventObject(nearest);
+  }
+
   // What is dragged there is its own knob, or marks its text.
   function isField(object) {
     return /^(INPUT|TEXTAREA|SELECT)$/.test(__corvex__nodeReader.tagName(object));
@@ -100,7 +122,7 @@
         String(window.getSelection()) || isField(from.object)) {
       return;
     }
-    var to = targetOf(e, from.object);
+    var to = targetOf(e, from.object) || siblingPassed(e, from);
     if (to) {
       sendDrag(e, from, to);
     } else {
