@@ -146,15 +146,19 @@ clickButton("{tagName='BUTTON' id='b'}"); seen(3); selectOption("{tagName='SELEC
 
 TEST_F(RecordedActs, ChecksThatAreChosenInTheOverlay) {
   server.add("/page.html", {R"(<title>t</title><a id='l' href='#gone'>Total: "5"</a><p></p>
-<input id='n' value='Ada' onmousedown='this.value = "pressed"' style='margin: 300px 0 0 500px'>)"});
+<input id='n' value='Ada' onmousedown='this.value = "pressed"' style='margin: 300px 0 0 500px'>
+<iframe id='f' style='margin-left: 300px' srcdoc='<p>Inside</p>'></iframe>)"});
   EXPECT_EQ(recorded("/page.html", R"(mouseClick("{tagName='A'}", 4, 4, 3);
 mouseClick("{tagName='BUTTON' simplifiedInnerText='Check text'}"); seen(1);
 mouseClick("{tagName='A'}", 4, 4, 3); mouseClick("{tagName='BUTTON' simplifiedInnerText='Check visible'}"); seen(2);
 mouseClick("{tagName='INPUT' id='n'}", 4, 4, 3); mouseClick("{tagName='BUTTON' simplifiedInnerText='Check value'}"); seen(3);
+setContext("page.html.FRAME1"); mouseClick("{tagName='P'}", 4, 4, 3); setContext("page.html");
+mouseClick("{tagName='BUTTON' simplifiedInnerText='Check text'}"); seen(4);
 test.verify(currentUrl().indexOf("gone") < 0);)"),
             "test.compare(waitForObject(\":Total: \\\"5\\\"\").simplifiedInnerText, \"Total: \\\"5\\\"\");\n"
             "test.compare(waitForObject(\":Total: \\\"5\\\"\").visible, true);\n"
-            "test.compare(waitForObject(\":n\").value, \"Ada\");\n");
+            "test.compare(waitForObject(\":n\").value, \"Ada\");\n"
+            "test.compare(waitForObject(\":P1\").simplifiedInnerText, \"Inside\");\n");
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // Gives: while the page is recorded, what a person does there besides presses and keys: context menus that the page shows
 // itself, drags, presses that cannot be recorded, and the checks that are chosen in the overlay.
-// Needs: the hook script.
+// Needs: the hook script, recordedchecks.
 (function () {
   // So far the pointer goes before a press is a drag, in CSS pixels.
   var dragDistance = 12;
@@ -167,8 +167,9 @@
     }
   })]);
 
-  // One listener stays one, however often it is added.
+  // One listener stays one, however often it is added. What opens the overlay is nothing else.
   function listen(w) {
+    window.__corvex__listenForChecks(w);
     for (var j = 0; j < rows.length; ++j) {
       w.addEventListener(rows[j][0], rows[j][1], true);
     }
