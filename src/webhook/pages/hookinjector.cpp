@@ -112,9 +112,10 @@ QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
          globals(config, browser) + WebWrapper::getCorvexJsNamespaceInitCode() + QLatin1Char('\n') +
          members(config, browser) + inPageText("ownjson.js") + hookScript(config) + dialogs +
          inPageText("fallback.js") +
-         (browser.isRecorded ? inPageText("recordedwindow.js") + inPageText("recordedmoves.js") +
-                                   inPageText("recordedchecks.js") + inPageText("recordedacts.js")
-                             : QString()) +
+         (browser.isRecorded
+              ? inPageText("recordedwindow.js") + inPageText("recordedmoves.js") + inPageText("recordedchecks.js") +
+                    inPageText("recordeddialogs.js") + inPageText("recordedhovers.js") + inPageText("recordedacts.js")
+              : QString()) +
          QStringLiteral("\n}");
 }
 

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+#include <utility>
+
 namespace Corvex::Webhook {
 
 namespace {
@@ -50,9 +52,13 @@ const ActRecorder::Row ActRecorder::rows[] = {
     {"leaving", &ActRecorder::takeLeaving},       {"arrived", &ActRecorder::takeArrived},
     {"contextmenu", &ActRecorder::takeMenu},      {"drag", &ActRecorder::takeDrag},
     {"unrecorded", &ActRecorder::takeUnrecorded}, {"check", &ActRecorder::takeCheck},
+    {"hover", &ActRecorder::takeHover},           {"promptCancelled", &ActRecorder::takeCancelledPrompt},
 };
 
 bool ActRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
+  if (item(data, "event") == QLatin1String("prompt") && std::exchange(m_isPromptCancelled, false)) {
+    return true;
+  }
   for (const Row& row : rows) {
     if (item(data, "event") == QLatin1String(row.event)) {
       if (Inspector::self()->isRecording()) {
@@ -83,6 +89,19 @@ void ActRecorder::takeBackPress(const QString& objectName) {
   if (last.objectName() == objectName && presses.contains(last.functionName())) {
     removeLastRecordedEvent();
   }
+}
+
+void ActRecorder::takeCancelledPrompt(const QString&, const EventMap& data) {
+  m_isPromptCancelled = true;
+  flushRecordedTextInput();
+  const QTime time = WebWrapper::getTimeStampFromEventData(data);
+  recordCall(QString(), "closePrompt", {nullptr}, &time);
+}
+
+void ActRecorder::takeHover(const QString& objectName, const EventMap& data) {
+  flushRecordedTextInput();
+  const QTime time = WebWrapper::getTimeStampFromEventData(data);
+  recordCall(objectName, "hover", {}, &time);
 }
 
 void ActRecorder::takeMenu(const QString& objectName, const EventMap& data) {

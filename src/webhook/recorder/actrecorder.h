@@ -20,6 +20,8 @@ private:
   void takeLeaving(const QString& objectName, const WebWrapper::EventMap& data);
   void takeArrived(const QString& objectName, const WebWrapper::EventMap& data);
 
+  void takeCancelledPrompt(const QString& objectName, const WebWrapper::EventMap& data);
+  void takeHover(const QString& objectName, const WebWrapper::EventMap& data);
   void takeMenu(const QString& objectName, const WebWrapper::EventMap& data);
   void takeDrag(const QString& objectName, const WebWrapper::EventMap& data);
   void takeUnrecorded(const QString& objectName, const WebWrapper::EventMap& data);
@@ -28,6 +30,8 @@ private:
   void takeBackPress(const QString& objectName);
 
   PageMoves m_moves;
+  /// Whether the next answer of a prompt is none.
+  bool m_isPromptCancelled = false;
 };
 
 }  // namespace Corvex::Webhook

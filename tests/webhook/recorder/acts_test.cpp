@@ -58,22 +58,22 @@ TEST_F(RecordedActs, MovesOfAPersonAndNotThoseOfPages) {
 
 TEST_F(RecordedActs, MenusDragsAndWhatIsKnownToThePageAlone) {
   server.add("/page.html",
-             {R"(<title>t</title><style>div, canvas { position: absolute; width: 80px; height: 40px }</style>
+             {R"(<title>t</title><style>div, li, canvas { position: absolute; width: 80px; height: 40px }</style>
 <div id='menu' onclick='1' oncontextmenu='return false'>Menu</div>
 <div id='own' draggable='true' onclick='1' style='left: 100px'>Own</div>
 <div id='tray' ondragover='event.preventDefault()' ondrop='event.preventDefault()' style='left: 200px'>Tray</div>
-<div id='moved' onclick='1' style='top: 100px; left: 10px'
+<li id='moved' onclick='1' style='top: 100px; left: 10px'
   onmousedown='event.preventDefault(); document.onmousemove = function (e) { moved.style.left = e.clientX - 20 + "px"; }'
-  onmouseup='document.onmousemove = null'>Moved</div>
+  onmouseup='document.onmousemove = null'>Moved</li>
 <div id='box' style='top: 100px; left: 300px'>Box</div><canvas id='c' style='top: 200px'></canvas>)"});
   EXPECT_EQ(
       recorded("/page.html", {"openContextMenu(\"{tagName='DIV' id='menu'}\", 5, 6);",
                               "dragTo(\"{tagName='DIV' id='own'}\", \"{tagName='DIV' id='tray'}\");",
-                              "dragTo(\"{tagName='DIV' id='moved'}\", \"{tagName='DIV' id='box'}\");",
+                              "dragTo(\"{tagName='LI' id='moved'}\", \"{tagName='DIV' id='box'}\");",
                               "mouseClick(\"{tagName='CANVAS' id='c'}\");"}),
       R"(openContextMenu("{tagName='DIV' id='menu'}", 5, 6);
 dragTo("{tagName='DIV' id='own'}", "{tagName='DIV' id='tray'}");
-dragTo("{tagName='DIV' id='moved'}", "{tagName='DIV' id='box'}");
+dragTo("{tagName='LI' id='moved'}", "{tagName='DIV' id='box'}");
 )"
       "// A press on the canvas {tagName='CANVAS' id='c'} is recorded by its place at most: what is there is known "
       "to the page alone.\nmouseClick(\"{tagName='CANVAS' id='c'}\", 40, 20);\n");
@@ -109,16 +109,20 @@ selectOption("{tagName='SELECT' type='select-one' id='s'}", "two");
 
 TEST_F(RecordedActs, ChecksThatAreChosenInTheOverlay) {
   server.add("/page.html", {R"(<title>t</title><a id='l' href='#gone'>Total: "5"</a><p></p>
-<input id='n' value='Ada' onmousedown='this.value = "pressed"' style='margin: 300px 0 0 500px'>)"});
+<input id='n' value='Ada' onmousedown='this.value = "pressed"' style='margin: 300px 0 0 500px'>
+<iframe id='f' style='margin-left: 300px' srcdoc='<p>Inside</p>'></iframe>)"});
   const QString open =
       "mouseClick(\"{tagName='%1'}\", 4, 4, 3); mouseClick(\"{tagName='BUTTON' simplifiedInnerText='%2'}\");";
   EXPECT_EQ(
       recorded("/page.html",
                {open.arg("A", "Check text"), open.arg("A", "Check visible"), open.arg("INPUT", "Check value"),
+                "setContext('page.html.FRAME1'); mouseClick(\"{tagName='P'}\", 4, 4, 3); setContext('page.html'); "
+                "mouseClick(\"{tagName='BUTTON' simplifiedInnerText='Check text'}\");",
                 "if (currentUrl().indexOf('gone') >= 0) { throw new Error('pressed'); }"}),
       R"(test.compare(waitForObject("{tagName='A' simplifiedInnerText='Total: \"5\"' id='l'}").simplifiedInnerText, "Total: \"5\"");
 test.compare(waitForObject("{tagName='A' simplifiedInnerText='Total: \"5\"' id='l'}").visible, true);
 test.compare(waitForObject("{tagName='INPUT' type='text' id='n'}").value, "Ada");
+test.compare(waitForObject("DOCUMENT[page|html|FRAME1].HTML1.BODY1.P1").simplifiedInnerText, "Inside");
 )");
 }
 

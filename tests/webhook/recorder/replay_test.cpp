@@ -88,6 +88,7 @@ TEST_F(Replay, OfAnOrderAndOfDialogs) {
   server.add("/dialogs.html", {R"(<button id='a' onclick='alert("Hello")'>Alert</button>
 <button id='c' onclick='this.textContent = confirm("Sure?")'>Confirm</button>
 <button id='p' onclick='this.textContent = prompt("Name?", "")'>Prompt</button>
+<button id='q' onclick='this.textContent = prompt("Again?", "yes") || "none"'>Again</button>
 <button id='i' onclick='n.textContent = 1 + Number(n.textContent)'>Count</button><p id='n'>0</p>)"});
   check({
       {"/shop/index.html", R"(typeText("{tagName='INPUT' name='search'}", "o");
@@ -101,9 +102,29 @@ waitForObject("{tagName='P' id='message' simplifiedInnerText?='Thank*'}");)",
       {"/dialogs.html",
        R"(mouseClick("{tagName='BUTTON' id='i'}"); mouseClick("{tagName='BUTTON' id='a'}"); closeAlert();
 mouseClick("{tagName='BUTTON' id='c'}"); closeConfirm(true);
-mouseClick("{tagName='BUTTON' id='p'}"); closePrompt("Zoë 100%"); doubleClick("{tagName='BUTTON' id='i'}");)",
-       "true Zoë 100% Count 3"},
+mouseClick("{tagName='BUTTON' id='p'}"); closePrompt("Zoë 100%"); mouseClick("{tagName='BUTTON' id='q'}"); closePrompt(null);
+doubleClick("{tagName='BUTTON' id='i'}");)",
+       "true Zoë 100% none Count 3"},
   });
+}
+
+TEST_F(Replay, OfMenusThatOpenUnderThePointer) {
+  server.add("/menu.html", {R"(<style>li ul, #late { display: none } li:hover > ul { display: block }</style>
+<button id='b'>Open</button><i id='late' onclick='p.textContent += "late;"'>Late</i><ul><li><a href='#m'>Menu</a><ul>
+<li><a href='#s'>More</a><ul><li><a id='deep' href='#deep'>Deep</a></ul></ul></ul>
+<p id='p' onclick='textContent += "here;"'>Somewhere</p><script>
+b.onmouseenter = function () { setTimeout(function () { late.style.display = 'inline'; }, 100); };
+</script>)"});
+  // A person lets a page rest between a press and the next.
+  check({{"/menu.html", R"(function press(name) {
+  mouseClick(name);
+  var end = Date.now() + 600;
+  waitFor(function () { return Date.now() > end; });
+}
+press("{tagName='P' id='p'}"); hover("{tagName='A' simplifiedInnerText='Menu'}");
+hover("{tagName='A' simplifiedInnerText='More'}"); press("{tagName='A' id='deep'}"); press("{tagName='P' id='p'}");
+hover("{tagName='BUTTON' id='b'}"); mouseClick("{tagName='I' id='late'}");)",
+          "here;late;"}});
 }
 
 TEST_F(Replay, OfWindowsThatPeopleAndPagesOpenAndClose) {

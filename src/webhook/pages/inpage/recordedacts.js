@@ -1,6 +1,6 @@
 // Gives: while the page is recorded, what a person does there besides presses and keys: context menus that the page shows
 // itself, drags, presses that cannot be recorded, and the checks that are chosen in the overlay.
-// Needs: the hook script.
+// Needs: the hook script, recordedchecks.
 (function () {
   // So far the pointer goes before a press is a drag, in CSS pixels.
   var dragDistance = 12;
@@ -87,15 +87,42 @@
     return null;
   }
 
+  // A list that makes room for what is dragged moves the object that stood there towards where the drag began.
+  function siblingPassed(e, from) {
+    var nearest = null;
+    var least = Infinity;
+    var node = __corvex__nodeReader.firstChild(__corvex__nodeReader.parentNode(from.object));
+    for (; node; node = __corvex__nodeReader.nextSibling(node)) {
+      if (node === from.object || __corvex__nodeReader.tagName(node) !== __corvex__nodeReader.tagName(from.object)) {
+        continue;
+      }
+      var box = __corvex__askNode.Element.getBoundingClientRect(node);
+      var x = (box.left + box.right) / 2 - e.clientX;
+      var y = (box.top + box.bottom) / 2 - e.clientY;
+      var distance = Math.abs(x) + Math.abs(y);
+      if (distance < least && x * (from.x - e.clientX) + y * (from.y - e.clientY) > 0 &&
+          __corvex__isVisible(node) && distance < 2 * (box.width + box.height)) {
+        nearest = node;
+        least = distance;
+      }
+    }
+    return nearest && __corvex__eventObject(nearest);
+  }
+
+  // What is dragged there is its own knob, or marks its text.
+  function isField(object) {
+    return /^(INPUT|TEXTAREA|SELECT)$/.test(__corvex__nodeReader.tagName(object));
+  }
+
   // Pages that move objects by the pointer's events prevent what the browser would do, such as selecting text.
   function noteRelease(e) {
     var from = pressed;
     pressed = null;
     if (!from || dragged || Math.abs(e.clientX - from.x) + Math.abs(e.clientY - from.y) < dragDistance ||
-        String(window.getSelection()) || "value" in from.object) {
+        String(window.getSelection()) || isField(from.object)) {
       return;
     }
-    var to = targetOf(e, from.object);
+    var to = targetOf(e, from.object) || siblingPassed(e, from);
     if (to) {
       sendDrag(e, from, to);
     } else {
@@ -140,8 +167,9 @@
     }
   })]);
 
-  // One listener stays one, however often it is added.
+  // One listener stays one, however often it is added. What opens the overlay is nothing else.
   function listen(w) {
+    window.__corvex__listenForChecks(w);
     for (var j = 0; j < rows.length; ++j) {
       w.addEventListener(rows[j][0], rows[j][1], true);
     }

@@ -1,5 +1,5 @@
 // Gives: while the page is recorded, a choice of checks in the overlay that a click with its keys opens: the driver is told
-// what the object shows now. Needs: the hook script.
+// what the object shows now; __corvex__listenForChecks( w ) for a frame. Needs: the hook script.
 (function () {
   var asked = null;
 
@@ -43,6 +43,16 @@
     }
   }
 
+  // The overlay stands in the page, also for an object of a frame.
+  function moveToFrame(e, w) {
+    var overlay = document.getElementById("__corvex__web__info__overlay");
+    if (overlay && w !== window) {
+      var frame = __corvex__framePositionInView(w);
+      overlay.style.left = (frame.x + e.clientX + __corvex__getPageOffsetX() - 15) + "px";
+      overlay.style.top = (frame.y + e.clientY + __corvex__getPageOffsetY() - 15) + "px";
+    }
+  }
+
   function note(e) {
     var source = __corvex__srcElement(e);
     if (__corvex__isInfoDiv(source)) {
@@ -61,6 +71,7 @@
     e.preventDefault();
     __corvex__checkForObjectOverlayRelatedEvent(source, e);
     if (e.type === "click") {
+      moveToFrame(e, this);
       asked = __corvex__eventObject(source);
       // The overlay is filled after half a second.
       __corvex__later(addChoice, 600);
@@ -69,7 +80,13 @@
 
   window.__corvex__enableObjectInfoOverlay = true;
   var types = ["mousedown", "mouseup", "click"];
-  for (var i = 0; i < types.length; ++i) {
-    window.addEventListener(types[i], __corvex__quiet(note), true);
-  }
+  var quietNote = __corvex__quiet(note);
+
+  // One listener stays one, however often it is added.
+  window.__corvex__listenForChecks = function (w) {
+    for (var i = 0; i < types.length; ++i) {
+      w.addEventListener(types[i], quietNote, true);
+    }
+  };
+  window.__corvex__listenForChecks(window);
 }());
