@@ -60,7 +60,7 @@ TEST_F(Replay, OfTextThatComesWithoutKeysOrGoesWithThem) {
       {R"(<label for='first'>Name</label><input id='first'><input id='fixed' readonly value='x'><input id='old' value='old'>
 <div id='rich' contenteditable>a</div><input id='day' type='date'><input id='level' type='range' max='9'><input id='yes' type='checkbox'><input id='r1' type='radio' name='r'><input id='r2' type='radio' name='r'>
 <select id='list'><option>one<option>two<option>three</select>
-<button id='b' type='button' onclick='said.textContent += "pressed;"'>Press</button><a id='a' href='#there'>Link</a><p id='said'></p>)"});
+<button id='b' type='button' onclick='said.textContent += "pressed;"'>Press</button><a id='a' href='#there'>Link</a><input id='once' type='checkbox' onclick='said.textContent += "once;"; this.remove()'><p id='said'></p>)"});
   check({
       {"/form.html", R"(typeText("{tagName='INPUT' id='name'}", "Ada & <Co>"); pressKeys("<Return>");)", "?n=Ada"},
       {"/form.html",
@@ -78,6 +78,8 @@ pressKeys("<Right><Right><Tab><Space><Tab><Space><Down><Tab><Down><Tab><Space><S
        "pressed;pressed;"},
       {"/form.html", R"(typeText("{tagName='INPUT' id='mid'}", "abc"); waitForObject("{tagName='INPUT' id='more'}");)",
        "?abc"},
+      // What a key presses may be gone as soon as the page knows of it.
+      {"/fields.html", R"(mouseClick("{tagName='A'}"); pressKeys("<Tab><Space>");)", "once;"},
       // A label stands for its field, and lies beside it.
       {"/fields.html", R"(doubleClick("{tagName='LABEL'}"); mouseClick("{tagName='BUTTON'}");)", "pressed;"},
   });

@@ -70,6 +70,11 @@ QStringList Walker::walk() {
   return m_done;
 }
 
+void Walker::leave() {
+  m_browser.pressBeside();
+  settle();
+}
+
 Connection& Walker::window() {
   for (Connection* connection : windows().connections()) {
     if (connection->tabId() == m_window) {
