@@ -139,7 +139,7 @@ root.innerHTML = "<input id='deep'><button id='b'>Deep</button><input id='tick' 
 root.querySelector('button').onclick = function () { root.querySelector('p').textContent += root.querySelector('input').value; };
 </script>)"});
   server.add("/f/inner.html", {R"(<input id='f'><select id='s'><option>a<option>b</select><input type='checkbox' id='c'>
-<button id='b' onclick='this.textContent += f.value'>Take</button><iframe src='leaf.html'></iframe>)"});
+<button id='b' onclick='this.textContent += f.value'>Take</button><iframe src='leaf.html'></iframe><a id='go' href='inner.html?gone'>Go</a>)"});
   server.add("/f/leaf.html", {R"(Leaf <input id='leaf' onchange='parent.location = "inner.html?" + value'>)"});
   check({{"/f/page.html",
           R"(var first = "{context='page.html.FRAME1' tagName='", late = "{context='page.html.FRAME2' tagName='";
@@ -152,6 +152,9 @@ var box = "{container={tagName='X-BOX'} tagName='";
 typeText(box + "INPUT' id='deep'}", "deep"); mouseClick(box + "BUTTON' id='b'}"); mouseClick(box + "BUTTON' id='b'}");
 pressKeys("<Tab><Space><Tab><Down>");)",
           "deepdeep"},
+         // The second press is for the link of the page that the first one leads to.
+         {"/f/page.html",
+          R"(var go = "{context='page.html.FRAME1' tagName='A' id='go'}"; mouseClick(go); mouseClick(go);)", "?gone"},
          // Frames go after the page that shows them.
          {"/f/page.html",
           R"(typeText("{context='page.html.FRAME1' tagName='INPUT' id='f'}", "gone"); reload();
