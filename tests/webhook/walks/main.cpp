@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QMap>
+#include <QSize>
 
 #include <cstdio>
 #include <optional>
@@ -22,6 +23,7 @@ namespace {
 // A browser grows slow with what it was shown.
 const int batchSize = 16;
 const int askTimeoutMs = 5000;
+const QSize viewport(1280, 800);
 
 SessionOptions browserNamed(const QString& name) {
   SessionOptions options;
@@ -40,8 +42,10 @@ public:
       m_browser.emplace(m_isRecorded, browserNamed(m_name));
     }
     QString error = m_browser->show(m_pages.emptyPage());
-    m_browser->control().windows()->connections().constFirst()->evaluateJS(
-        QStringLiteral("localStorage.clear(); sessionStorage.clear(); 0"), askTimeoutMs);
+    Corvex::Webhook::Connection* const window = m_browser->control().windows()->connections().constFirst();
+    window->evaluateJS(QStringLiteral("localStorage.clear(); sessionStorage.clear(); 0"), askTimeoutMs);
+    // Styles of pages go by it.
+    error += window->page()->setViewport(viewport, 0);
     return error.isEmpty() ? m_browser->show(m_pages.address(page)) : error;
   }
   RecordedBrowser& operator*() { return *m_browser; }
@@ -133,6 +137,9 @@ bool walkAll(const Wish& wish) {
         tell(walk);
       }
     }
+    std::printf("%d walks of %d in %s are done\n", qMin(begin + batchSize, wish.walks), wish.walks,
+                qPrintable(wish.recordIn));
+    std::fflush(stdout);
   }
   Rate sum;
   std::printf("recorded in %s, replayed in %s, seeds from %u\n", qPrintable(wish.recordIn), qPrintable(wish.replayIn),
