@@ -81,7 +81,7 @@ void replay(Walk& walk, Browser& browser) {
     walk.miss = (*browser).act(walk.script);
   }
   if (walk.isEqual()) {
-    (*browser).pressBeside();
+    Walker(*browser, walk.seed, false).leave();
     walk.miss = firstDifference(walk.state, (*browser).stateAwaited(walk.state));
   }
   if (!walk.isEqual()) {

@@ -71,6 +71,7 @@ QStringList Walker::walk() {
 }
 
 void Walker::leave() {
+  settle();
   m_browser.pressBeside();
   settle();
 }

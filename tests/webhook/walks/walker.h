@@ -16,7 +16,7 @@ namespace Walks {
 /// - the page stands still before each thing that is done, as scripts do not know how long somebody looked at it;
 /// - dates are typed as a whole, and are others than before: a page is told of nothing else;
 /// - the browser's own lists and windows stay closed, and files are not chosen;
-/// - no page of another origin is gone to;
+/// - links to pages of others, or to none, are not followed;
 /// - nobody goes back where the browser does not tell who did.
 class Walker {
 public:
