@@ -101,6 +101,16 @@ void RecordedBrowser::restPointer() {
   }
 }
 
+void RecordedBrowser::pressBeside() {
+  for (Connection* window : m_control.windows()->connections()) {
+    InputStep press;
+    press.kind = InputStep::Press;
+    InputStep release;
+    release.kind = InputStep::Release;
+    window->perform({InputStep(), press, release});
+  }
+}
+
 QString RecordedBrowser::state() {
   static const QString code = textOfFile("pagestate.js");
   QString result;

@@ -30,6 +30,8 @@ public:
   QStringList recorded();
   /// Takes the pointer away from all things.
   void restPointer();
+  /// Presses the pointer beside all things, so that pages close what they show only for the moment.
+  void pressBeside();
   /// The content of all windows: addresses, texts, fields.
   QString state();
   /// The same once it is this one, or after a while.

@@ -328,11 +328,6 @@ bool EventRecorder::takeFieldSet(const QString& objectName) {
   flushRecordedTextInput();
   enterContext(item(m_data, "context"));
   const QTime time = WebWrapper::getTimeStampFromEventData(m_data);
-  if (m_data.contains(QStringLiteral("checked"))) {
-    const bool isChecked = item(m_data, "checked") == QLatin1String("true");
-    append(EventData(QStringLiteral("setChecked"), objectName, {Inspector::self()->wrapBool(isChecked)}), &time);
-    return true;
-  }
   if (m_openSetting == objectName) {
     removeLastRecordedEvent();
   }
@@ -342,15 +337,14 @@ bool EventRecorder::takeFieldSet(const QString& objectName) {
   return true;
 }
 
-// The logger knows the clicks that keys make of buttons that send forms, and fields tell of the others' state.
+// The logger knows the clicks that keys make of buttons that send forms.
 bool EventRecorder::takeKeyClick(const QString& objectName) {
   if (event() != QLatin1String("keyClick") || !Inspector::self()->isRecording()) {
     return false;
   }
-  static const QStringList others{QStringLiteral("submit"), QStringLiteral("checkbox"), QStringLiteral("radio")};
   m_isKeyClick = true;
   const QString type = item(m_data, "type");
-  const bool isButton = WebWrapper::isButtonType(type) && !others.contains(type);
+  const bool isButton = WebWrapper::isButtonType(type) && type != QLatin1String("submit");
   if (isButton || WebWrapper::isLink(type)) {
     flushRecordedTextInput();
     enterContext(item(m_data, "context"));

@@ -60,7 +60,7 @@ TEST_F(Replay, OfTextThatComesWithoutKeysOrGoesWithThem) {
       {R"(<label for='first'>Name</label><input id='first'><input id='fixed' readonly value='x'><input id='old' value='old'>
 <div id='rich' contenteditable>a</div><input id='day' type='date'><input id='level' type='range' max='9'><input id='yes' type='checkbox'><input id='r1' type='radio' name='r'><input id='r2' type='radio' name='r'>
 <select id='list'><option>one<option>two<option>three</select>
-<button id='b' type='button' onclick='said.textContent += "pressed;"'>Press</button><a id='a' href='#there'>Link</a><p id='said'></p>)"});
+<button id='b' type='button' onclick='said.textContent += "pressed;"'>Press</button><a id='a' href='#there'>Link</a><input id='once' type='checkbox' onclick='said.textContent += "once;"; this.remove()'><p id='said'></p>)"});
   check({
       {"/form.html", R"(typeText("{tagName='INPUT' id='name'}", "Ada & <Co>"); pressKeys("<Return>");)", "?n=Ada"},
       {"/form.html",
@@ -78,6 +78,8 @@ pressKeys("<Right><Right><Tab><Space><Tab><Space><Down><Tab><Down><Tab><Space><S
        "pressed;pressed;"},
       {"/form.html", R"(typeText("{tagName='INPUT' id='mid'}", "abc"); waitForObject("{tagName='INPUT' id='more'}");)",
        "?abc"},
+      // What a key presses may be gone as soon as the page knows of it.
+      {"/fields.html", R"(mouseClick("{tagName='A'}"); pressKeys("<Tab><Space>");)", "once;"},
       // A label stands for its field, and lies beside it.
       {"/fields.html", R"(doubleClick("{tagName='LABEL'}"); mouseClick("{tagName='BUTTON'}");)", "pressed;"},
   });
@@ -158,7 +160,7 @@ root.innerHTML = "<input id='deep'><button id='b'>Deep</button><input id='tick' 
 root.querySelector('button').onclick = function () { root.querySelector('p').textContent += root.querySelector('input').value; };
 </script>)"});
   server.add("/f/inner.html", {R"(<input id='f'><select id='s'><option>a<option>b</select><input type='checkbox' id='c'>
-<button id='b' onclick='this.textContent += f.value'>Take</button><iframe src='leaf.html'></iframe>)"});
+<button id='b' onclick='this.textContent += f.value'>Take</button><iframe src='leaf.html'></iframe><a id='go' href='inner.html?gone'>Go</a>)"});
   server.add("/f/leaf.html", {R"(Leaf <input id='leaf' onchange='parent.location = "inner.html?" + value'>)"});
   check({{"/f/page.html",
           R"(var first = "{context='page.html.FRAME1' tagName='", late = "{context='page.html.FRAME2' tagName='";
@@ -171,6 +173,9 @@ var box = "{container={tagName='X-BOX'} tagName='";
 typeText(box + "INPUT' id='deep'}", "deep"); mouseClick(box + "BUTTON' id='b'}"); mouseClick(box + "BUTTON' id='b'}");
 pressKeys("<Tab><Space><Tab><Down>");)",
           "deepdeep"},
+         // The second press is for the link of the page that the first one leads to.
+         {"/f/page.html",
+          R"(var go = "{context='page.html.FRAME1' tagName='A' id='go'}"; mouseClick(go); mouseClick(go);)", "?gone"},
          // Frames go after the page that shows them.
          {"/f/page.html",
           R"(typeText("{context='page.html.FRAME1' tagName='INPUT' id='f'}", "gone"); reload();

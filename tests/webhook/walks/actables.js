@@ -1,5 +1,5 @@
 // What a person could act on in a window now, in the order of its documents. `index` -1: how many things there are; -2:
-// whether what has the focus leads to another origin. Else the one of this number, in view: "kind|x|y|what it is", or "" where something is on top of it.
+// whether what has the focus leads to no page of this server. Else the one of this number, in view: "kind|x|y|what it is", or "" where something is on top of it.
 (function (index) {
   var textTypes = /^(text|search|url|tel|email|password|number)$/;
   var keyTypes = /^range$/;
@@ -18,7 +18,7 @@
     return cursor(node) === "pointer" && cursor(node.parentNode) !== "pointer" && !node.querySelector(clicked);
   }
   function leadsAway(node) {
-    return node.tagName === "A" && (node.origin !== location.origin || node.hasAttribute("download"));
+    return node.tagName === "A" && (node.origin !== location.origin || !/\.html$/.test(node.pathname));
   }
   function kindOf(node) {
     var type = node.type;

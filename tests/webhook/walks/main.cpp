@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QMap>
+#include <QSize>
 
 #include <cstdio>
 #include <optional>
@@ -22,6 +23,7 @@ namespace {
 // A browser grows slow with what it was shown.
 const int batchSize = 16;
 const int askTimeoutMs = 5000;
+const QSize viewport(1280, 800);
 
 SessionOptions browserNamed(const QString& name) {
   SessionOptions options;
@@ -40,8 +42,10 @@ public:
       m_browser.emplace(m_isRecorded, browserNamed(m_name));
     }
     QString error = m_browser->show(m_pages.emptyPage());
-    m_browser->control().windows()->connections().constFirst()->evaluateJS(
-        QStringLiteral("localStorage.clear(); sessionStorage.clear(); 0"), askTimeoutMs);
+    Corvex::Webhook::Connection* const window = m_browser->control().windows()->connections().constFirst();
+    window->evaluateJS(QStringLiteral("localStorage.clear(); sessionStorage.clear(); 0"), askTimeoutMs);
+    // Styles of pages go by it.
+    error += window->page()->setViewport(viewport, 0);
     return error.isEmpty() ? m_browser->show(m_pages.address(page)) : error;
   }
   RecordedBrowser& operator*() { return *m_browser; }
@@ -61,9 +65,11 @@ void record(Walk& walk, Browser& browser, bool mayGoBack) {
     browser.discard();
     return;
   }
-  walk.acts = Walker(*browser, walk.seed, mayGoBack).walk();
-  (*browser).restPointer();
+  Walker walker(*browser, walk.seed, mayGoBack);
+  walk.acts = walker.walk();
   walk.script = (*browser).recorded().join('\n');
+  // Where the focus is in the end is not recorded.
+  walker.leave();
   walk.state = (*browser).state();
 }
 
@@ -75,7 +81,7 @@ void replay(Walk& walk, Browser& browser) {
     walk.miss = (*browser).act(walk.script);
   }
   if (walk.isEqual()) {
-    (*browser).restPointer();
+    Walker(*browser, walk.seed, false).leave();
     walk.miss = firstDifference(walk.state, (*browser).stateAwaited(walk.state));
   }
   if (!walk.isEqual()) {
@@ -131,6 +137,9 @@ bool walkAll(const Wish& wish) {
         tell(walk);
       }
     }
+    std::printf("%d walks of %d in %s are done\n", qMin(begin + batchSize, wish.walks), wish.walks,
+                qPrintable(wish.recordIn));
+    std::fflush(stdout);
   }
   Rate sum;
   std::printf("recorded in %s, replayed in %s, seeds from %u\n", qPrintable(wish.recordIn), qPrintable(wish.replayIn),
@@ -143,37 +152,54 @@ bool walkAll(const Wish& wish) {
   return sum.equal == sum.all;
 }
 
-int run() {
-  QCommandLineParser parser;
+void addOptions(QCommandLineParser& parser) {
+  const QString pages = WalkedPages::names().join(QStringLiteral(", "));
   parser.addHelpOption();
   parser.addOption({QStringLiteral("seed"), QStringLiteral("Number of the first walk, 1 without it."),
                     QStringLiteral("S"), QStringLiteral("1")});
-  parser.addOption({QStringLiteral("page"),
-                    QStringLiteral("Walk on this page only: %1.").arg(WalkedPages::names().join(QStringLiteral(", "))),
-                    QStringLiteral("P")});
+  parser.addOption(
+      {QStringLiteral("page"), QStringLiteral("Walk on this page only: %1.").arg(pages), QStringLiteral("P")});
   parser.addOption(
       {QStringLiteral("browser"), QStringLiteral("Record in this one, in each without it."), QStringLiteral("B")});
   parser.addOption({QStringLiteral("replay-in"),
                     QStringLiteral("Replay in this one, where it was recorded without it."), QStringLiteral("B")});
-  parser.addPositionalArgument(QStringLiteral("N"), QStringLiteral("How many walks in each browser."));
+  parser.addPositionalArgument(QStringLiteral("N"), QStringLiteral("How many walks in each browser, 20 without it."));
+}
+
+/// Why the command line makes no sense; empty where it does.
+QString readWish(const QCommandLineParser& parser, Wish& wish) {
+  const QString page = parser.value(QStringLiteral("page"));
+  const QString walks = parser.positionalArguments().value(0, QStringLiteral("20"));
+  bool isSeed = false;
+  wish.walks = walks.toInt();
+  wish.seed = parser.value(QStringLiteral("seed")).toUInt(&isSeed);
+  wish.pages = page.isEmpty() ? WalkedPages::names() : QStringList{page};
+  if (wish.walks < 1 || !isSeed) {
+    return QStringLiteral("there are walks from 1 on, and seeds from 0 on");
+  }
+  if (!WalkedPages::names().contains(wish.pages.constFirst())) {
+    return QStringLiteral("there is no page '%1'; there are %2")
+        .arg(page, WalkedPages::names().join(QStringLiteral(", ")));
+  }
+  return QString();
+}
+
+int run() {
+  QCommandLineParser parser;
+  addOptions(parser);
   parser.process(*QCoreApplication::instance());
   Wish wish;
-  wish.walks = parser.positionalArguments().value(0, QStringLiteral("20")).toInt();
-  wish.seed = parser.value(QStringLiteral("seed")).toUInt();
-  wish.pages = WalkedPages::names();
-  if (parser.isSet(QStringLiteral("page"))) {
-    const QString page = parser.value(QStringLiteral("page"));
-    if (!wish.pages.contains(page)) {
-      std::fprintf(stderr, "walks: there is no page '%s'; there are %s.\n", qPrintable(page),
-                   qPrintable(wish.pages.join(QStringLiteral(", "))));
-      return 2;
-    }
-    wish.pages = QStringList{page};
+  const QString error = readWish(parser, wish);
+  if (!error.isEmpty()) {
+    std::fprintf(stderr, "walks: %s.\n", qPrintable(error));
+    return 2;
   }
-  const QString browser = parser.value(QStringLiteral("browser"));
-  bool areEqual = wish.walks > 0;
-  for (const QString& name :
-       browser.isEmpty() ? QStringList{QStringLiteral("chromium"), QStringLiteral("firefox")} : QStringList{browser}) {
+  QStringList browsers{QStringLiteral("chromium"), QStringLiteral("firefox")};
+  if (parser.isSet(QStringLiteral("browser"))) {
+    browsers = QStringList{parser.value(QStringLiteral("browser"))};
+  }
+  bool areEqual = true;
+  for (const QString& name : browsers) {
     wish.recordIn = name;
     wish.replayIn = parser.isSet(QStringLiteral("replay-in")) ? parser.value(QStringLiteral("replay-in")) : name;
     areEqual = walkAll(wish) && areEqual;

@@ -70,6 +70,12 @@ QStringList Walker::walk() {
   return m_done;
 }
 
+void Walker::leave() {
+  settle();
+  m_browser.pressBeside();
+  settle();
+}
+
 Connection& Walker::window() {
   for (Connection* connection : windows().connections()) {
     if (connection->tabId() == m_window) {

@@ -10,7 +10,14 @@
 
 namespace Walks {
 
-/// Somebody who does random things in a browser, with its own input: the same things for the same seed.
+/// Somebody who does random things in a browser, with its own input: the same things for the same seed. What recordings
+/// do not hold is not done:
+/// - things that show only while the pointer rests somewhere are left alone, so the pointer is taken away first;
+/// - the page stands still before each thing that is done, as scripts do not know how long somebody looked at it;
+/// - dates are typed as a whole, and are others than before: a page is told of nothing else;
+/// - the browser's own lists and windows stay closed, and files are not chosen;
+/// - links to pages of others, or to none, are not followed;
+/// - nobody goes back where the browser does not tell who did.
 class Walker {
 public:
   /// Not all browsers tell who goes back.
@@ -19,6 +26,8 @@ public:
 
   /// From the page that is shown. What was done, for people.
   QStringList walk();
+  /// Closes what pages show only for the moment.
+  void leave();
 
 private:
   struct Thing {

@@ -26,8 +26,7 @@ var __corvex__fieldKinds = {
   text: "text", search: "text", url: "text", tel: "text", email: "text", password: "text", number: "text",
   textarea: "text",
   date: "value", "datetime-local": "value", month: "value", week: "value", time: "value", color: "value",
-  range: "value",
-  checkbox: "check", radio: "check"
+  range: "value"
 };
 
 function __corvex__kindOfField(node) {
@@ -150,17 +149,10 @@ function __corvex__noteReturn(source) {
 }
 
 var __corvex__fieldHandlers = {
-  // Shadow trees let this event out, and keep that of a change.
   input: function (source, e) {
-    var kind = __corvex__kindOfField(source);
-    if (kind === "check" && __corvex__fields.isByKey) {
-      __corvex__sendForField("fieldSet", source, 0, "&checked=" + source.checked);
-    }
-    if (!kind) {
-      // It may be the first that is heard of a list.
+    if (!__corvex__kindOfField(source)) {
+      // It may be the first that is heard of a list. Shadow trees let no change out.
       __corvex__install__handler(e);
-    }
-    if (!kind || kind === "check") {
       return;
     }
     __corvex__noteField(source);
@@ -196,7 +188,8 @@ var __corvex__fieldHandlers = {
     __corvex__fields.returnField = null;
     __corvex__tellField();
   },
-  // A Return in a field of a form presses its button, of which the driver is told otherwise.
+  // A Return in a field of a form presses its button, of which the driver is told otherwise. What a key presses may be
+  // gone as soon as the page knows of it.
   click: function (source) {
     if (__corvex__fields.isByKey && !__corvex__fields.returnField) {
       __corvex__tellBeforeLeaving(function () {

@@ -195,7 +195,8 @@ var __corvex__actionPoint = (function () {
     if ((tagName === "OPTION" || tagName === "OPTGROUP") && !isInOpenList(o)) {
       return "option";
     }
-    if (!o.isConnected || !viewOf(o)) {
+    // A document that is left may keep its elements, and its frame's window, which shows another one then.
+    if (!o.isConnected || !viewOf(o) || viewOf(o).document !== __corvex__nodeReader.ownerDocument(o)) {
       return "gone";
     }
     // A window of its own that this page opened, and that nothing else drives.
