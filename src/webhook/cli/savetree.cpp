@@ -23,8 +23,6 @@ const FunctionRow row{"saveTree", "saveTree(file)", 1, 1, saveTree};
 
 }  // namespace
 
-Scripting::ScriptFunction saveTreeFunction(BrowserControl& control) {
-  return scriptFunctionOf(row, control);
-}
+Scripting::ScriptFunction saveTreeFunction(BrowserControl& control) { return scriptFunctionOf(row, control); }
 
 }  // namespace Corvex::Webhook
