@@ -2,6 +2,8 @@
 
 #include "wrappers/web/recording/eventpayload.h"
 
+#include <algorithm>
+
 namespace Corvex::Webhook {
 
 void MessageOrder::add(const QString& message) {
@@ -10,7 +12,11 @@ void MessageOrder::add(const QString& message) {
   m_messages.insert({stamp, {message, QDeadlineTimer(m_patienceMs)}});
 }
 
-bool MessageOrder::isNextDue() const { return !isEmpty() && m_messages.begin()->second.end.hasExpired(); }
+// One that came too late must not keep waiting those that it should have come before.
+bool MessageOrder::isNextDue() const {
+  return std::any_of(m_messages.begin(), m_messages.end(),
+                     [](const auto& message) { return message.second.end.hasExpired(); });
+}
 
 QString MessageOrder::takeNext() {
   const QString text = m_messages.begin()->second.text;

@@ -16,7 +16,7 @@ public:
   /// A message without a stamp counts as sent now.
   void add(const QString& message);
   bool isEmpty() const { return m_messages.empty(); }
-  /// Whether the next message has waited for long enough.
+  /// Whether the next message, or one after it, has waited for long enough.
   bool isNextDue() const;
   /// The next message, which there has to be.
   QString takeNext();
