@@ -5,16 +5,15 @@
 #include "webhook/pages/browserwindows.h"
 #include "webhook/pages/contextinname.h"
 #include "webhook/pages/windownames.h"
+#include "webhook/recorder/messagetext.h"
 #include "webhook/recorder/recordedwindows.h"
+#include "webhook/recorder/typedkeys.h"
 #include "wrappers/web/recording/recordedtypes.h"
 
 #include <QDateTime>
 #include <QRegularExpression>
 #include <QStringList>
-#include <QUrl>
 
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace Corvex::Webhook {
@@ -33,42 +32,6 @@ QString item(const EventMap& data, const char* key) { return data.value(QLatin1S
 
 // How long a message is on its way after another that was sent with it.
 const int patienceMs = 100;
-
-/// As an item of a message.
-QString inEscapes(const QString& text) {
-  QString result;
-  for (const QChar unit : text) {
-    result += QStringLiteral("%u%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
-  }
-  return result;
-}
-
-/// What was typed into a prompt ends its message, as the page got it: only the browser has encoded it, for an address.
-QString withEscapedAnswer(const QString& text) {
-  const QString head = QStringLiteral("event=prompt&ret=");
-  const int at = text.indexOf(head);
-  if (at < 0) {
-    return text;
-  }
-  const int begin = at + head.size();
-  return text.left(begin) + inEscapes(QUrl::fromPercentEncoding(text.mid(begin).toUtf8()));
-}
-
-/// Shift, the arrows and others: they change a field only where the page or the browser makes more of them.
-bool isKeyWithoutText(int keyCode) {
-  const struct {
-    int first;
-    int last;
-  } ranges[] = {{9, 9}, {16, 20}, {27, 27}, {33, 40}, {112, 123}};
-  return std::any_of(std::begin(ranges), std::end(ranges),
-                     [keyCode](const auto& range) { return keyCode >= range.first && keyCode <= range.last; });
-}
-
-/// Whether typing the text would take parts of it for keys.
-bool readsAsKeys(const QString& text) {
-  static const QRegularExpression brackets(QStringLiteral("<[A-Za-z0-9]+(\\+[^<>\\s]+)*>"));
-  return brackets.match(text).hasMatch();
-}
 
 }  // namespace
 
