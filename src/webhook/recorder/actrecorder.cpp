@@ -46,13 +46,19 @@ const CheckRow checks[] = {
 struct ActRecorder::Row {
   const char* event;
   void (ActRecorder::*take)(const QString& objectName, const EventMap& data);
+  /// An act on an object is one in the context of that.
+  bool isOnObject = true;
 };
 
 const ActRecorder::Row ActRecorder::rows[] = {
-    {"leaving", &ActRecorder::takeLeaving},       {"arrived", &ActRecorder::takeArrived},
-    {"contextmenu", &ActRecorder::takeMenu},      {"drag", &ActRecorder::takeDrag},
-    {"unrecorded", &ActRecorder::takeUnrecorded}, {"check", &ActRecorder::takeCheck},
-    {"hover", &ActRecorder::takeHover},           {"promptCancelled", &ActRecorder::takeCancelledPrompt},
+    {"leaving", &ActRecorder::takeLeaving, false},
+    {"arrived", &ActRecorder::takeArrived, false},
+    {"contextmenu", &ActRecorder::takeMenu},
+    {"drag", &ActRecorder::takeDrag},
+    {"unrecorded", &ActRecorder::takeUnrecorded},
+    {"check", &ActRecorder::takeCheck},
+    {"hover", &ActRecorder::takeHover},
+    {"promptCancelled", &ActRecorder::takeCancelledPrompt, false},
 };
 
 bool ActRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
@@ -62,6 +68,8 @@ bool ActRecorder::compressedNonRecordingEventData(const QString& objectName, con
   for (const Row& row : rows) {
     if (item(data, "event") == QLatin1String(row.event)) {
       if (Inspector::self()->isRecording()) {
+        takeUp(objectName, data);
+        enterContext(row.isOnObject ? item(data, "context") : QString());
         (this->*row.take)(objectName, data);
       }
       return true;
@@ -115,7 +123,8 @@ void ActRecorder::takeMenu(const QString& objectName, const EventMap& data) {
 void ActRecorder::takeDrag(const QString& objectName, const EventMap& data) {
   takeBackPress(objectName);
   const QTime time = WebWrapper::getTimeStampFromEventData(data);
-  recordCall(objectName, "dragTo", {Inspector::self()->wrapString(item(data, "to"))}, &time);
+  recordCall(objectName, "dragTo",
+             {Inspector::self()->wrapString(nameForScripts(item(data, "to"), item(data, "toContext")))}, &time);
 }
 
 // The property becomes code of the script, so that no page may name it.

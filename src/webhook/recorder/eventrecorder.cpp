@@ -107,6 +107,13 @@ QString EventRecorder::adaptQualifiedName(const QString& name, const EventMap& d
   return m_windows && !context.isEmpty() && namesItsContext(name) ? inContext(name, context) : name;
 }
 
+QString EventRecorder::nameForScripts(const QString& name, const QString& context) const {
+  if (!m_windows || context.isEmpty() || !namesItsContext(name)) {
+    return name;
+  }
+  return inContext(name, m_windows->outside(m_windows->windowOf(item(m_data, "tabId"), context), context));
+}
+
 void EventRecorder::workOnNext() {
   EventLogger::logEvent(withEscapedAnswer(m_messages.takeNext()));
   recordRepeatedPress();
@@ -228,7 +235,7 @@ void EventRecorder::doubleClickSeen(const QString& objectName, const EventMap& d
 
 void EventRecorder::keyEventSeen(const QString&) { m_idle.setRemainingTime(idleMs); }
 
-bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
+void EventRecorder::takeUp(const QString& objectName, const EventMap& data) {
   recordRepeatedPress();
   m_isKeyClick = m_isKeyClick && event() == QLatin1String("keyClick");
   m_data = data;
@@ -238,6 +245,10 @@ bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, c
   if (event() == QLatin1String("unload")) {
     m_contents.clear();
   }
+}
+
+bool EventRecorder::compressedNonRecordingEventData(const QString& objectName, const EventMap& data) {
+  takeUp(objectName, data);
   return takeWindow() || takeDialog(event(), data) || takeKey(objectName) || takeFieldSet(objectName) ||
          takeKeyClick(objectName) || EventLogger::compressedNonRecordingEventData(objectName, data);
 }

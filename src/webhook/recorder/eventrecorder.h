@@ -58,6 +58,12 @@ public:
   void removeLastRecordedEvent() override;
   bool isLastRecordedCall(const QString& functionName, const QString& objectName) override;
 
+protected:
+  /// From now on that event is worked on. Doing it again changes nothing.
+  void takeUp(const QString& objectName, const WebWrapper::EventMap& data);
+  /// A name that the page of that event gave an object, for scripts; `context` is the object's inside the page.
+  QString nameForScripts(const QString& name, const QString& context) const;
+
 private:
   bool takeDialog(const QString& event, const WebWrapper::EventMap& data);
   // Each is true where that is all there is to do.

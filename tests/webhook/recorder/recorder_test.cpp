@@ -12,7 +12,7 @@
 #include "corvexhook/objectmap.h"
 #include "support/files.h"
 #include "support/printing.h"
-#include "webhook/recorder/eventrecorder.h"
+#include "webhook/recorder/actrecorder.h"
 #include "webhook/recorder/linefile.h"
 #include "webhook/recorder/recordingfiles.h"
 #include "webhook/recorder/scriptline.h"
@@ -47,7 +47,7 @@ protected:
   /// What messages, each after its time in milliseconds and a bar, make of the open files.
   void record(RecordingFiles& files, const QStringList& messages) {
     RecordedCalls calls(files);
-    EventRecorder logger(calls);
+    ActRecorder logger(calls);
     Inspector::self()->attachRecorder(&calls);
     Inspector::self()->setRecording(true);
     for (const QString& message : messages) {
@@ -227,6 +227,18 @@ TEST_F(Recording, DialogsAreAnsweredAfterWhatOpenedThem) {
                       "3|confirm&ret=false", "4|enableFallbackWrapper", "5|prompt&ret=Zo%C3%AB%20&%26+ 100%"}),
             QString::fromUtf8(
                 "typeText(\"f\", \"a\");\ncloseAlert();\ncloseConfirm(false);\nclosePrompt(\"Zo\u00eb &&+ 100%\");"));
+}
+
+TEST_F(Recording, ActsStandInTheirOwnContextWithTheirOwnArguments) {
+  EXPECT_EQ(recorded({"0|dblclick&object={id='l'}&x=1&y=2&beside&context=a.html",
+                      "100|unrecorded&what=canvas&object={id='c'}&context=a.html", "200|promptCancelled",
+                      "300|hover&object={id='m'}&context=b.html"}),
+            R"(waitForContextExists("a.html");
+doubleClick("{id='l'}");
+// A press on the canvas {id='c'} is recorded by its place at most: what is there is known to the page alone.
+closePrompt(null);
+waitForContextExists("b.html");
+hover("{id='m'}");)");
 }
 
 TEST_F(Recording, FilesHoldEachLineAtOnceAndKeepWhatTheyHeld) {

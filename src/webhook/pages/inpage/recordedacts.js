@@ -21,8 +21,28 @@
     return "&x=" + Math.round(e.clientX - box.left) + "&y=" + Math.round(e.clientY - box.top);
   }
 
+  // What is recorded of an object later, when it may have another name and be in another place.
+  function noted(e) {
+    var object = objectAt(e);
+    return {
+      object: object,
+      name: __corvex__nameOf(object),
+      context: __corvex__contextOfForUrl(__corvex__currentContext(object)),
+      x: e.clientX,
+      y: e.clientY
+    };
+  }
+
+  // The overlay is no part of the page, and a press that picks goes to nobody.
+  function isOurs(e) {
+    return __corvex__isInfoDiv(__corvex__srcElement(e)) || !!window.__corvex__pickObject;
+  }
+
   // The browser's own menu is no part of the page.
   function noteMenu(e) {
+    if (isOurs(e)) {
+      return;
+    }
     var object = objectAt(e);
     var place = placeIn(e, object);
     __corvex__later(function () {
@@ -33,18 +53,18 @@
   }
 
   function noteDragStart(e) {
-    var object = objectAt(e);
-    dragged = { object: object, name: __corvex__nameOf(object) };
+    dragged = isOurs(e) ? null : noted(e);
   }
 
   function sendDrag(e, from, to) {
-    __corvex__sendLogEventData(e, "event=drag&object=" + from.name + "&to=" + __corvex__nameOf(to) + "&context=" +
-      __corvex__contextOfForUrl(__corvex__currentContext(to)) + __corvex__tabIdLogEventParameter(), true);
+    __corvex__sendLogEventData(e, "event=drag&object=" + from.name + "&to=" + __corvex__nameOf(to) + "&toContext=" +
+      __corvex__contextOfForUrl(__corvex__currentContext(to)) + "&context=" + from.context +
+      __corvex__tabIdLogEventParameter(), true);
   }
 
   function noteDrop(e) {
     // What comes from another window or program has not begun here.
-    if (dragged) {
+    if (dragged && !isOurs(e)) {
       sendDrag(e, dragged, objectAt(e));
     }
     dragged = null;
@@ -65,14 +85,15 @@
 
   function notePress(e) {
     var source = __corvex__srcElement(e);
-    pressed = e.button === 0 && !__corvex__isInfoDiv(source) ?
-      { object: objectAt(e), name: "", x: e.clientX, y: e.clientY } : null;
     dragged = null;
+    pressed = null;
+    if (isOurs(e)) {
+      return;
+    }
     if (__corvex__nodeReader.tagName(source) === "CANVAS" && !__corvex__isHookedWasmCanvas(source)) {
       cannotRecord(e, source, "canvas");
-    } else if (pressed) {
-      // Where it is dragged to, it may have another name.
-      pressed.name = __corvex__nameOf(pressed.object);
+    } else if (e.button === 0) {
+      pressed = noted(e);
     }
   }
 

@@ -100,7 +100,7 @@
 
   function notePress(e) {
     var source = __corvex__srcElement(e);
-    if (seen && !has(seen, source) && !__corvex__isInfoDiv(source)) {
+    if (seen && !has(seen, source) && !__corvex__isInfoDiv(source) && !window.__corvex__pickObject) {
       tellHovers(e, __corvex__eventObject(source));
     }
     lookSoon();

@@ -4,12 +4,8 @@
 //   runtime/longpoll, runtime/listeners, touch.
 
 function __corvex__enterEventContext(win, d, source) {
-  if (d) {
-    __corvex__windowState.ctxwin = __corvex__findDocument(win, d) || __corvex__windowState.ctxwin;
-    return;
-  }
   try {
-    var found = __corvex__findDocument(win, __corvex__getDocumentForNode(source));
+    var found = __corvex__findDocument(win, d || __corvex__getDocumentForNode(source));
     __corvex__windowState.ctxwin = found || __corvex__windowState.ctxwin;
   } catch (e) {
     // The source is no node, or its document is out of reach: the context stays.
