@@ -85,6 +85,13 @@ pressKeys("<Right><Right><Tab><Space><Tab><Space><Down><Tab><Down><Tab><Space><S
   });
 }
 
+TEST_F(Replay, OfPressesBesideAllElements) {
+  server.add("/blank.html", {R"(<!DOCTYPE html><p id='said'>short</p><script>
+document.documentElement.onclick = function (e) { if (e.target === this) { said.textContent += ";blank " + e.clientY; } };
+</script>)"});
+  check({{"/blank.html", "mouseClick('DOCUMENT.HTML1', 300, 400);", ";blank 400"}});
+}
+
 TEST_F(Replay, OfAnOrderAndOfDialogs) {
   server.serveFolder(QStringLiteral(CORVEX_TEST_SOURCE "/../examples/shop"), QStringLiteral("/shop/"));
   server.add("/dialogs.html", {R"(<button id='a' onclick='alert("Hello")'>Alert</button>

@@ -158,9 +158,23 @@ var __corvex__actionPoint = (function () {
     return !isSeen && now - looked.since < framelessMs && mayMove(o);
   }
 
-  function isInside(o, x, y) {
+  // The root goes on where the view ends, which may be smaller than it was when the place was noted.
+  function inView(root, x, y) {
+    var box = __corvex__askNode.Element.getBoundingClientRect(root);
+    return {
+      x: x > box.width ? Math.min(x, viewOf(root).innerWidth - 1 - box.left) : x,
+      y: y > box.height ? Math.min(y, viewOf(root).innerHeight - 1 - box.top) : y
+    };
+  }
+
+  // What flows over an element's box is its own, too; and all that no element covers is the root's.
+  function isBeyond(o, x, y) {
     var box = __corvex__askNode.Element.getBoundingClientRect(o);
-    return x >= 0 && y >= 0 && x <= box.width && y <= box.height;
+    if (x >= 0 && y >= 0 && x <= box.width && y <= box.height) {
+      return false;
+    }
+    var doc = __corvex__nodeReader.ownerDocument(o);
+    return !__corvex__hitTarget.isOwn(__corvex__hitTarget.at(doc, box.left + x, box.top + y), o);
   }
 
   // Whether its list shows its options in the page.
@@ -206,7 +220,12 @@ var __corvex__actionPoint = (function () {
     if (!rectOf(o) || !__corvex__isVisibleByStyle(o)) {
       return "hidden";
     }
-    if (x !== null && !isInside(o, x, y)) {
+    if (x !== null && o === __corvex__nodeReader.ownerDocument(o).documentElement) {
+      var place = inView(o, x, y);
+      x = place.x;
+      y = place.y;
+    }
+    if (x !== null && isBeyond(o, x, y)) {
       return "beyond";
     }
     if (isDisabled(o)) {
