@@ -1,5 +1,6 @@
 // Gives: __corvex__whilePageStays, __corvex__quietly and __corvex__kept: what was read is kept for one action's time.
 // Needs: runtime/natives, runtime/state.
+
 var __corvex__keptAnswers = null;
 
 // Calls action, which changes nothing in the page, and gives its answer. For actions that ask the same of the same
