@@ -15,13 +15,6 @@ QDeadlineTimer cappedByOuterWait(const QDeadlineTimer& deadline) {
   return innermostDeadline ? std::min(deadline, *innermostDeadline) : deadline;
 }
 
-/// The milliseconds that are left: a wait that ends with those that are over has ended too early.
-int roundedUp(const QDeadlineTimer& deadline) {
-  const qint64 nanosecondsPerMillisecond = 1000000;
-  const qint64 left = (deadline.remainingTimeNSecs() + nanosecondsPerMillisecond - 1) / nanosecondsPerMillisecond;
-  return int(std::clamp<qint64>(left, 0, INT_MAX));
-}
-
 class MachineClock : public Clock {
 public:
   MachineClock() { m_timer.start(); }
@@ -66,7 +59,7 @@ public:
     timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer, &QTimer::timeout, &m_loop, &QEventLoop::quit);
     if (!m_deadline.isForever()) {
-      timer.start(roundedUp(m_deadline));
+      timer.start(int(std::clamp<qint64>(m_deadline.remainingTime(), 0, INT_MAX)));
     }
     m_loop.exec();
     if (m_pending.isComplete()) {
