@@ -1,0 +1,136 @@
+#include "webhook/cli/runoptions.h"
+
+#include "corvexhook/objectmap.h"
+#include "shared/textfile.h"
+#include "webhook/cli/browseroptions.h"
+#include "webhook/cli/scriptchoice.h"
+
+#include <QRegularExpression>
+
+namespace Corvex::Webhook {
+
+namespace {
+
+const QCommandLineOption junitOption(QStringLiteral("junit"), QStringLiteral("Write the results as JUnit XML, too."),
+                                     QStringLiteral("file"));
+const QCommandLineOption objectMapOption(QStringLiteral("object-map"),
+                                         QStringLiteral("Take the symbolic names of objects from this file."),
+                                         QStringLiteral("file"));
+const QCommandLineOption failOnPageErrorOption(QStringLiteral("fail-on-page-error"),
+                                               QStringLiteral("Count an uncaught error of a page as a failed check."));
+const QCommandLineOption verboseOption(QStringLiteral("verbose"), QStringLiteral("Show the calls of objects, too."));
+
+const QCommandLineOption inputOption(
+    QStringLiteral("input"),
+    QStringLiteral("Who clicks and types: the browser, as for a person, or scripts in the page."),
+    QStringLiteral("browser|page"), QStringLiteral("browser"));
+const QCommandLineOption strictOption(QStringLiteral("strict"),
+                                      QStringLiteral("Act on no object whose name fits several."));
+const QCommandLineOption argumentOption(QStringLiteral("arg"),
+                                        QStringLiteral("Give scripts a text as script.arguments.NAME; repeatable."),
+                                        QStringLiteral("name=value"));
+const QCommandLineOption filterOption(
+    QStringLiteral("filter"),
+    QStringLiteral("Run only scripts whose paths, and test functions whose names, hold this text or, with * or ?, are "
+                   "like it; of several options one has to fit."),
+    QStringLiteral("text"));
+const QCommandLineOption credentialsOption(
+    QStringLiteral("credentials"),
+    QStringLiteral("What servers are told that ask for a user and a password: USER:PASSWORD, for one server alone with "
+                   "@http://host:port after it; or @ and a file with one of these a line, which keeps the password "
+                   "off the command line; repeatable."),
+    QStringLiteral("user:password"));
+const QCommandLineOption scriptTimeoutOption(QStringLiteral("script-timeout"),
+                                             QStringLiteral("End a script that takes longer; no limit without this."),
+                                             QStringLiteral("seconds"));
+
+QString readArguments(const QStringList& texts, QMap<QString, QString>* arguments) {
+  for (const QString& text : texts) {
+    const int equals = text.indexOf(QLatin1Char('='));
+    if (equals < 1) {
+      return QStringLiteral("--arg takes a name and its value, such as --arg server=test1, not '%1'.").arg(text);
+    }
+    arguments->insert(text.left(equals), text.mid(equals + 1));
+  }
+  return QString();
+}
+
+QString readScripts(const QCommandLineParser& parser, RunOptions* options) {
+  if (parser.positionalArguments().isEmpty()) {
+    return QStringLiteral("A script is missing.");
+  }
+  const QStringList filters = parser.values(filterOption);
+  if (filters.contains(QString())) {
+    return QStringLiteral("--filter needs a part of a path or of a test function's name.");
+  }
+  const auto choice = chooseScripts(parser.positionalArguments(), filters);
+  options->scripts = choice.value;
+  return choice.error;
+}
+
+/// An error, or an empty text.
+QString readCredentials(const QStringList& texts, QVector<Credentials>* credentials) {
+  QStringList all;
+  for (const QString& text : texts) {
+    const bool isFile = text.startsWith(QLatin1Char('@'));
+    const FunctionCallResult<QString> file = isFile ? readTextFile(text.mid(1)) : FunctionCallResult<QString>();
+    if (file.failed()) {
+      return QStringLiteral("--credentials: the file '%1' cannot be read: %2").arg(text.mid(1), file.error);
+    }
+    all += isFile ? file.value.split(QRegularExpression(QStringLiteral("\\r?\\n")), Qt::SkipEmptyParts)
+                  : QStringList{text};
+  }
+  for (const QString& text : all) {
+    const FunctionCallResult<Credentials> read = Authentication::read(text);
+    if (read.failed()) {
+      return QStringLiteral("--credentials takes %1; or @ and a file of such lines.").arg(read.error);
+    }
+    credentials->append(read.value);
+  }
+  return QString();
+}
+
+/// An error, or an empty text.
+QString readInput(const QCommandLineParser& parser, InputSettings* input) {
+  const QString who = parser.value(inputOption);
+  *input = {who == QLatin1String("page"), parser.isSet(strictOption)};
+  return input->inPage || who == QLatin1String("browser")
+             ? QString()
+             : QStringLiteral("--input takes browser or page, not '%1'.").arg(who);
+}
+
+}  // namespace
+
+void addRunOptions(QCommandLineParser& parser) {
+  addBrowserOptions(parser);
+  parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, failOnPageErrorOption, argumentOption,
+                     credentialsOption, filterOption, scriptTimeoutOption, verboseOption});
+  parser.addPositionalArgument(QStringLiteral("SCRIPT..."),
+                               QStringLiteral("The scripts, in JavaScript, or folders of them."));
+}
+
+QString readRunOptions(const QCommandLineParser& parser, RunOptions* options) {
+  QString error = readBrowserOptions(parser, &options->session);
+  options->junitFile = parser.value(junitOption);
+  options->failOnPageError = parser.isSet(failOnPageErrorOption);
+  options->verbose = parser.isSet(verboseOption);
+  if (error.isEmpty() && parser.isSet(scriptTimeoutOption)) {
+    error = readSeconds(parser, scriptTimeoutOption, &options->scriptTimeoutMs);
+  }
+  if (error.isEmpty()) {
+    error = readArguments(parser.values(argumentOption), &options->arguments);
+  }
+  if (error.isEmpty()) {
+    error = readCredentials(parser.values(credentialsOption), &options->credentials);
+  }
+  if (error.isEmpty()) {
+    error = readScripts(parser, options);
+  }
+  if (error.isEmpty()) {
+    error = readInput(parser, &options->input);
+  }
+  return error.isEmpty() && parser.isSet(objectMapOption) ? ObjectMap::self()->load(parser.value(objectMapOption))
+                                                          : error;
+}
+
+}  // namespace Corvex::Webhook
