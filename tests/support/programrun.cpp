@@ -17,6 +17,7 @@ const int checkIntervalMs = 20;
 ProgramRun::ProgramRun() : m_environment(QProcessEnvironment::systemEnvironment()) {
   m_environment.insert(QStringLiteral("TMPDIR"), m_temporary.path());
   m_environment.insert(QStringLiteral("CORVEX_USER_SETTINGS_DIR"), m_folder.path());
+  m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_folder.filePath(QStringLiteral(".cache")));
   m_process.setWorkingDirectory(m_folder.path());
 }
 

@@ -6,9 +6,11 @@
 #include "scripting/report/junitreporter.h"
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
+#include "webhook/cli/lastfailed.h"
 #include "webhook/cli/output.h"
 #include "webhook/cli/runoptions.h"
 #include "webhook/cli/savetree.h"
+#include "webhook/cli/scriptchoice.h"
 #include "webhook/run/browsercontrol.h"
 #include "webhook/run/browserfunctions.h"
 
@@ -20,12 +22,19 @@ int runScripts(const RunOptions& options) {
   using namespace Scripting;
   ConsoleReporter console(stdout,
                           options.verbose ? ConsoleReporter::Detail::ObjectCalls : ConsoleReporter::Detail::Steps);
+  ProgressLine progress(stdout, int(options.scripts.size()));
+  console.setProgress(&progress);
+  LastFailed lastFailed;
+  // What cannot be read is written anew.
+  lastFailed.read();
   JUnitReporter junit(options.junitFile);
   BrowserControl browser(options.session, options.input, options.credentials);
   browser.setFailOnPageError(options.failOnPageError);
   ListenerGroup listeners;
   listeners.add(&browser);
   listeners.add(&console);
+  listeners.add(&progress);
+  listeners.add(&lastFailed);
   if (!options.junitFile.isEmpty()) {
     const QString error = junit.open();
     if (!error.isEmpty()) {
@@ -39,9 +48,15 @@ int runScripts(const RunOptions& options) {
   host.arguments = options.arguments;
   ScriptEngine engine(host, &listeners);
   engine.setScriptTimeout(options.scriptTimeoutMs);
+  beforeErrors([&progress] { progress.hide(); });
   // Nobody would see what the rest does.
   console.setOutputEnd([&engine] { engine.interrupt(); });
-  const RunSummary summary = engine.run(options.scripts);
+  const RunSummary summary = engine.run(options.scripts, options.policy);
+  beforeErrors(nullptr);
+  const QString notNoted = lastFailed.save();
+  if (!notNoted.isEmpty()) {
+    printError(QStringLiteral("corvexweb run: %1\n").arg(notNoted));
+  }
   if (!junit.error().isEmpty()) {
     printError(QStringLiteral("corvexweb run: %1\n").arg(junit.error()));
   }
@@ -68,7 +83,13 @@ int runScriptsCommand(const QStringList& arguments) {
   }
   RunOptions options;
   const QString error = readRunOptions(parser, &options);
-  return error.isEmpty() ? runScripts(options) : wrongUsage(arguments.value(0), error);
+  if (!error.isEmpty()) {
+    return wrongUsage(arguments.value(0), error);
+  }
+  if (!options.notice.isEmpty()) {
+    printError(QStringLiteral("corvexweb run: %1\n").arg(options.notice));
+  }
+  return options.lists ? printOut(scriptList(options.scripts), ExitCode::Success) : runScripts(options);
 }
 
 }  // namespace Corvex::Webhook

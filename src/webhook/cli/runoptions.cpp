@@ -3,9 +3,13 @@
 #include "corvexhook/objectmap.h"
 #include "shared/textfile.h"
 #include "webhook/cli/browseroptions.h"
+#include "webhook/cli/lastfailed.h"
 #include "webhook/cli/scriptchoice.h"
 
 #include <QRegularExpression>
+
+#include <algorithm>
+#include <iterator>
 
 namespace Corvex::Webhook {
 
@@ -44,6 +48,73 @@ const QCommandLineOption scriptTimeoutOption(QStringLiteral("script-timeout"),
                                              QStringLiteral("End a script that takes longer; no limit without this."),
                                              QStringLiteral("seconds"));
 
+const QCommandLineOption listOption(QStringLiteral("list"),
+                                    QStringLiteral("Print the scripts and test functions that would run; run none."));
+const QCommandLineOption lastFailedOption(
+    QStringLiteral("last-failed"),
+    QStringLiteral("Run only scripts that failed when they last ran from this folder; all if none of them did."));
+const QCommandLineOption jobsOption(
+    QStringLiteral("jobs"),
+    QStringLiteral("Run so many scripts side by side, each in a process of its own: 1 at first."),
+    QStringLiteral("number"));
+const QCommandLineOption retriesOption(
+    QStringLiteral("retries"),
+    QStringLiteral("Run a script that failed again, up to so often. One that passes then is flaky, and no failure."),
+    QStringLiteral("number"));
+const QCommandLineOption stopAfterOption(QStringLiteral("stop-after"),
+                                         QStringLiteral("Begin no script any more when so many have failed."),
+                                         QStringLiteral("number"));
+
+struct CountOption {
+  const QCommandLineOption* option;
+  int least;
+  int most;
+  int* (*place)(RunOptions* options);
+};
+
+const CountOption countOptions[] = {
+    {&jobsOption, 1, 64, [](RunOptions* options) { return &options->jobs; }},
+    {&retriesOption, 0, 100, [](RunOptions* options) { return &options->policy.retries; }},
+    {&stopAfterOption, 1, 1000000, [](RunOptions* options) { return &options->policy.stopAfter; }},
+};
+
+/// An error, or an empty text.
+QString readCounts(const QCommandLineParser& parser, RunOptions* options) {
+  for (const CountOption& row : countOptions) {
+    if (!parser.isSet(*row.option)) {
+      continue;
+    }
+    const QString text = parser.value(*row.option);
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (!isNumber || number < row.least || number > row.most) {
+      return QStringLiteral("--%1 takes a number from %2 to %3, not '%4'.")
+          .arg(row.option->names().constLast())
+          .arg(row.least)
+          .arg(row.most)
+          .arg(text);
+    }
+    *row.place(options) = number;
+  }
+  return options->jobs > 1 && !options->session.attachTo.isEmpty()
+             ? QStringLiteral("--jobs cannot stand beside --attach: scripts side by side cannot share a browser.")
+             : QString();
+}
+
+void keepLastFailed(RunOptions* options) {
+  LastFailed lastFailed;
+  const QString error = lastFailed.read();
+  std::vector<Scripting::ScriptChoice> kept;
+  std::copy_if(options->scripts.begin(), options->scripts.end(), std::back_inserter(kept),
+               [&lastFailed](const Scripting::ScriptChoice& script) { return lastFailed.contains(script.path); });
+  if (kept.empty()) {
+    const QString why = error.isEmpty() ? QStringLiteral("None of the scripts failed when it last ran.") : error;
+    options->notice = why + QStringLiteral(" All of them run.");
+  } else {
+    options->scripts = kept;
+  }
+}
+
 QString readArguments(const QStringList& texts, QMap<QString, QString>* arguments) {
   for (const QString& text : texts) {
     const int equals = text.indexOf(QLatin1Char('='));
@@ -65,6 +136,9 @@ QString readScripts(const QCommandLineParser& parser, RunOptions* options) {
   }
   const auto choice = chooseScripts(parser.positionalArguments(), filters);
   options->scripts = choice.value;
+  if (!choice.failed() && parser.isSet(lastFailedOption)) {
+    keepLastFailed(options);
+  }
   return choice.error;
 }
 
@@ -104,7 +178,8 @@ QString readInput(const QCommandLineParser& parser, InputSettings* input) {
 void addRunOptions(QCommandLineParser& parser) {
   addBrowserOptions(parser);
   parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, failOnPageErrorOption, argumentOption,
-                     credentialsOption, filterOption, scriptTimeoutOption, verboseOption});
+                     credentialsOption, filterOption, lastFailedOption, listOption, jobsOption, retriesOption,
+                     stopAfterOption, scriptTimeoutOption, verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."),
                                QStringLiteral("The scripts, in JavaScript, or folders of them."));
 }
@@ -116,6 +191,10 @@ QString readRunOptions(const QCommandLineParser& parser, RunOptions* options) {
   options->verbose = parser.isSet(verboseOption);
   if (error.isEmpty() && parser.isSet(scriptTimeoutOption)) {
     error = readSeconds(parser, scriptTimeoutOption, &options->scriptTimeoutMs);
+  }
+  options->lists = parser.isSet(listOption);
+  if (error.isEmpty()) {
+    error = readCounts(parser, options);
   }
   if (error.isEmpty()) {
     error = readArguments(parser.values(argumentOption), &options->arguments);

@@ -18,6 +18,10 @@ namespace Corvex::Webhook {
 struct RunOptions {
   SessionOptions session;
   std::vector<Scripting::ScriptChoice> scripts;
+  Scripting::RunPolicy policy;
+  /// How many scripts run side by side.
+  int jobs = 1;
+  bool lists = false;
   QMap<QString, QString> arguments;
   QVector<Credentials> credentials;
   int scriptTimeoutMs = 0;
@@ -25,6 +29,8 @@ struct RunOptions {
   InputSettings input;
   bool failOnPageError = false;
   bool verbose = false;
+  /// What the user is to know of how the options were taken.
+  QString notice;
 };
 
 /// Adds the options of `corvexweb run`.
