@@ -78,7 +78,7 @@ TEST_F(HostileText, IsVisibleWhereAPageIsShown) {
   for (const QStringList& arguments : {QStringList{"dump", page, "-o", "dump\u200b.json"},
                                        {"tree", "none\u202e\u001b[2J.html"},
                                        {"run", "none\u202e.js"},
-                                       {"tree", "--depth", "\u2066"}}) {
+                                       {"tree", "--depth", "\u2066", "x"}}) {
     const ProgramResult result = m_program.run(arguments);
     EXPECT_TRUE((result.output + result.errors).contains(QLatin1String("\\u20"))) << qPrintable(result.errors);
     EXPECT_TRUE(isVisible(result.output + result.errors)) << qPrintable(result.output + result.errors);
