@@ -22,7 +22,7 @@ struct Subject {
 // The first one has the round trip, which the others are compared with.
 const Subject subjects[] = {
     {"lookups", measureLookups},     {"page", measureInPage}, {"messages", measureMessages},
-    {"recording", measureRecording}, {"start", measureStart},
+    {"recording", measureRecording}, {"dump", measureDump},   {"start", measureStart},
 };
 
 bool isSubject(const QString& name) {
@@ -58,12 +58,12 @@ int main(int argc, char** argv) {
                     QStringLiteral("NAME")});
   parser.addOption(
       {QStringLiteral("only"),
-       QStringLiteral("Measure the round trip and one subject: lookups, page, messages, recording or start."),
+       QStringLiteral("Measure the round trip and one subject: lookups, page, messages, recording, dump or start."),
        QStringLiteral("SUBJECT")});
   parser.process(application);
   const QString only = parser.value(QStringLiteral("only"));
   if (!only.isEmpty() && !isSubject(only)) {
-    fail(QStringLiteral("There is no subject '%1'; say lookups, page, messages, recording or start.").arg(only));
+    fail(QStringLiteral("There is no subject '%1'; say lookups, page, messages, recording, dump or start.").arg(only));
     return 2;
   }
   const QStringList wanted = parser.values(QStringLiteral("browser"));

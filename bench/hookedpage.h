@@ -19,6 +19,7 @@ public:
   QString start(const Corvex::Webhook::SessionOptions& options, bool isRecorded = false);
 
   Corvex::Webhook::Connection& connection() { return *m_windows->current(); }
+  Corvex::Webhook::BrowserWindows& windows() { return *m_windows; }
   Corvex::Webhook::MessageEndpoint& endpoint() { return m_endpoint; }
 
 private:

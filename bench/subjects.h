@@ -21,6 +21,9 @@ bool measureMessages(const SessionOptions& options, Report& report);
 /// What an event costs in a page that is recorded, beside one that nobody listens to.
 bool measureRecording(const SessionOptions& options, Report& report);
 
+/// What it costs to read a page whole, beside one picture of it.
+bool measureDump(const SessionOptions& options, Report& report);
+
 /// What the start of the program costs beside the browser's own.
 bool measureStart(const SessionOptions& options, Report& report);
 

@@ -208,11 +208,15 @@
 
   Corvex.addPropertyMatcherFactory(function (property, value, objectName) {
     var isPlain = __corvex__plainTestOfProperty(property, value);
-    var question = questionFor(value);
-    var isTold = isToldByLetters(objectName);
+    var question = null;
+    var isTold = false;
     function matchObject(o) {
       if (__corvex__keptAnswers && property === "simplifiedInnerText") {
         return keptTextMatches(o, value);
+      }
+      if (!question) {
+        question = questionFor(value);
+        isTold = isToldByLetters(objectName);
       }
       var text = __corvex__nodeReader.textContent(o);
       if (!question.fits.test(text)) {
@@ -221,6 +225,11 @@
       return isPlain(o) || textMatches(property, value, text) ||
         (!isShownOtherwise(o, text, question) && textMatches(property, value, __corvex__shownText(o)));
     }
-    return { matchObject: matchObject };
+    return {
+      matchObject: matchObject,
+      exactTexts: property !== "simplifiedInnerText" ? undefined : function (o) {
+        return __corvex__kept(simplifiedTexts, o);
+      }
+    };
   }, ["innerText", "simplifiedInnerText"]);
 })();

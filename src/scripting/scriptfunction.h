@@ -38,7 +38,8 @@ struct ScriptFunction {
 /// What happened beside the script.
 struct HostNews {
   QString text;
-  bool isFailure = false;  ///< It counts as a failed check.
+  bool isFailure = false;                     ///< It counts as a failed check.
+  QString kind = QStringLiteral("uncaught");  ///< See `PageMessage`.
 };
 
 /// What the process that embeds the engine offers to scripts.

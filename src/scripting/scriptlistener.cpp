@@ -4,15 +4,23 @@ namespace Corvex::Scripting {
 
 ScriptListener::~ScriptListener() = default;
 
+void ScriptListener::environment(const QVector<Fact>&) {}
+
 void ScriptListener::scriptStarted(const QString&) {}
 
-void ScriptListener::step(const QString&, qint64) {}
+void ScriptListener::step(const Step&) {}
 
-void ScriptListener::objectCall(const QString&, qint64) {}
+void ScriptListener::objectCall(const Step&) {}
 
-void ScriptListener::check(bool, const QString&, const ScriptTrace&) {}
+void ScriptListener::check(const Check&) {}
 
 void ScriptListener::log(const QString&) {}
+
+void ScriptListener::pageMessage(const PageMessage&) {}
+
+void ScriptListener::picture(const Picture&) {}
+
+void ScriptListener::tree(const QByteArray&) {}
 
 void ScriptListener::groupStarted(const QString&) {}
 
@@ -26,33 +34,57 @@ void ScriptListener::scriptFinished(const ScriptResult&) {}
 
 void ScriptListener::runFinished(const RunSummary&) {}
 
+void ListenerGroup::environment(const QVector<Fact>& facts) {
+  for (ScriptListener* listener : m_listeners) {
+    listener->environment(facts);
+  }
+}
+
 void ListenerGroup::scriptStarted(const QString& path) {
   for (ScriptListener* listener : m_listeners) {
     listener->scriptStarted(path);
   }
 }
 
-void ListenerGroup::step(const QString& text, qint64 durationMs) {
+void ListenerGroup::step(const Step& step) {
   for (ScriptListener* listener : m_listeners) {
-    listener->step(text, durationMs);
+    listener->step(step);
   }
 }
 
-void ListenerGroup::objectCall(const QString& text, qint64 durationMs) {
+void ListenerGroup::objectCall(const Step& call) {
   for (ScriptListener* listener : m_listeners) {
-    listener->objectCall(text, durationMs);
+    listener->objectCall(call);
   }
 }
 
-void ListenerGroup::check(bool passed, const QString& text, const ScriptTrace& trace) {
+void ListenerGroup::check(const Check& check) {
   for (ScriptListener* listener : m_listeners) {
-    listener->check(passed, text, trace);
+    listener->check(check);
   }
 }
 
 void ListenerGroup::log(const QString& text) {
   for (ScriptListener* listener : m_listeners) {
     listener->log(text);
+  }
+}
+
+void ListenerGroup::pageMessage(const PageMessage& message) {
+  for (ScriptListener* listener : m_listeners) {
+    listener->pageMessage(message);
+  }
+}
+
+void ListenerGroup::picture(const Picture& picture) {
+  for (ScriptListener* listener : m_listeners) {
+    listener->picture(picture);
+  }
+}
+
+void ListenerGroup::tree(const QByteArray& json) {
+  for (ScriptListener* listener : m_listeners) {
+    listener->tree(json);
   }
 }
 

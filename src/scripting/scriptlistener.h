@@ -2,23 +2,30 @@
 
 #include <vector>
 
-#include "scripting/scriptresult.h"
+#include "scripting/scriptevents.h"
 
 namespace Corvex::Scripting {
 
-/// Told of what a running script does, while it does it. Every operation does
-/// nothing until it is overridden.
+/// Told of what a running script does, while it does it. All that it is told is plain data, so that it can be written
+/// down and told again elsewhere. Every operation does nothing until it is overridden.
 class CORVEXSCRIPTING_EXPORT ScriptListener {
 public:
   virtual ~ScriptListener();
+  /// Facts about all that follows, or, while a script runs, about that script. One of the same name replaces the
+  /// former.
+  virtual void environment(const QVector<Fact>& facts);
   virtual void scriptStarted(const QString& path);
   /// A global function was called and has ended, well or not.
-  virtual void step(const QString& text, qint64 durationMs);
+  virtual void step(const Step& step);
   /// A member of an object was used.
-  virtual void objectCall(const QString& text, qint64 durationMs);
-  /// `trace` is where the check stands.
-  virtual void check(bool passed, const QString& text, const ScriptTrace& trace);
+  virtual void objectCall(const Step& call);
+  virtual void check(const Check& check);
   virtual void log(const QString& text);
+  virtual void pageMessage(const PageMessage& message);
+  /// Belongs to the check, the step or the error before it.
+  virtual void picture(const Picture& picture);
+  /// The objects of the page of the picture before it, as JSON that its viewer understands.
+  virtual void tree(const QByteArray& json);
   /// A group of `test.step` begins, perhaps in another one; what follows belongs to it.
   virtual void groupStarted(const QString& title);
   /// `error` is what the group was left with; empty when it ran to its end.
@@ -35,11 +42,15 @@ class CORVEXSCRIPTING_EXPORT ListenerGroup : public ScriptListener {
 public:
   void add(ScriptListener* listener) { m_listeners.push_back(listener); }
 
+  void environment(const QVector<Fact>& facts) override;
   void scriptStarted(const QString& path) override;
-  void step(const QString& text, qint64 durationMs) override;
-  void objectCall(const QString& text, qint64 durationMs) override;
-  void check(bool passed, const QString& text, const ScriptTrace& trace) override;
+  void step(const Step& step) override;
+  void objectCall(const Step& call) override;
+  void check(const Check& check) override;
   void log(const QString& text) override;
+  void pageMessage(const PageMessage& message) override;
+  void picture(const Picture& picture) override;
+  void tree(const QByteArray& json) override;
   void groupStarted(const QString& title) override;
   void groupFinished(const QString& title, const QString& error, qint64 durationMs) override;
   void functionStarted(const QString& name) override;

@@ -78,6 +78,55 @@ TEST(Dump, IsJsonAndXmlForPrograms) {
   EXPECT_GT(objects, 15);
 }
 
+// Grows by rule, so that depths, shadow trees and empty elements come in any order.
+const char* const forest = R"HTML(<body><script>
+var seed = 7;
+function next(n) { seed = (seed * 16807) % 2147483647; return seed % n; }
+function grow(parent, left) {
+  while (left > 0) {
+    var child = document.createElement(["div", "p", "ul", "b", "section"][next(5)]);
+    var below = next(left);
+    child.id = "n" + left;
+    parent.appendChild(child);
+    parent.appendChild(document.createTextNode("text"));
+    grow(child.tagName === "SECTION" ? child.attachShadow({ mode: "open" }) : child, below);
+    left -= below + 1;
+  }
+}
+grow(document.body, 300);
+function walk(node) {
+  var own = (node.tagName || "#") + (node.id || "") + "(";
+  for (var child = node.firstElementChild; child; child = child.nextElementSibling) { own += walk(child); }
+  return own + (node.shadowRoot ? walk(node.shadowRoot) : "") + ")";
+}
+</script></body>)HTML";
+
+const char* const walker =
+    R"JS(startBrowser("forest.html"); saveTree("forest.json"); test.log("walked " + retrieveJSObject("walk(document.documentElement)"));)JS";
+
+QString asText(const QJsonObject& object) {
+  const QJsonObject properties = object.value("properties").toObject();
+  const QString tag = properties.value("tagName").toString();
+  QString text = (tag.isEmpty() ? QStringLiteral("#") : tag) + properties.value("id").toString() + u'(';
+  for (const QJsonValue& child : object.value("children").toArray()) {
+    text += asText(child.toObject());
+  }
+  return text + u')';
+}
+
+TEST(Dump, HoldsTheTreeThatAPlainWalkOfThePageMeets) {
+  ProgramRun program;
+  program.write(QStringLiteral("forest.html"), QString::fromLatin1(forest));
+  program.write(QStringLiteral("walker.js"), QString::fromLatin1(walker));
+  const ProgramResult result = program.run({"run", "walker.js"});
+  EXPECT_EQ(result.exitCode, 0) << qPrintable(result.output + result.errors);
+  const QString walked = result.output.section(QStringLiteral("walked "), 1).section(u'\n', 0, 0).trimmed();
+  const QJsonObject document =
+      QJsonDocument::fromJson(bytesOf(program, "forest.json")).object().value("documents").toArray().at(0).toObject();
+  EXPECT_GT(walked.size(), 2000);
+  EXPECT_EQ(asText(document.value("children").toArray().at(0).toObject()), walked);
+}
+
 TEST(Dump, RefusesAFileThatCannotBeWritten) {
   ProgramRun program;
   program.write(QStringLiteral("page.html"), QString::fromLatin1(page));

@@ -15,14 +15,15 @@ namespace FakeModel {
 /// Writes down what a listener is told, a line each.
 class RecordingListener : public Corvex::Scripting::ScriptListener {
 public:
-  void step(const QString& text, qint64) override { lines << QStringLiteral("step ") + text; }
-  void objectCall(const QString& text, qint64) override { objectCalls << text; }
-  void check(bool passed, const QString& text, const Corvex::Scripting::ScriptTrace& trace) override {
+  void step(const Corvex::Scripting::Step& step) override { lines << QStringLiteral("step ") + step.text; }
+  void objectCall(const Corvex::Scripting::Step& call) override { objectCalls << call.text; }
+  void check(const Corvex::Scripting::Check& check) override {
     lines << QStringLiteral("%1 %2 line %3")
-                 .arg(passed ? QStringLiteral("passed") : QStringLiteral("failed"), text,
-                      QString::number(trace.front().line));
+                 .arg(check.passed ? QStringLiteral("passed") : QStringLiteral("failed"), check.text,
+                      QString::number(check.trace.front().line));
   }
   void log(const QString& text) override { lines << QStringLiteral("log ") + text; }
+  void pageMessage(const Corvex::Scripting::PageMessage& message) override { log(message.text); }
   void groupStarted(const QString& title) override { lines << QStringLiteral("begin ") + title; }
   void groupFinished(const QString& title, const QString& error, qint64) override {
     lines << (QStringLiteral("end %1 ").arg(title) + error).trimmed();

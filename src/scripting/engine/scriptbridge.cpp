@@ -10,6 +10,7 @@
 #include <QJsonObject>
 #include <QProcessEnvironment>
 #include <QQmlEngine>
+#include <algorithm>
 
 #include "corvexhook/hostservices.h"
 #include "corvexhook/inspector.h"
@@ -24,6 +25,8 @@ namespace Corvex::Scripting {
 namespace {
 
 const int maxStepText = 160;
+
+const std::size_t mostCallsOfStep = 5;
 
 QJSValueList entriesOf(const QJSValue& array) {
   QJSValueList entries;
@@ -61,7 +64,10 @@ ScriptBridge::ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCall
       m_waits(m_values),
       m_takeNews(host.takeNews) {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+  m_calls->setPlace([this] { return here(); });
 }
+
+ScriptBridge::~ScriptBridge() { m_calls->setPlace({}); }
 
 QString ScriptBridge::errorText(const QJSValue& thrown) const {
   return m_errors.textOf(thrown, m_functions.names() + Waits::names());
@@ -188,10 +194,9 @@ QJSValue ScriptBridge::callFunction(const QString& name, const QJSValue& argumen
   const ObjectResult first = list.failed() ? m_values.fromScript(arguments.property(0)) : ObjectResult();
   const ObjectResult result =
       list.failed() ? unusableArguments(name, first.value, list.error) : m_functions.call(name, list.value);
-  tellStep(name, arguments, timer.elapsed());
+  tellStep(name, arguments, timer.elapsed(), result.error);
   if (m_interruption->isScriptEnded() && m_stackOfEnd.isEmpty()) {
-    const QJSValue here = m_engine->newErrorObject(QJSValue::GenericError);
-    m_stackOfEnd = here.property(QStringLiteral("stack")).toString();
+    m_stackOfEnd = stackHere();
   }
   if (result.failed() || !function || !function->givesJson || !result.value) {
     return finished(result);
@@ -237,14 +242,24 @@ void ScriptBridge::tellNews(const QString& stack) {
     if (news.isFailure) {
       m_checks.fail(news.text, m_files->traceOf(stack));
     } else {
-      m_listener->log(news.text);
+      m_listener->pageMessage({news.kind, news.text});
     }
   }
 }
 
-void ScriptBridge::tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs) {
+QString ScriptBridge::stackHere() const {
+  return m_engine->newErrorObject(QJSValue::GenericError).property(QStringLiteral("stack")).toString();
+}
+
+ScriptTrace ScriptBridge::here() const {
+  ScriptTrace trace = m_files->traceOf(stackHere());
+  trace.resize(std::min(trace.size(), mostCallsOfStep));
+  return trace;
+}
+
+void ScriptBridge::tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs, const QString& error) {
   if (m_waiting == 0) {
-    m_listener->step(stepText(name, arguments), durationMs);
+    m_listener->step({stepText(name, arguments), durationMs, here(), error});
   }
 }
 
@@ -259,7 +274,7 @@ QJSValue ScriptBridge::callCheck(const QString& name, const QJSValue& arguments,
 }
 
 bool ScriptBridge::noteCheck(bool passed, const QString& text, const QString& stack) {
-  return m_checks.note(passed, text, m_files->traceOf(stack));
+  return m_checks.note({passed, text, m_files->traceOf(stack), {}});
 }
 
 void ScriptBridge::beginGroup(const QString& title) { m_checks.beginGroup(title); }
@@ -319,7 +334,7 @@ QJSValue ScriptBridge::wait(const QString& name, const QJSValue& arguments, cons
   const Waits::Answer answer =
       m_waits.wait(name, entriesOf(arguments), attempt, [this](const QJSValue& thrown) { return errorText(thrown); });
   --m_waiting;
-  tellStep(name, arguments, timer.elapsed());
+  tellStep(name, arguments, timer.elapsed(), answer.error);
   if (answer.failed()) {
     m_engine->throwError(answer.error);
   }
@@ -340,7 +355,8 @@ QJSValue ScriptBridge::source(const QString& path, const QString& stack) {
   const ScriptLocation caller = m_files->traceOf(stack).front();
   const QDir directory = QFileInfo(caller.file).absoluteDir();
   const Evaluation evaluation = evaluateFile(m_engine, m_files, QDir::cleanPath(directory.absoluteFilePath(path)));
-  m_listener->step(QStringLiteral("source ") + path, timer.elapsed());
+  const QString error = evaluation.failed ? errorText(evaluation.thrown) : QString();
+  m_listener->step({QStringLiteral("source ") + path, timer.elapsed(), here(), error});
   QJSValue outcome = m_engine->newObject();
   outcome.setProperty(QStringLiteral("failed"), evaluation.failed);
   outcome.setProperty(QStringLiteral("error"), evaluation.thrown);

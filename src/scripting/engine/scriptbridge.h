@@ -28,6 +28,7 @@ public:
   /// Borrows all but the functions of the host.
   ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCalls* calls, ScriptListener* listener,
                ScriptFiles* files, Interruption* interruption);
+  ~ScriptBridge() override;
 
   Checks& checks() { return m_checks; }
 
@@ -93,7 +94,10 @@ private:
   QJSValue scriptObject(const QMap<QString, QString>& texts) const;
   FunctionCallResult<ObjectList> argumentsFor(const ScriptFunction* function, const QJSValue& arguments);
   QJSValue finished(const ObjectResult& result);
-  void tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs);
+  void tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs, const QString& error);
+  QString stackHere() const;
+  /// Where the script is; of many calls the innermost.
+  ScriptTrace here() const;
   QString stepText(const QString& name, const QJSValue& arguments) const;
 
   QJSEngine* m_engine;

@@ -64,15 +64,16 @@ Checks::Answer Checks::compare(const Call& call) {
   if (difference.failed()) {
     return Answer::failure(difference.error);
   }
-  const QString shown = valueText(m_context.values, actual);
+  const Comparison compared = {valueText(m_context.values, actual), valueText(m_context.values, expected)};
   QString text = difference.value.isNone
-                     ? QStringLiteral("got %1 as expected").arg(shown)
-                     : QStringLiteral("got %1, but expected %2").arg(shown, valueText(m_context.values, expected));
+                     ? QStringLiteral("got %1 as expected").arg(compared.actual)
+                     : QStringLiteral("got %1, but expected %2").arg(compared.actual, compared.expected);
   if (!difference.value.path.isEmpty()) {
     text += QStringLiteral("; they differ at %1: %2").arg(difference.value.path, difference.value.text);
   }
   const QString message = messageOf(call.arguments, 2);
-  return checked(difference.value.isNone, message.isEmpty() ? text : message + QLatin1String(": ") + text, call.trace);
+  text = message.isEmpty() ? text : message + QLatin1String(": ") + text;
+  return Answer::success(QJSValue(note({difference.value.isNone, text, call.trace, compared})));
 }
 
 Checks::Answer Checks::compareScreenshot(const Call& call) {
@@ -132,18 +133,18 @@ Checks::Answer Checks::log(const Call& call) {
   return Answer::success(QJSValue());
 }
 
-bool Checks::note(bool passed, const QString& text, const ScriptTrace& trace) {
-  if (passed) {
+bool Checks::note(const Check& check) {
+  if (check.passed) {
     ++m_outcome->checksPassed;
   } else {
     QStringList titles;
     for (const Group& group : m_groups) {
       titles << group.title;
     }
-    m_outcome->failedChecks.push_back({text, trace, titles});
+    m_outcome->failedChecks.push_back({check.text, check.trace, titles});
   }
-  m_context.listener->check(passed, text, trace);
-  return passed;
+  m_context.listener->check(check);
+  return check.passed;
 }
 
 void Checks::beginGroup(const QString& title) {

@@ -38,10 +38,10 @@ public:
   /// "test.verify" and so on.
   static QStringList names();
   /// A check that fails without the script.
-  void fail(const QString& text, const ScriptTrace& trace) { note(false, text, trace); }
+  void fail(const QString& text, const ScriptTrace& trace) { note({false, text, trace, {}}); }
   Answer call(const QString& name, const QJSValueList& arguments, const ScriptTrace& trace);
   /// Counts a check; answers whether it has passed.
-  bool note(bool passed, const QString& text, const ScriptTrace& trace);
+  bool note(const Check& check);
 
   void beginGroup(const QString& title);
   void endGroup(const QString& error);
@@ -75,7 +75,7 @@ private:
   Answer skip(const Call& call);
   Answer log(const Call& call);
   Answer checked(bool passed, const QString& text, const ScriptTrace& trace) {
-    return Answer::success(QJSValue(note(passed, text, trace)));
+    return Answer::success(QJSValue(note({passed, text, trace, {}})));
   }
   FunctionCallResult<QImage> pictureOf(const QJSValue& object) const;
 

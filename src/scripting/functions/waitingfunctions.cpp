@@ -27,7 +27,9 @@ ObjectResult pause(const FunctionCall& call) {
   // A script that knows of its lost browser may pause all the same.
   const QString known = Inspector::self()->whyNotGoOn();
   QString end;
-  poll(static_cast<int>(seconds * 1000 + 0.5), pauseIntervalMs, [&] {
+  // The clock counts whole milliseconds, and the first of them may be almost over.
+  const int milliseconds = seconds > 0 ? static_cast<int>(seconds * 1000 + 0.5) + 1 : 0;
+  poll(milliseconds, pauseIntervalMs, [&] {
     end = Inspector::self()->whyNotGoOn();
     return !end.isEmpty() && end != known;
   });

@@ -217,8 +217,9 @@ ObjectResult MemberCalls::observed(const QString& text, const std::function<Shar
   QElapsedTimer timer;
   timer.start();
   const SharedPtr<Object> value = call();
-  m_listener->objectCall(text, timer.elapsed());
+  const qint64 durationMs = timer.elapsed();
   const QString error = Inspector::self()->takeScriptError();
+  m_listener->objectCall({text, durationMs, m_place ? m_place() : ScriptTrace(), error});
   return error.isEmpty() ? ObjectResult::success(value) : ObjectResult::failure(error);
 }
 

@@ -17,6 +17,9 @@ class MemberCalls {
 public:
   explicit MemberCalls(ScriptListener* listener) : m_listener(listener) {}
 
+  /// Tells where the script is that runs, for reports.
+  void setPlace(const std::function<ScriptTrace()>& place) { m_place = place; }
+
   ObjectResult callMethod(const SharedPtr<Object>& object, const QString& name, const ObjectList& arguments);
   /// A method that needs no object.
   ObjectResult callStatic(const Class* cls, const QString& name, const ObjectList& arguments);
@@ -38,6 +41,7 @@ private:
   ObjectResult observed(const QString& text, const std::function<SharedPtr<Object>()>& call);
 
   ScriptListener* m_listener;
+  std::function<ScriptTrace()> m_place;
   QSet<const Method*> m_warned;
 };
 

@@ -30,25 +30,29 @@ void ConsoleReporter::scriptStarted(const QString& path) {
   print(m_attempt > 1 ? QStringLiteral("%1, attempt %2").arg(path).arg(m_attempt) : path);
 }
 
-void ConsoleReporter::step(const QString& text, qint64 durationMs) {
-  print(seconds(durationMs) + QLatin1String("  ") + text);
-}
+void ConsoleReporter::step(const Step& step) { print(seconds(step.durationMs) + QLatin1String("  ") + step.text); }
 
-void ConsoleReporter::objectCall(const QString& text, qint64 durationMs) {
+void ConsoleReporter::objectCall(const Step& call) {
   if (m_detail == Detail::ObjectCalls) {
-    print(seconds(durationMs) + QLatin1String("    ") + text, Colour::Dim);
+    print(seconds(call.durationMs) + QLatin1String("    ") + call.text, Colour::Dim);
   }
 }
 
-void ConsoleReporter::check(bool passed, const QString& text, const ScriptTrace& trace) {
-  if (passed) {
-    print(QLatin1String("  passed  ") + text, Colour::Green);
+void ConsoleReporter::check(const Check& check) {
+  if (check.passed) {
+    print(QLatin1String("  passed  ") + check.text, Colour::Green);
   } else {
-    print(QStringLiteral("  FAILED  %1 (%2)").arg(text, traceText(trace)), Colour::Red);
+    print(QStringLiteral("  FAILED  %1 (%2)").arg(check.text, traceText(check.trace)), Colour::Red);
   }
 }
 
 void ConsoleReporter::log(const QString& text) { print(QLatin1String("  log     ") + text); }
+
+void ConsoleReporter::pageMessage(const PageMessage& message) {
+  if (message.isUncaught()) {
+    log(message.text);
+  }
+}
 
 void ConsoleReporter::groupStarted(const QString& title) {
   print(QLatin1String("  begin   ") + title);

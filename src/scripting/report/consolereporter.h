@@ -28,10 +28,12 @@ public:
   std::error_code error() const { return m_error; }
 
   void scriptStarted(const QString& path) override;
-  void step(const QString& text, qint64 durationMs) override;
-  void objectCall(const QString& text, qint64 durationMs) override;
-  void check(bool passed, const QString& text, const ScriptTrace& trace) override;
+  void step(const Step& step) override;
+  void objectCall(const Step& call) override;
+  void check(const Check& check) override;
   void log(const QString& text) override;
+  /// Only what a page did not catch is printed.
+  void pageMessage(const PageMessage& message) override;
   void groupStarted(const QString& title) override;
   void groupFinished(const QString& title, const QString& error, qint64 durationMs) override;
   void functionStarted(const QString& name) override;

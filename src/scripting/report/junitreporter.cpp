@@ -76,6 +76,12 @@ void JUnitReporter::addLine(const QString& text) {
 
 void JUnitReporter::log(const QString& text) { addLine(text); }
 
+void JUnitReporter::pageMessage(const PageMessage& message) {
+  if (message.isUncaught()) {
+    addLine(message.text);
+  }
+}
+
 void JUnitReporter::groupStarted(const QString& title) {
   addLine(QStringLiteral("begin %1").arg(title));
   ++m_depth;

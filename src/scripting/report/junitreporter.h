@@ -25,6 +25,7 @@ public:
 
   void scriptStarted(const QString& path) override;
   void log(const QString& text) override;
+  void pageMessage(const PageMessage& message) override;
   void groupStarted(const QString& title) override;
   void groupFinished(const QString& title, const QString& error, qint64 durationMs) override;
   void functionStarted(const QString& name) override;

@@ -1,6 +1,7 @@
 #include "webhook/cli/dumpcommand.h"
 
 #include "shared/visibletext.h"
+#include "shared/wholefile.h"
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
 #include "webhook/cli/output.h"
@@ -37,19 +38,6 @@ QStringList readProperties(const QCommandLineParser& parser) {
   return parser.isSet(filterOption) ? properties : usualProperties();
 }
 
-/// Before the browser starts: a long wait for nothing is worse.
-QString whyNotWritable(const QString& path) {
-  const QFileInfo file(path);
-  const QFileInfo folder(file.absolutePath());
-  const bool isWritable =
-      folder.isDir() && folder.isWritable() && !file.isDir() && (!file.exists() || file.isWritable());
-  return isWritable ? QString()
-                    : QStringLiteral("The file '%1' cannot be written: %2.")
-                          .arg(path, file.isDir()      ? QStringLiteral("it is a directory")
-                                     : !folder.isDir() ? QStringLiteral("its directory does not exist")
-                                                       : QStringLiteral("permission denied"));
-}
-
 }  // namespace
 
 int dumpCommand(const QStringList& arguments) {
@@ -59,9 +47,10 @@ int dumpCommand(const QStringList& arguments) {
     return *exitCode;
   }
   const QString path = command.parser().value(outputOption);
+  // Before the browser starts: a long wait for nothing is worse.
   const QString refusal = whyNotWritable(path);
   if (!refusal.isEmpty()) {
-    return wrongUsage(arguments.value(0), refusal);
+    return wrongUsage(arguments.value(0), QStringLiteral("The file '%1' cannot be written: %2.").arg(path, refusal));
   }
   if (const std::optional<int> exitCode = command.open()) {
     return *exitCode;

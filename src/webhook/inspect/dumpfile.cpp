@@ -1,11 +1,11 @@
 #include "webhook/inspect/dumpfile.h"
 
 #include "shared/visibletext.h"
+#include "shared/wholefile.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <QXmlStreamWriter>
 
 namespace Corvex::Webhook {
@@ -122,10 +122,8 @@ QByteArray dumpAs(DumpFormat format, const PageDump& dump) {
 }
 
 QString saveDump(const PageDump& dump, const QString& path) {
-  const QByteArray bytes = dumpAs(dumpFormatOf(path), dump);
-  QSaveFile file(path);
-  const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
-  return isWritten ? QString() : QStringLiteral("The file '%1' cannot be written: %2.").arg(path, file.errorString());
+  const QString why = writeWholeFile(path, dumpAs(dumpFormatOf(path), dump));
+  return why.isEmpty() ? QString() : QStringLiteral("The file '%1' cannot be written: %2.").arg(path, why);
 }
 
 }  // namespace Corvex::Webhook

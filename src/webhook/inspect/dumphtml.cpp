@@ -16,7 +16,10 @@ namespace {
 const int longestValue = 500;
 // Large ones become JPEG files, which show a page well enough to point at it.
 const int largestPngPicture = 1000000;
+const qint64 mostPngPixels = 5000000;
 const int jpegQuality = 70;
+// No browser shows longer ones.
+const int longestSide = 30000;
 
 QByteArray partOfViewer(const char* name) {
   QFile file(QStringLiteral(":/webhook/viewer/") + QLatin1String(name));
@@ -26,18 +29,29 @@ QByteArray partOfViewer(const char* name) {
   return file.readAll();
 }
 
+/// Empty where it cannot be written.
+QByteArray encoded(const QImage& picture, const char* format, int quality) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  return buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, format, quality) ? bytes : QByteArray();
+}
+
+QString asAddress(const char* type, const QByteArray& bytes) {
+  return bytes.isEmpty()
+             ? QString()
+             : QStringLiteral("data:%1;base64,").arg(QLatin1String(type)) + QString::fromLatin1(bytes.toBase64());
+}
+
 /// The picture's address; empty without a picture.
 QString asAddress(const QImage& picture) {
-  for (const char* format : {"png", "jpeg"}) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    const bool isPng = qstrcmp(format, "png") == 0;
-    const bool isWritten = buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, format, isPng ? -1 : jpegQuality);
-    if (isWritten && (!isPng || bytes.size() <= largestPngPicture)) {
-      return QStringLiteral("data:image/%1;base64,").arg(QLatin1String(format)) + QString::fromLatin1(bytes.toBase64());
-    }
+  if (picture.width() > longestSide || picture.height() > longestSide) {
+    return asAddress(picture.scaled(longestSide, longestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation));
   }
-  return QString();
+  const bool mayBePng = qint64(picture.width()) * picture.height() <= mostPngPixels;
+  const QByteArray png = mayBePng ? encoded(picture, "png", -1) : QByteArray();
+  return !png.isEmpty() && png.size() <= largestPngPicture
+             ? asAddress("image/png", png)
+             : asAddress("image/jpeg", encoded(picture, "jpeg", jpegQuality));
 }
 
 QString cut(const QString& value) {

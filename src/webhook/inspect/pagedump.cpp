@@ -19,8 +19,6 @@ namespace {
 
 using UIAbstraction::UIElement;
 
-const unsigned int countTimeoutMs = 60000;
-
 /// Reads one page, document by document.
 class DumpReader {
 public:
@@ -29,7 +27,7 @@ public:
         m_filters{{FilterObject(QLatin1String(WebWrapper::HTML_Object::ScriptName), properties)}, false} {}
 
   void read(const Context& context);
-  void countMatches();
+  void countNamesakes();
   PageDump take() { return std::move(m_dump); }
 
 private:
@@ -108,54 +106,33 @@ void DumpReader::nameAll(int from) {
     for (int i = begin; i < qMin(begin + objectsPerCall, m_dump.objects.size()); ++i) {
       some.push_back(m_objects[i]);
     }
-    const FunctionCallResult<QStringList> names = askForEach(m_page, "name", some);
+    const FunctionCallResult<QStringList> names = askForEach(m_page, "nameAndHits", some);
     if (names.failed()) {
       fail(QStringLiteral("The page gave no names: %1"), names.error);
       return;
     }
     for (int i = 0; i < names.value.size(); ++i) {
-      const QString& line = names.value.at(i);
-      if (!line.startsWith(QLatin1Char('!'))) {
-        m_dump.objects[begin + i].qualifiedName = WebWrapper::unescape(undoEscape(line));
+      const QStringList parts = names.value.at(i).split(QLatin1Char(' '));
+      if (parts.size() == 2 && !parts.at(0).startsWith(QLatin1Char('!'))) {
+        m_dump.objects[begin + i].qualifiedName = WebWrapper::unescape(undoEscape(parts.at(0)));
+        m_dump.objects[begin + i].matches = parts.at(1).toInt();
       }
     }
   }
 }
 
-/// A name below a container is looked for there only, and a path of names fits one object at most.
-bool isCountedByPage(const QString& name) {
-  return name.startsWith(QLatin1Char('{')) && !name.contains(QLatin1String("container=")) &&
-         !name.contains(QLatin1String(" occurrence="));
-}
-
-void DumpReader::countMatches() {
+/// Where the page did not count, the objects that were named alike are those that there are.
+void DumpReader::countNamesakes() {
   QHash<QString, int> counts;
-  QStringList asked;
   for (const DumpedObject& object : qAsConst(m_dump.objects)) {
-    int& count = counts[object.qualifiedName];
-    if (++count == 1 && isCountedByPage(object.qualifiedName)) {
-      asked << object.qualifiedName;
-    }
-  }
-  for (int begin = 0; begin < asked.size(); begin += objectsPerCall) {
-    const QStringList some = asked.mid(begin, objectsPerCall);
-    QStringList literals;
-    for (const QString& name : some) {
-      literals << QLatin1Char('"') + WebWrapper::escapeObjectNameForUseAsStringLiteral(name) + QLatin1Char('"');
-    }
-    const WebWrapper::JavaScriptAnswer answer =
-        m_page.evaluateJS(inPageText("countmatches.js").arg(literals.join(QLatin1Char(','))), countTimeoutMs);
-    const QStringList numbers = answer.text.split(QLatin1Char(' '));
-    if (!answer.succeeded() || numbers.size() != some.size()) {
-      fail(QStringLiteral("The page did not count what its names fit: %1"), answer.text);
-      return;
-    }
-    for (int i = 0; i < some.size(); ++i) {
-      counts[some.at(i)] = numbers.at(i).toInt();
-    }
+    ++counts[object.qualifiedName];
   }
   for (DumpedObject& object : m_dump.objects) {
-    object.matches = object.qualifiedName.isEmpty() ? 0 : counts.value(object.qualifiedName);
+    if (object.qualifiedName.isEmpty()) {
+      object.matches = 0;
+    } else if (object.matches < 0) {
+      object.matches = counts.value(object.qualifiedName);
+    }
   }
 }
 
@@ -174,7 +151,7 @@ PageDump readDump(const BrowserWindows& windows, Connection& page, const QString
       reader.read(context);
     }
   }
-  reader.countMatches();
+  reader.countNamesakes();
   PageDump dump = reader.take();
   dump.url = page.page()->url();
   dump.title = page.evaluateJS(QStringLiteral("document.title"), 1000).text;

@@ -7,7 +7,7 @@ test.compare(pageTitle(), "Refused", "nobody was named");
 // Neither a frame nor a request of a script waits for an answer.
 openUrl(SITE + "/plain.html");
 retrieveJSObject(
-  "var asked = ''; fetch('/private').then(function (answer) { asked = 'fetch ' + answer.status; });" +
+  "var asked = ''; fetch('/private').then(function (answer) { asked += 'fetch ' + answer.status; });" +
   "var frame = document.createElement('iframe'); frame.src = '/private'; frame.onload = function () { asked += ' frame'; };" +
   "document.body.appendChild(frame); 0");
 waitUntil(function () {

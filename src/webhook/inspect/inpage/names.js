@@ -8,19 +8,10 @@ window.__corvex.namesCheck = (function () {
   var hierarchy = [];
   var plainWords = null;
 
-  // Calls action, which leaves the page as it is. Searches do not report as they would each, as if a recording were on.
   function quietly(action) {
-    var recording = window.__corvex__recording;
-    var context = __corvex__windowState.ctxwin;
-    window.__corvex__recording = true;
     hierarchy = [];
     plainWords = null;
-    try {
-      return __corvex__whilePageStays(action);
-    } finally {
-      window.__corvex__recording = recording;
-      __corvex__windowState.ctxwin = context;
-    }
+    return __corvex__quietly(action);
   }
 
   function collect(all) {

@@ -151,6 +151,23 @@ test("while the page stays, an element is asked once, and afterwards anew", { pa
   }
 }, [true, true, true, false]);
 
+test("a quiet search of many elements gives what a single one gives, whatever the values are", {
+  page: '<form name="fo"><input id="f1" name="q" value=" two  words "></form><input id="f2" name="q" value="two words">' +
+    '<input id="f3" name="07" value="7"><li id="l1" value="7">7</li><p id="p1" name=" q ">q</p><p id="p2" title="q">q</p>' +
+    '<p id="p3">two  words</p><p id="p4">two words</p><p id="p5"></p><a id="a1"><img id="i1" name="q"></a><a id="a2">q</a>'
+}, ({ el }) => {
+  el("p5").name = 7;
+  el("p2").name = true;
+  const texts = ["q", " q ", "two words", " two  words ", "7", "07", "true", "", "__proto__", "no"];
+  const names = ["INPUT", "LI", "P", "A"].flatMap((tag) => ["name", "value", "simplifiedInnerText", "id", "img_name"]
+    .flatMap((prop) => texts.flatMap((text) => [`{tagName='${tag}' ${prop}='${text}'}`,
+      `{tagName='${tag}' form='fo' ${prop}='${text}'}`, `{tagName='${tag}' ${prop}='${text}' title='q'}`])));
+  const hitsOf = (name) => __corvex__hitsInPage(name).map((hit) => hit.id).join();
+  const single = names.map(hitsOf);
+  const quiet = __corvex__quietly(() => names.map(hitsOf));
+  return [names.filter((name, i) => single[i] !== quiet[i]), single.filter((hits) => hits).length > 20];
+}, [[], true]);
+
 test("plain words: link, id, name, label or button, DIV, in this order", {
   page: '<div id="d">w</div><button type="button" id="bt">w</button><input id="in" name="w"><p id="w">p</p>' +
     '<a href="#" id="l">w</a>'

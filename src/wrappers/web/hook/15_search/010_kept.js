@@ -1,5 +1,5 @@
-// Gives: __corvex__whilePageStays and __corvex__kept: what was read of elements is kept for the time of one action.
-// Needs: runtime/natives.
+// Gives: __corvex__whilePageStays, __corvex__quietly and __corvex__kept: what was read is kept for one action's time.
+// Needs: runtime/natives, runtime/state.
 
 var __corvex__keptAnswers = null;
 
@@ -12,6 +12,20 @@ function __corvex__whilePageStays(action) {
     return action();
   } finally {
     __corvex__keptAnswers = outer;
+  }
+}
+
+// As __corvex__whilePageStays, and searches do not report as they would each, as if a recording were on. The current
+// context is the same afterwards.
+function __corvex__quietly(action) {
+  var recording = window.__corvex__recording;
+  var context = __corvex__windowState.ctxwin;
+  window.__corvex__recording = true;
+  try {
+    return __corvex__whilePageStays(action);
+  } finally {
+    window.__corvex__recording = recording;
+    __corvex__windowState.ctxwin = context;
   }
 }
 

@@ -1,6 +1,6 @@
 // Gives: __corvex__findObjectByProps, the search below one document or element, and how the hits count.
-// Needs: runtime/nodes, names/entry, matching, search/name, search/elementtest, search/candidates, search/hits,
-//   search/hittest.
+// Needs: runtime/nodes, names/entry, matching, search/name, search/elementtest, search/candidates, search/likely,
+//   search/hits, search/hittest.
 
 function __corvex__isImageLink(map) {
   return __corvex__propMatches(map.tagName, "A") &&
@@ -55,6 +55,7 @@ function __corvex__searchByProps(container, map, nm, accept, vain) {
   }
   candidates = __corvex__withShadowCandidates(candidates, container, map.tagName.value);
 
+  candidates = __corvex__likelyCandidates(candidates, container, map, nm);
   var passes = __corvex__elementTest(__corvex__matchersFor(map, nm));
   var count = candidates.length;
   for (var i = 0; i < count; ++i) {

@@ -1,6 +1,6 @@
 // Gives: __corvex.findAllObjects: every element that a name fits, where a search for one would look.
-// Needs: runtime/state, runtime/framewalk, runtime/children, runtime/frameaccess, matching, search/name,
-//   search/candidates, search/properties, search/hittest.
+// Needs: runtime/state, runtime/framewalk, runtime/children, runtime/frameaccess, matching, search/kept, search/name,
+//   search/candidates, search/hits, search/properties, search/hittest.
 
 // Adds the hits of nm in a document, or below an element, to those of other places. A name with an occurrence means the
 // one that a search finds.
@@ -15,6 +15,13 @@ function __corvex__addHits(container, nm, hits) {
   }
   // A link may be a hit by itself, and once more by each of its images.
   var repeats = __corvex__mapEntry(map, "tagName") && __corvex__isImageLink(map);
+  var kept = repeats ? undefined : __corvex__keptHits(container, nm);
+  if (kept) {
+    for (var i = 0; i < kept.length; ++i) {
+      hits[hits.length] = kept[i];
+    }
+    return;
+  }
   __corvex__searchByProps(container, map, nm, function (hit) {
     if (!repeats || !__corvex__listHolds(hits, hit)) {
       hits[hits.length] = hit;
@@ -23,12 +30,12 @@ function __corvex__addHits(container, nm, hits) {
   });
 }
 
-// The windows in the order of a search: the current context, then all others.
-function __corvex__windowsToSearch() {
-  var windows = [__corvex__windowState.ctxwin];
+// The windows in the order of a search that begins with one of them.
+function __corvex__windowsFrom(first) {
+  var windows = [first];
   var all = __corvex__everyWindow(__corvex__isFrameAccessible);
   for (var i = 0; i < all.length; ++i) {
-    if (all[i] !== windows[0]) {
+    if (all[i] !== first) {
       windows[windows.length] = all[i];
     }
   }
@@ -39,7 +46,7 @@ function __corvex__hitsInPage(nm) {
   var hits = [];
   var searched = [];
   var before = __corvex__windowState.ctxwin;
-  var windows = __corvex__windowsToSearch();
+  var windows = __corvex__kept(__corvex__windowsFrom, before);
   for (var i = 0; i < windows.length; ++i) {
     __corvex__windowState.ctxwin = windows[i];
     try {
