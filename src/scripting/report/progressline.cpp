@@ -64,6 +64,8 @@ QString ProgressLine::around(const QString& lines) {
   return before + lines + after;
 }
 
+const char* ProgressLine::farewell() const { return m_isOn ? erasure : nullptr; }
+
 void ProgressLine::hide() {
   if (m_isShown) {
     writeText(m_out, QString::fromLatin1(erasure));

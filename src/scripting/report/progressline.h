@@ -24,6 +24,8 @@ public:
 
   /// What to write in place of lines that are to stand before it. It is cut to the width of the terminal.
   QString around(const QString& lines);
+  /// What takes it away when the program is cut off; null where nothing is shown.
+  const char* farewell() const;
   /// Takes it away for a moment, for lines that go to the terminal by another way.
   void hide();
 

@@ -5,6 +5,7 @@
 #include "webhook/cli/browseroptions.h"
 #include "webhook/cli/lastfailed.h"
 #include "webhook/cli/scriptchoice.h"
+#include "webhook/cli/workerrequest.h"
 
 #include <QRegularExpression>
 
@@ -64,6 +65,14 @@ const QCommandLineOption retriesOption(
 const QCommandLineOption stopAfterOption(QStringLiteral("stop-after"),
                                          QStringLiteral("Begin no script any more when so many have failed."),
                                          QStringLiteral("number"));
+
+QCommandLineOption makeWorkerOption() {
+  QCommandLineOption option(QStringLiteral("worker"), QString(), QStringLiteral("request"));
+  option.setFlags(QCommandLineOption::HiddenFromHelp);
+  return option;
+}
+
+const QCommandLineOption workerOption = makeWorkerOption();
 
 struct CountOption {
   const QCommandLineOption* option;
@@ -127,6 +136,11 @@ QString readArguments(const QStringList& texts, QMap<QString, QString>* argument
 }
 
 QString readScripts(const QCommandLineParser& parser, RunOptions* options) {
+  if (parser.isSet(workerOption)) {
+    const auto request = readWorkerRequest(parser.value(workerOption));
+    options->ownScript = request.value;
+    return request.error;
+  }
   if (parser.positionalArguments().isEmpty()) {
     return QStringLiteral("A script is missing.");
   }
@@ -179,7 +193,7 @@ void addRunOptions(QCommandLineParser& parser) {
   addBrowserOptions(parser);
   parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, failOnPageErrorOption, argumentOption,
                      credentialsOption, filterOption, lastFailedOption, listOption, jobsOption, retriesOption,
-                     stopAfterOption, scriptTimeoutOption, verboseOption});
+                     stopAfterOption, workerOption, scriptTimeoutOption, verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."),
                                QStringLiteral("The scripts, in JavaScript, or folders of them."));
 }

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QVector>
 
+#include <optional>
 #include <vector>
 
 namespace Corvex::Webhook {
@@ -22,6 +23,8 @@ struct RunOptions {
   /// How many scripts run side by side.
   int jobs = 1;
   bool lists = false;
+  /// What this process is to run as a worker of a run.
+  std::optional<Scripting::ScriptChoice> ownScript;
   QMap<QString, QString> arguments;
   QVector<Credentials> credentials;
   int scriptTimeoutMs = 0;

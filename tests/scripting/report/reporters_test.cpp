@@ -211,6 +211,23 @@ TEST_F(ScriptReporters, JUnitFileIsValidAndComplete) {
                            s(":3: look();")}));
 }
 
+TEST_F(ScriptReporters, JUnitFileHoldsAttemptsThatFailedInTheCasesOfTheLast) {
+  failFirst(3);
+  write("function testGood() {}\nfunction testBad() { test.log('tried'); flaky(); }", "flaky.js");
+  JUnitReporter reporter(path("junit.xml"));
+  ASSERT_EQ(reporter.open(), QString());
+  ScriptEngine(host, &reporter).run({{path("flaky.js"), {}}, {path("flaky.js"), {}}}, {1, 0});
+  QString xml = QString::fromUtf8(TestSupport::readFile(path("junit.xml")));
+  xml.replace(QRegularExpression(
+                  s("(\\s*)?<system-out>.*?</system-out>\\s*|<stackTrace>[^<]*</stackTrace>\\s*|time=\"[^\"]*\"")),
+              QString());
+  EXPECT_TRUE(xml.contains(s("tests=\"4\" failures=\"0\" errors=\"1\""))) << qPrintable(xml);
+  EXPECT_EQ(xml.count(s("<rerunError type=\"ScriptError\" message=\"not yet\">")), 1) << qPrintable(xml);
+  EXPECT_EQ(xml.count(s("<flakyError type=\"ScriptError\" message=\"not yet\">")), 1) << qPrintable(xml);
+  EXPECT_LT(xml.indexOf(s("rerunError")), xml.indexOf(s("flakyError")));
+  EXPECT_EQ(xml.count(s("<testcase name=\"testGood\"")), 2) << qPrintable(xml);
+}
+
 TEST_F(ScriptReporters, JUnitFileThatCannotBeWrittenIsToldBeforehand) {
   JUnitReporter reporter(path("none/junit.xml"));
   EXPECT_EQ(reporter.open(), QStringLiteral("Cannot write the JUnit file '%1': No such file or "
