@@ -114,7 +114,8 @@ QString hookText(const WrapperConfig& config, const BrowserIdentity& browser) {
          inPageText("fallback.js") +
          (browser.isRecorded
               ? inPageText("recordedwindow.js") + inPageText("recordedmoves.js") + inPageText("recordedchecks.js") +
-                    inPageText("recordeddialogs.js") + inPageText("recordedhovers.js") + inPageText("recordedacts.js")
+                    inPageText("recordeddialogs.js") + inPageText("recordedhovers.js") + inPageText("recordedkeys.js") +
+                    inPageText("recordedacts.js")
               : QString()) +
          QStringLiteral("\n}");
 }

@@ -58,6 +58,7 @@ const ActRecorder::Row ActRecorder::rows[] = {
     {"unrecorded", &ActRecorder::takeUnrecorded},
     {"check", &ActRecorder::takeCheck},
     {"hover", &ActRecorder::takeHover},
+    {"keys", &ActRecorder::takeKeys},
     {"promptCancelled", &ActRecorder::takeCancelledPrompt, false},
 };
 
@@ -110,6 +111,12 @@ void ActRecorder::takeHover(const QString& objectName, const EventMap& data) {
   flushRecordedTextInput();
   const QTime time = WebWrapper::getTimeStampFromEventData(data);
   recordCall(objectName, "hover", {}, &time);
+}
+
+void ActRecorder::takeKeys(const QString&, const EventMap& data) {
+  flushRecordedTextInput();
+  const QTime time = WebWrapper::getTimeStampFromEventData(data);
+  recordCall(QString(), "pressKeys", {Inspector::self()->wrapString(item(data, "keys"))}, &time);
 }
 
 void ActRecorder::takeMenu(const QString& objectName, const EventMap& data) {

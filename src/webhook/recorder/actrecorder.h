@@ -22,6 +22,7 @@ private:
 
   void takeCancelledPrompt(const QString& objectName, const WebWrapper::EventMap& data);
   void takeHover(const QString& objectName, const WebWrapper::EventMap& data);
+  void takeKeys(const QString& objectName, const WebWrapper::EventMap& data);
   void takeMenu(const QString& objectName, const WebWrapper::EventMap& data);
   void takeDrag(const QString& objectName, const WebWrapper::EventMap& data);
   void takeUnrecorded(const QString& objectName, const WebWrapper::EventMap& data);

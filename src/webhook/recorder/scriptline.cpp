@@ -28,6 +28,7 @@ const FunctionRow functionsWithoutObject[] = {
     {"goForward", false},    {"reload", false},
     {"//", false},           {"closeAlert", false},
     {"closeConfirm", false}, {"closePrompt", false},
+    {"pressKeys", false},
 };
 
 const FunctionRow* rowOf(const EventData& call) {

@@ -107,6 +107,29 @@ selectOption("{tagName='SELECT' type='select-one' id='s'}", "two");
 )");
 }
 
+TEST_F(RecordedActs, KeysThatAPageActsOnAndNoOthers) {
+  server.add("/page.html", {R"(<title>t</title><input id='n'><input id='m'><button id='b' type='button'>Press</button>
+<div id='list' tabindex='0' onkeydown='this.dataset.last = event.key'>List</div><p id='panel'>Panel</p>
+<input id='picked' onfocus='panel.textContent = "open"'><script>
+addEventListener('keydown', function (e) { if (e.key === 'Escape') { panel.remove(); } });
+b.onclick = function () { panel.className = 'x'; };</script>)"});
+  EXPECT_EQ(
+      recorded("/page.html", {"typeText(\"{tagName='INPUT' id='n'}\", \"a b<Tab>\");", "pressKeys(\"c<Tab><Space>\");",
+                              "pressKeys(\"<Tab><Down><Shift+Home>x\");", "pressKeys(\"<Esc>\");",
+                              "mouseClick(\"{tagName='INPUT' id='m'}\"); pressKeys(\"<Tab><Tab><Tab>\");"}),
+      R"(setFocus("{tagName='INPUT' type='text' id='n'}");
+typeText("{tagName='INPUT' type='text' id='n'}", "a b");
+typeText("{tagName='INPUT' type='text' id='m'}", "c");
+clickButton("{tagName='BUTTON' type='button' id='b' simplifiedInnerText='Press'}");
+pressKeys("<Tab><Down>");
+pressKeys("<Shift+Home>");
+pressKeys("x");
+pressKeys("<Esc>");
+setFocus("{tagName='INPUT' type='text' id='m'}");
+pressKeys("<Tab><Tab><Tab>");
+)");
+}
+
 TEST_F(RecordedActs, ChecksThatAreChosenInTheOverlay) {
   server.add("/page.html", {R"(<title>t</title><a id='l' href='#gone'>Total: "5"</a><p></p>
 <input id='n' value='Ada' onmousedown='this.value = "pressed"' style='margin: 300px 0 0 500px'>
