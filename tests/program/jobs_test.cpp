@@ -92,8 +92,10 @@ class JobsWithBrowsers : public testing::Test {
 protected:
   JobsWithBrowsers() {
     program.write(QStringLiteral("page.html"), QStringLiteral("<p>x</p>"));
-    program.write(QStringLiteral("wait1.js"), QStringLiteral("startBrowser('page.html'); saveTree(script.name + '.json'); pause(600);"));
-    program.write(QStringLiteral("wait2.js"), QStringLiteral("startBrowser('page.html'); saveTree(script.name + '.json'); pause(600);"));
+    program.write(QStringLiteral("wait1.js"),
+                  QStringLiteral("startBrowser('page.html'); saveTree(script.name + '.json'); pause(600);"));
+    program.write(QStringLiteral("wait2.js"),
+                  QStringLiteral("startBrowser('page.html'); saveTree(script.name + '.json'); pause(600);"));
     // Fails until it has left a file.
     program.write(
         QStringLiteral("flaky.js"),
