@@ -88,6 +88,16 @@ TEST(Jobs, AnOutputThatTakesNoMoreEndsThemAll) {
   EXPECT_EQ(program.processes(), QList<qint64>());
 }
 
+TEST(Jobs, NeedAFolderForWhatTheyTell) {
+  ProgramRun program;
+  program.write(QStringLiteral("a.js"), QString());
+  program.setEnvironment(QStringLiteral("TMPDIR"), QStringLiteral("/proc"));
+  const ProgramResult result = program.run({"run", "--jobs", "2", "a.js"});
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_EQ(result.errors, QStringLiteral("corvexweb run: No folder for temporary files can be made in '/proc'. Set "
+                                          "TMPDIR to one that you may write to.\n"));
+}
+
 class JobsWithBrowsers : public testing::Test {
 protected:
   JobsWithBrowsers() {

@@ -6,6 +6,7 @@
 #include "webhook/cli/workerrequest.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 #include <algorithm>
 #include <limits>
@@ -28,6 +29,7 @@ struct ParallelRun::Script {
 };
 
 ParallelRun::ParallelRun(const Plan& plan) : m_plan(plan) {
+  Worker::removeAbandoned();
   for (const Scripting::ScriptChoice& choice : plan.scripts) {
     auto script = std::make_unique<Script>();
     script->choice = choice;
@@ -38,6 +40,14 @@ ParallelRun::ParallelRun(const Plan& plan) : m_plan(plan) {
 }
 
 ParallelRun::~ParallelRun() = default;
+
+QString ParallelRun::whyNotRun() const {
+  return m_directory.path().isEmpty()
+             ? QStringLiteral(
+                   "No folder for temporary files can be made in '%1'. Set TMPDIR to one that you may write to.")
+                   .arg(QDir::tempPath())
+             : QString();
+}
 
 Scripting::RunSummary ParallelRun::run() {
   QElapsedTimer time;
@@ -101,6 +111,10 @@ void ParallelRun::finishAttempt(Script* script) {
   m_summary.add(result);
   if (!words.isEmpty()) {
     printError(words);
+  }
+  if (script->events.error() != QFile::NoError) {
+    // Nothing of it can be shown from there.
+    printError(QStringLiteral("corvexweb run: %1: %2\n").arg(result.path, result.error));
   }
   if (result.runsAgain) {
     ++script->choice.attempt;

@@ -26,6 +26,9 @@ public:
   explicit ParallelRun(const Plan& plan);
   ~ParallelRun();
 
+  /// Why nothing can run; empty when all is well.
+  QString whyNotRun() const;
+
   /// Told of each script when it has ended.
   void showTo(Scripting::ScriptListener* listener) { m_shown = listener; }
   /// Told of the scripts in their order, of each when it and those before it have ended.

@@ -64,6 +64,11 @@ int runOneAfterTheOther(const RunOptions& options, RunReports* reports) {
 
 int runSideBySide(const RunOptions& options, const QStringList& arguments, RunReports* reports) {
   ParallelRun run({options.scripts, options.policy, options.jobs, arguments});
+  const QString why = run.whyNotRun();
+  if (!why.isEmpty()) {
+    printError(QStringLiteral("corvexweb run: %1\n").arg(why));
+    return ExitCode::Failed;
+  }
   run.showTo(&reports->shown());
   run.followWith(&reports->followed());
   run.reportTo(&reports->files());

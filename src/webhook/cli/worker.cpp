@@ -49,6 +49,8 @@ QString Worker::start(const QString& program, const QStringList& arguments) {
   return started.error;
 }
 
+void Worker::removeAbandoned() { TemporaryDirectory::removeAbandoned(markName); }
+
 bool Worker::hasEnded() {
   return !m_process || !m_report.fault().isEmpty() || m_process->howEnded() ||
          (m_silence.isValid() && m_silence.elapsed() > patienceMs);
@@ -76,7 +78,8 @@ void Worker::takeWords(const QByteArray& piece) {
 }
 
 QString Worker::words() const {
-  return QString::fromUtf8(m_words) + (m_isCut ? QStringLiteral("\n(more was left out)\n") : QString());
+  const QString words = QString::fromUtf8(m_words) + (m_isCut ? QStringLiteral("\n(more was left out)") : QString());
+  return words.isEmpty() || words.endsWith(QLatin1Char('\n')) ? words : words + QLatin1Char('\n');
 }
 
 }  // namespace Corvex::Webhook

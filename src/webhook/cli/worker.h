@@ -20,6 +20,9 @@ public:
   /// is borrowed.
   Worker(const QString& program, const QStringList& arguments, const Scripting::ScriptChoice& script, QIODevice* file);
 
+  /// Removes what workers of runs that were killed have left.
+  static void removeAbandoned();
+
   /// Whether there is a result. Serves no events.
   bool hasEnded();
 
