@@ -68,22 +68,33 @@ Outcome ScriptResult::whole() const {
   return all;
 }
 
+bool ScriptResult::isFlaky() const {
+  const Outcome all = whole();
+  return attempt > 1 && all.passed() && !all.isSkipped;
+}
+
 void RunSummary::add(const ScriptResult& result) {
   const Outcome whole = result.whole();
+  durationMs += whole.durationMs;
+  if (result.runsAgain) {
+    return;
+  }
   ++scripts;
   passed += whole.passed() && !whole.isSkipped ? 1 : 0;
   skipped += whole.passed() && whole.isSkipped ? 1 : 0;
   checks += whole.checks();
+  flaky += result.isFlaky() ? 1 : 0;
   checksFailed += whole.checksFailed();
-  durationMs += whole.durationMs;
 }
 
 QString RunSummary::text() const {
-  return QStringLiteral("%1: %2 passed, %3 failed%4; %5, %6 failed; %7 s")
-      .arg(counted(scripts, QStringLiteral("script")))
+  return QStringLiteral("%1: %2 passed%3, %4 failed%5%6; %7, %8 failed; %9 s")
+      .arg(counted(scripts + notRun.size(), QStringLiteral("script")))
       .arg(passed)
+      .arg(flaky > 0 ? QStringLiteral(" (%1 flaky)").arg(flaky) : QString())
       .arg(failed())
       .arg(skipped > 0 ? QStringLiteral(", %1 skipped").arg(skipped) : QString())
+      .arg(notRun.isEmpty() ? QString() : QStringLiteral(", %1 not run").arg(notRun.size()))
       .arg(counted(checks, QStringLiteral("check")))
       .arg(checksFailed)
       .arg(static_cast<double>(durationMs) / 1000.0, 0, 'f', 1);

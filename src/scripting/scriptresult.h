@@ -73,23 +73,36 @@ struct ScriptResult : Outcome {
   std::vector<FunctionResult> functions;
   /// Ended by `ScriptEngine::interrupt`.
   bool interrupted = false;
+  /// Which attempt at the script it was, from 1 on.
+  int attempt = 1;
+  /// It failed, and the next attempt follows.
+  bool runsAgain = false;
+
+  /// It passed, after an attempt that failed.
+  CORVEXSCRIPTING_EXPORT bool isFlaky() const;
 
   /// The body and all functions together, with the first error of all. Skipped, if the body or each function was.
   CORVEXSCRIPTING_EXPORT Outcome whole() const;
 };
 
-/// What came of several scripts.
+/// What came of several scripts, as of the last attempt at each.
 struct RunSummary {
   int scripts = 0;
+  /// The flaky ones, too.
   int passed = 0;
+  int flaky = 0;
   int skipped = 0;
   int checks = 0;
   int checksFailed = 0;
+  /// Of all attempts.
   qint64 durationMs = 0;
+  /// The paths of those that were to run, too, when the run ended.
+  QStringList notRun;
 
   CORVEXSCRIPTING_EXPORT void add(const ScriptResult& result);
   int failed() const { return scripts - passed - skipped; }
-  /// "3 scripts: 1 passed, 1 failed, 1 skipped; 14 checks, 1 failed; 3.2 s"; skipped ones only where there are any.
+  /// "3 scripts: 1 passed, 1 failed, 1 skipped; 14 checks, 1 failed; 3.2 s"; kinds that are rarer only where there are
+  /// any: "4 scripts: 3 passed (1 flaky), 1 failed, 2 not run; ...".
   CORVEXSCRIPTING_EXPORT QString text() const;
 };
 

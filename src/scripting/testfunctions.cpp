@@ -1,6 +1,8 @@
 #include "scripting/testfunctions.h"
 
 #include <QRegularExpression>
+#include <algorithm>
+#include <iterator>
 
 namespace Corvex::Scripting {
 
@@ -19,6 +21,13 @@ QStringList declaredFunctions(const QString& text) {
     names << matches.next().captured(1);
   }
   names.removeDuplicates();
+  return names;
+}
+
+QStringList declaredTestFunctions(const QString& text) {
+  const QStringList declared = declaredFunctions(text);
+  QStringList names;
+  std::copy_if(declared.begin(), declared.end(), std::back_inserter(names), isTestFunction);
   return names;
 }
 

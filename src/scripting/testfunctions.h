@@ -14,4 +14,7 @@ CORVEXSCRIPTING_EXPORT bool isTestFunction(const QString& name);
 /// order cannot be learned. Nothing of the text is run.
 CORVEXSCRIPTING_EXPORT QStringList declaredFunctions(const QString& text);
 
+/// Those of them that are run as tests.
+CORVEXSCRIPTING_EXPORT QStringList declaredTestFunctions(const QString& text);
+
 }  // namespace Corvex::Scripting

@@ -15,9 +15,9 @@ namespace {
 using TestSupport::ProgramResult;
 using TestSupport::ProgramRun;
 
-// Escape, a C1 control, delete, carriage return, an override of direction and a NUL.
+// Escape, a C1 control, delete, carriage return, an override of direction, a NUL, and what has no width.
 const char* const hostilePage = R"(<!DOCTYPE html><title>t</title><p id=p>x</p><script>
-var hostile = 'a\u001b[31m\u009bm\u007f\r\u202eb\u0000c';
+var hostile = 'a\u001b[31m\u009bm\u007f\r\u202eb\u0000c\u200b\u2060';
 document.getElementById('p').title = hostile;
 </script>)";
 
@@ -73,6 +73,14 @@ TEST_F(HostileText, IsVisibleWhereAPageIsShown) {
                                    m_program.run({QStringLiteral("tree"), QStringLiteral("--json"), page})};
   for (const ProgramResult& result : results) {
     EXPECT_TRUE(result.output.contains(QLatin1String("a\\u001b[31m\\u009bm\\u007f"))) << qPrintable(result.output);
+    EXPECT_TRUE(isVisible(result.output + result.errors)) << qPrintable(result.output + result.errors);
+  }
+  for (const QStringList& arguments : {QStringList{"dump", page, "-o", "dump\u200b.json"},
+                                       {"tree", "none\u202e\u001b[2J.html"},
+                                       {"run", "none\u202e.js"},
+                                       {"tree", "--depth", "\u2066", "x"}}) {
+    const ProgramResult result = m_program.run(arguments);
+    EXPECT_TRUE((result.output + result.errors).contains(QLatin1String("\\u20"))) << qPrintable(result.errors);
     EXPECT_TRUE(isVisible(result.output + result.errors)) << qPrintable(result.output + result.errors);
   }
   EXPECT_TRUE(QJsonDocument::fromJson(results[2].output.toUtf8()).isObject()) << qPrintable(results[2].output);

@@ -112,6 +112,30 @@ mouseClick("{tagName='BUTTON' className='thumbnail'}");
 test.compare(Number(retrieveJSObject("String(document.querySelectorAll('.thumbnail.large').length)")), 1);)JS");
 }
 
+TEST(Report, HoldsScriptsSideBySideAndAllAttempts) {
+  ProgramRun program;
+  program.write(QStringLiteral("page.html"), QString::fromUtf8(page));
+  // Fails until it has left a file.
+  program.write(
+      QStringLiteral("flaky.js"),
+      QStringLiteral("startBrowser('page.html');\n"
+                     "try { readTable('left.json'); } catch (e) {\n"
+                     "  if (!/object/.test(e.message)) { saveTree('left.json'); test.fail('not yet'); } }\n"));
+  program.write(QStringLiteral("sum.js"), QStringLiteral("startBrowser('page.html');\n"
+                                                         "test.compare(findObject(\"{tagName='P'}\").id, 'total');"));
+  const ProgramResult result = program.run(
+      {"run", "--jobs", "2", "--retries", "1", "--stop-after", "1", "--report", "report.html", "flaky.js", "sum.js"});
+  EXPECT_EQ(result.exitCode, 1) << qPrintable(result.output + result.errors);
+  expectRead(&program, R"JS(startBrowser("report.html");
+function count(selector) { return Number(retrieveJSObject("String(document.querySelectorAll('" + selector + "').length)")); }
+function text(id) { return String(retrieveJSObject("document.getElementById('" + id + "').innerText")); }
+test.compare(text("sentence"), "1 of 2 scripts failed.");
+test.verify(/flaky\s*1/.test(text("numbers")), text("numbers"));
+test.compare(count(".script.retried"), 2); test.compare(count(".script.flaky"), 1); test.compare(count(".script.failed"), 1);
+test.verify(text("failures").indexOf("not yet") < 0 && text("failures").indexOf("expected 'total'") >= 0, text("failures"));
+test.compare(count("figure .spot"), 1);)JS");
+}
+
 TEST(Report, OfARunThatWasKilledShowsWhatHappened) {
   ProgramRun program;
   program.write(QStringLiteral("long.js"),

@@ -56,6 +56,15 @@ const Misuse misuses[] = {
     {"BadScriptTimeout",
      {"run", "--script-timeout", "0", "good.js"},
      "--script-timeout takes a number of seconds above 0, not '0'."},
+    {"NoJobs", {"run", "--jobs", "0", "good.js"}, "--jobs takes a number from 1 to 64, not '0'."},
+    {"ManyJobs", {"run", "--jobs", "65", "good.js"}, "--jobs takes a number from 1 to 64, not '65'."},
+    {"JobsOfAttached",
+     {"run", "--jobs", "2", "--attach", "ws://127.0.0.1:1/", "good.js"},
+     "--jobs cannot stand beside --attach: scripts side by side cannot share a browser."},
+    {"BadRetries", {"run", "--retries", "-1", "good.js"}, "--retries takes a number from 0 to 100, not '-1'."},
+    {"BadStopAfter",
+     {"run", "--stop-after", "0", "good.js"},
+     "--stop-after takes a number from 1 to 1000000, not '0'."},
     {"NothingFits",
      {"run", "--filter", "none", "--filter", "x*", "good.js"},
      "No script and no test function fits --filter 'none' or 'x*'."},
@@ -87,8 +96,9 @@ TEST(Help, GoesToStandardOutputAndNamesTheOptions) {
   const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("--help")});
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.errors, QString());
-  for (const char* option : {"--browser", "--headed", "--attach", "--timeout", "--junit", "--object-map", "--arg",
-                             "--filter", "--script-timeout", "--verbose", "SCRIPT..."}) {
+  for (const char* option : {"--browser", "--headed", "--attach", "--timeout", "--junit", "--report", "--trace", "--object-map", "--arg",
+                             "--filter", "--script-timeout", "--list", "--last-failed", "--jobs", "--retries",
+                             "--stop-after", "--verbose", "SCRIPT..."}) {
     EXPECT_TRUE(result.output.contains(QLatin1String(option))) << option;
   }
 }

@@ -23,6 +23,12 @@ TEST(VisibleText, ShowsWhatSteersTurnsOrIsNoCharacter) {
       {QStringLiteral("\u009b31m\u007f"), "\\u009b31m\\u007f"},
       {QStringLiteral("\u202egnp.exe\u2069\u200f"), "\\u202egnp.exe\\u2069\\u200f"},
       {QStringLiteral("\u2028\ufeff"), "\\u2028\\ufeff"},
+      {QStringLiteral("pay\u200bpal\u00ad\u2060\u3164"), "pay\\u200bpal\\u00ad\\u2060\\u3164"},
+      {QStringLiteral("O\u200dK\u200c O\ufe0fK"), "O\\u200dK\\u200c O\\ufe0fK"},
+      {QStringLiteral("\U0001f3f4\U000e0041"), "\xf0\x9f\x8f\xb4\\udb40\\udc41"},
+      // Persian "I want", a heart on fire, a keycap: nothing is hidden there.
+      {QStringLiteral("\u0645\u06cc\u200c\u062e\u0648\u0627\u0647\u0645 \u2764\ufe0f\u200d\U0001f525 1\ufe0f\u20e3"),
+       "\u0645\u06cc\u200c\u062e\u0648\u0627\u0647\u0645 \u2764\ufe0f\u200d\U0001f525 1\ufe0f\u20e3"},
       {QString(QChar(0xd83d)) + QLatin1Char('x') + QChar(0xdf4f) + QChar(0xffff), "\\ud83dx\\udf4f\\uffff"},
   };
   for (const auto& row : rows) {

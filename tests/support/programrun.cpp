@@ -12,11 +12,26 @@ namespace {
 const int runTimeoutMs = 90000;
 const int checkIntervalMs = 20;
 
+/// Those whose file of this name below /proc holds the text.
+QList<qint64> processesWith(const char* fileName, const QByteArray& text) {
+  QList<qint64> processes;
+  for (const QString& entry : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+    QFile file(QStringLiteral("/proc/%1/%2").arg(entry, QLatin1String(fileName)));
+    bool isNumber = false;
+    const qint64 id = entry.toLongLong(&isNumber);
+    if (isNumber && file.open(QIODevice::ReadOnly) && file.readAll().contains(text)) {
+      processes << id;
+    }
+  }
+  return processes;
+}
+
 }  // namespace
 
 ProgramRun::ProgramRun() : m_environment(QProcessEnvironment::systemEnvironment()) {
   m_environment.insert(QStringLiteral("TMPDIR"), m_temporary.path());
   m_environment.insert(QStringLiteral("CORVEX_USER_SETTINGS_DIR"), m_folder.path());
+  m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_folder.filePath(QStringLiteral(".cache")));
   m_process.setWorkingDirectory(m_folder.path());
 }
 
@@ -103,18 +118,24 @@ QStringList ProgramRun::leftovers() const {
   return QDir(m_temporary.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
 }
 
-QList<qint64> ProgramRun::browserProcesses() const {
-  QList<qint64> processes;
-  for (const QString& entry : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
-    QFile commandLine(QStringLiteral("/proc/%1/cmdline").arg(entry));
-    bool isNumber = false;
-    const qint64 id = entry.toLongLong(&isNumber);
-    if (isNumber && commandLine.open(QIODevice::ReadOnly) &&
-        commandLine.readAll().contains(m_temporary.path().toUtf8())) {
-      processes << id;
+QList<qint64> ProgramRun::browserProcesses() const { return processesWith("cmdline", m_temporary.path().toUtf8()); }
+
+QList<qint64> ProgramRun::processes() const { return processesWith("environ", m_temporary.path().toUtf8()); }
+
+bool ProgramRun::eventually(const std::function<bool()>& condition) {
+  QEventLoop loop;
+  QTimer limit;
+  QTimer check;
+  QObject::connect(&limit, &QTimer::timeout, &loop, &QEventLoop::quit);
+  QObject::connect(&check, &QTimer::timeout, &loop, [&] {
+    if (condition()) {
+      loop.quit();
     }
-  }
-  return processes;
+  });
+  limit.start(runTimeoutMs);
+  check.start(checkIntervalMs);
+  loop.exec();
+  return condition();
 }
 
 }  // namespace TestSupport

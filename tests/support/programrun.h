@@ -42,6 +42,10 @@ public:
   QStringList leftovers() const;
   /// Processes that carry the program's temporary folder in their command line.
   QList<qint64> browserProcesses() const;
+  /// All processes of this program, and of those that it started.
+  QList<qint64> processes() const;
+  /// Serves events until the condition holds; false when it does not come about.
+  static bool eventually(const std::function<bool()>& condition);
 
 private:
   QStringList withBrowser(const QStringList& arguments) const;

@@ -72,6 +72,8 @@ ScriptResult ScriptEngine::runScript(const ScriptChoice& choice) {
   if (!result.error.isEmpty() && result.trace.empty()) {
     result.trace = {{choice.path, 0, QString(), QString()}};
   }
+  result.attempt = choice.attempt;
+  result.runsAgain = choice.attempt < choice.attempts && !result.interrupted && !result.whole().passed();
   result.durationMs = timer.elapsed();
   d->listener->scriptFinished(result);
   return result;
@@ -85,13 +87,21 @@ RunSummary ScriptEngine::run(const QStringList& paths) {
   return run(scripts);
 }
 
-RunSummary ScriptEngine::run(const std::vector<ScriptChoice>& scripts) {
+RunSummary ScriptEngine::run(const std::vector<ScriptChoice>& scripts, const RunPolicy& policy) {
   RunSummary summary;
-  for (const ScriptChoice& script : scripts) {
-    if (isInterrupted()) {
-      break;
+  for (ScriptChoice script : scripts) {
+    if (isInterrupted() || policy.isOver(summary)) {
+      summary.notRun << script.path;
+      continue;
     }
-    summary.add(runScript(script));
+    script.attempts = policy.retries + 1;
+    ScriptResult result = runScript(script);
+    while (result.runsAgain) {
+      summary.add(result);
+      ++script.attempt;
+      result = runScript(script);
+    }
+    summary.add(result);
   }
   d->listener->runFinished(summary);
   return summary;

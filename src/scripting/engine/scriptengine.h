@@ -16,6 +16,19 @@ struct ScriptChoice {
   QString path;
   /// Those of its test functions that are to run; empty for all.
   QStringList functions;
+  /// Which attempt at the script this is, and how many there may be.
+  int attempt = 1;
+  int attempts = 1;
+};
+
+/// How a run goes on after failures.
+struct RunPolicy {
+  /// How often a script that failed runs again.
+  int retries = 0;
+  /// After how many failed scripts the run ends; 0 for none.
+  int stopAfter = 0;
+
+  bool isOver(const RunSummary& summary) const { return stopAfter > 0 && summary.failed() >= stopAfter; }
 };
 
 /// Runs JavaScript test scripts on the object model of the framework. Belongs
@@ -29,11 +42,13 @@ public:
   /// Runs a script in a scope of its own. No failure of the script is one of
   /// the engine: all of them stand in the result.
   ScriptResult runFile(const QString& path) { return runScript({path, {}}); }
+  /// One attempt at it. It runs again if that failed, the run was not ended, and an attempt is left; that is up to the
+  /// caller.
   ScriptResult runScript(const ScriptChoice& script);
   /// Runs the scripts one after the other, each whatever came of those before;
   /// after `interrupt` none any more.
   RunSummary run(const QStringList& paths);
-  RunSummary run(const std::vector<ScriptChoice>& scripts);
+  RunSummary run(const std::vector<ScriptChoice>& scripts, const RunPolicy& policy = {});
 
   /// A script that takes longer is ended with an error; the next one runs. 0, as at first, for no limit.
   void setScriptTimeout(int milliseconds);

@@ -1,10 +1,9 @@
 #include "scripting/report/consolereporter.h"
 
-#include <unistd.h>
-
 #include <QtGlobal>
 #include <algorithm>
 
+#include "scripting/report/terminal.h"
 #include "shared/textoutput.h"
 #include "shared/visibletext.h"
 
@@ -25,9 +24,11 @@ QString seconds(qint64 milliseconds) {
 }  // namespace
 
 ConsoleReporter::ConsoleReporter(std::FILE* out, Detail detail)
-    : m_out(out), m_detail(detail), m_colours(isatty(fileno(out)) && qEnvironmentVariableIsEmpty("NO_COLOR")) {}
+    : m_out(out), m_detail(detail), m_colours(isCapableTerminal(out) && qEnvironmentVariableIsEmpty("NO_COLOR")) {}
 
-void ConsoleReporter::scriptStarted(const QString& path) { print(path); }
+void ConsoleReporter::scriptStarted(const QString& path) {
+  print(m_attempt > 1 ? QStringLiteral("%1, attempt %2").arg(path).arg(m_attempt) : path);
+}
 
 void ConsoleReporter::step(const Step& step) { print(seconds(step.durationMs) + QLatin1String("  ") + step.text); }
 
@@ -80,7 +81,15 @@ void ConsoleReporter::scriptFinished(const ScriptResult& result) {
   m_depth = 0;
   // Errors of the functions have been shown.
   printError(result);
-  printVerdict(result.path, result.whole());
+  m_attempt = result.runsAgain ? result.attempt + 1 : 1;
+  if (result.isFlaky()) {
+    print(QStringLiteral("flaky %1 (%2): passed at attempt %3")
+              .arg(result.path, seconds(result.durationMs).trimmed())
+              .arg(result.attempt),
+          Colour::Yellow);
+  } else {
+    printVerdict(result.path, result.whole());
+  }
 }
 
 void ConsoleReporter::printError(const Outcome& outcome) {
@@ -99,11 +108,14 @@ void ConsoleReporter::printVerdict(const QString& name, const Outcome& outcome) 
 }
 
 void ConsoleReporter::runFinished(const RunSummary& summary) {
+  for (const QString& path : summary.notRun) {
+    print(QLatin1String("not run ") + path, Colour::Yellow);
+  }
   print(summary.text(), summary.failed() > 0 ? Colour::Red : Colour::Green);
 }
 
 void ConsoleReporter::print(const QString& text, Colour colour) {
-  static const char* const codes[] = {"", "\033[2m", "\033[32m", "\033[31m"};
+  static const char* const codes[] = {"", "\033[2m", "\033[32m", "\033[33m", "\033[31m"};
   if (m_error) {
     return;
   }
@@ -116,7 +128,8 @@ void ConsoleReporter::print(const QString& text, Colour colour) {
   }
   const QString depth(2 * std::min(m_depth, deepestIndentation), QLatin1Char(' '));
   visible.replace(QLatin1Char('\n'), QLatin1Char('\n') + QLatin1String(indentation) + depth);
-  m_error = writeText(m_out, begin + depth + visible + end);
+  const QString line = begin + depth + visible + end;
+  m_error = writeText(m_out, m_progress ? m_progress->around(line) : line);
   if (m_error && m_outputEnd) {
     m_outputEnd();
   }

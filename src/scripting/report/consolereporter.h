@@ -4,7 +4,7 @@
 #include <functional>
 #include <system_error>
 
-#include "scripting/scriptlistener.h"
+#include "scripting/report/progressline.h"
 
 namespace Corvex::Scripting {
 
@@ -17,9 +17,11 @@ public:
 
   /// Borrows the stream.
   explicit ConsoleReporter(std::FILE* out, Detail detail = Detail::Steps);
-  /// Colours are on at first when the stream is a terminal and the environment
-  /// variable NO_COLOR is not set.
+  /// Colours are on at first when the stream is a terminal that has them and the environment variable NO_COLOR is not
+  /// set.
   void setColours(bool on) { m_colours = on; }
+  /// Lines are printed around this one; borrowed.
+  void setProgress(ProgressLine* progress) { m_progress = progress; }
   /// Called once, when the stream takes no more. Nothing is written from then on.
   void setOutputEnd(const std::function<void()>& outputEnd) { m_outputEnd = outputEnd; }
   /// Why the stream takes no more; none as long as it does.
@@ -40,7 +42,7 @@ public:
   void runFinished(const RunSummary& summary) override;
 
 private:
-  enum class Colour { Plain, Dim, Green, Red };
+  enum class Colour { Plain, Dim, Green, Yellow, Red };
 
   void print(const QString& text, Colour colour = Colour::Plain);
   void printError(const Outcome& outcome);
@@ -49,10 +51,12 @@ private:
   std::FILE* m_out;
   Detail m_detail;
   bool m_colours;
+  ProgressLine* m_progress = nullptr;
   std::function<void()> m_outputEnd;
   std::error_code m_error;
   /// In how many groups the script is.
   int m_depth = 0;
+  int m_attempt = 1;
 };
 
 }  // namespace Corvex::Scripting

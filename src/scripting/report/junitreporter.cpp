@@ -36,18 +36,41 @@ void writeProblem(QXmlStreamWriter* xml, const char* element, const char* type, 
   xml->writeEndElement();
 }
 
+QString problemMessage(const Outcome& result) {
+  return result.error.isEmpty()
+             ? QStringLiteral("%1 of %2 checks failed").arg(result.checksFailed()).arg(result.checks())
+             : result.error;
+}
+
+QString problemText(const Outcome& result) {
+  const QString trace =
+      result.error.isEmpty() ? QString() : traceLines(result.trace).join(QLatin1Char('\n')) + QLatin1Char('\n');
+  return trace + failedChecksText(result);
+}
+
 void writeProblems(QXmlStreamWriter* xml, const Outcome& result) {
   if (!result.error.isEmpty()) {
-    writeProblem(xml, "error", "ScriptError", result.error,
-                 traceLines(result.trace).join(QLatin1Char('\n')) + QLatin1Char('\n') + failedChecksText(result));
+    writeProblem(xml, "error", "ScriptError", problemMessage(result), problemText(result));
   } else if (!result.passed()) {
-    writeProblem(xml, "failure", "Check",
-                 QStringLiteral("%1 of %2 checks failed").arg(result.checksFailed()).arg(result.checks()),
-                 failedChecksText(result));
+    writeProblem(xml, "failure", "Check", problemMessage(result), problemText(result));
   } else if (result.isSkipped) {
     xml->writeEmptyElement(QStringLiteral("skipped"));
     attribute(xml, "message", result.skipReason);
   }
+}
+
+/// Of an attempt before the last one.
+void writeEarlierProblem(QXmlStreamWriter* xml, const Outcome& result, bool isFlaky, const QString& output) {
+  const bool isError = !result.error.isEmpty();
+  const QString kind = isFlaky ? QStringLiteral("flaky") : QStringLiteral("rerun");
+  xml->writeStartElement(kind + (isError ? QStringLiteral("Error") : QStringLiteral("Failure")));
+  attribute(xml, "type", isError ? QStringLiteral("ScriptError") : QStringLiteral("Check"));
+  attribute(xml, "message", problemMessage(result));
+  xml->writeTextElement(QStringLiteral("stackTrace"), visibleText(problemText(result)));
+  if (!output.isEmpty()) {
+    xml->writeTextElement(QStringLiteral("system-out"), visibleText(output));
+  }
+  xml->writeEndElement();
 }
 
 }  // namespace
@@ -63,7 +86,30 @@ QString JUnitReporter::open() {
       .arg(m_file.fileName(), m_file.errorString());
 }
 
+// Until the next attempt begins, a run that is cut off shows the one before.
+void JUnitReporter::takeEarlierAttempts() {
+  const auto first = m_cases.begin() + static_cast<std::ptrdiff_t>(m_firstOfScript);
+  if (m_runsAgain) {
+    m_earlier.insert(m_earlier.end(), first, m_cases.end());
+    m_cases.erase(first, m_cases.end());
+  } else {
+    m_earlier.clear();
+    m_firstOfScript = m_cases.size();
+  }
+  m_runsAgain = false;
+}
+
+void JUnitReporter::addCase(const Case& one) {
+  m_cases.push_back(one);
+  for (const Case& earlier : m_earlier) {
+    if (earlier.name == one.name && !earlier.outcome.passed()) {
+      m_cases.back().earlier.push_back(earlier);
+    }
+  }
+}
+
 void JUnitReporter::scriptStarted(const QString& path) {
+  takeEarlierAttempts();
   m_script = path;
   m_output.clear();
   m_outputOfBody.clear();
@@ -106,7 +152,7 @@ void JUnitReporter::functionStarted(const QString&) {
 }
 
 void JUnitReporter::functionFinished(const FunctionResult& result) {
-  m_cases.push_back({m_script, result.name, result, m_output});
+  addCase({m_script, result.name, result, m_output});
   m_output.clear();
   write();
 }
@@ -117,9 +163,12 @@ void JUnitReporter::scriptFinished(const ScriptResult& result) {
   for (const FunctionResult& function : result.functions) {
     body.durationMs -= function.durationMs;
   }
-  if (result.functions.empty() || !body.passed() || body.checks() > 0 || !m_outputOfBody.isEmpty()) {
-    m_cases.push_back({m_script, m_script, body, m_outputOfBody});
+  const bool hadCase =
+      std::any_of(m_earlier.begin(), m_earlier.end(), [this](const Case& earlier) { return earlier.name == m_script; });
+  if (result.functions.empty() || !body.passed() || body.checks() > 0 || !m_outputOfBody.isEmpty() || hadCase) {
+    addCase({m_script, m_script, body, m_outputOfBody});
   }
+  m_runsAgain = result.runsAgain;
   write();
 }
 
@@ -138,6 +187,9 @@ void JUnitReporter::writeCase(QXmlStreamWriter* xml, const Case& one) {
   attribute(xml, "assertions", QString::number(one.outcome.checks()));
   attribute(xml, "time", seconds(one.outcome.durationMs));
   writeProblems(xml, one.outcome);
+  for (const Case& earlier : one.earlier) {
+    writeEarlierProblem(xml, earlier.outcome, one.outcome.passed(), earlier.output);
+  }
   if (!one.output.isEmpty()) {
     xml->writeTextElement(QStringLiteral("system-out"), visibleText(one.output));
   }

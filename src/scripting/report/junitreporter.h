@@ -11,7 +11,10 @@ namespace Corvex::Scripting {
 
 /// Writes the results as a JUnit XML file, in which each script is a test case, with its checks and what it logged as
 /// its output. One with test functions has a case for each of them instead, and one for its body where that did more
-/// than to define them. The file is complete after every script, so that it also tells of a run that was cut off.
+/// than to define them.
+/// Attempts that failed before the last one stand in its cases, as `flakyFailure` and `flakyError` where that passed,
+/// and as `rerunFailure` and `rerunError` where not. The file is complete after every script, so that it also tells of
+/// a run that was cut off.
 class CORVEXSCRIPTING_EXPORT JUnitReporter : public ScriptListener {
 public:
   explicit JUnitReporter(const QString& path) : m_file(path) {}
@@ -38,12 +41,16 @@ private:
     QString name;
     Outcome outcome;
     QString output;
+    /// What came of it in attempts that failed.
+    std::vector<Case> earlier = {};
   };
 
   void write();
   QByteArray document() const;
   static void writeCase(QXmlStreamWriter* xml, const Case& one);
   void addLine(const QString& text);
+  void addCase(const Case& one);
+  void takeEarlierAttempts();
 
   QFile m_file;
   QString m_error;
@@ -53,6 +60,10 @@ private:
   QString m_outputOfBody;
   int m_depth = 0;
   std::vector<Case> m_cases;
+  /// Where those of the running script begin.
+  std::size_t m_firstOfScript = 0;
+  bool m_runsAgain = false;
+  std::vector<Case> m_earlier;
 };
 
 }  // namespace Corvex::Scripting

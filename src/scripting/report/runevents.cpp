@@ -12,6 +12,14 @@ QString key(const char* name) { return QString::fromLatin1(name); }
 
 QString textOf(const Json& json, const char* name) { return json.value(key(name)).toString(); }
 
+QStringList textsOf(const Json& json, const char* name) {
+  QStringList texts;
+  for (const QJsonValue& text : json.value(key(name)).toArray()) {
+    texts << text.toString();
+  }
+  return texts;
+}
+
 // JSON numbers are exact up to 2^53, longer than any run.
 qint64 numberOf(const Json& json, const char* name) { return static_cast<qint64>(json.value(key(name)).toDouble()); }
 
@@ -73,11 +81,7 @@ void read(const Json& json, Outcome* outcome) {
   outcome->checksPassed = countOf(json, "checksPassed");
   for (const QJsonValue& each : json.value(key("failedChecks")).toArray()) {
     const Json check = each.toObject();
-    QStringList groups;
-    for (const QJsonValue& group : check.value(key("groups")).toArray()) {
-      groups << group.toString();
-    }
-    outcome->failedChecks.push_back({textOf(check, "text"), traceOf(check), groups});
+    outcome->failedChecks.push_back({textOf(check, "text"), traceOf(check), textsOf(check, "groups")});
   }
   outcome->isSkipped = flagOf(json, "isSkipped");
   outcome->skipReason = textOf(json, "skipReason");
@@ -105,6 +109,8 @@ Json asJson(const ScriptResult& result) {
   Json json = asJson(static_cast<const Outcome&>(result));
   json.insert(key("path"), result.path);
   json.insert(key("interrupted"), result.interrupted);
+  json.insert(key("attempt"), result.attempt);
+  json.insert(key("runsAgain"), result.runsAgain);
   json.insert(key("functions"), functions);
   return json;
 }
@@ -114,6 +120,8 @@ ScriptResult scriptOf(const Json& json) {
   read(json, &result);
   result.path = textOf(json, "path");
   result.interrupted = flagOf(json, "interrupted");
+  result.attempt = countOf(json, "attempt");
+  result.runsAgain = flagOf(json, "runsAgain");
   for (const QJsonValue& function : json.value(key("functions")).toArray()) {
     result.functions.push_back(functionOf(function.toObject()));
   }
@@ -154,10 +162,12 @@ RunSummary summaryOf(const Json& json) {
   RunSummary summary;
   summary.scripts = countOf(json, "scripts");
   summary.passed = countOf(json, "passed");
+  summary.flaky = countOf(json, "flaky");
   summary.skipped = countOf(json, "skipped");
   summary.checks = countOf(json, "checks");
   summary.checksFailed = countOf(json, "checksFailed");
   summary.durationMs = numberOf(json, "durationMs");
+  summary.notRun = textsOf(json, "notRun");
   return summary;
 }
 
@@ -257,10 +267,12 @@ void EventWriter::scriptFinished(const ScriptResult& result) { write("scriptFini
 void EventWriter::runFinished(const RunSummary& summary) {
   write("runFinished", {{key("scripts"), summary.scripts},
                         {key("passed"), summary.passed},
+                        {key("flaky"), summary.flaky},
                         {key("skipped"), summary.skipped},
                         {key("checks"), summary.checks},
                         {key("checksFailed"), summary.checksFailed},
-                        {key("durationMs"), summary.durationMs}});
+                        {key("durationMs"), summary.durationMs},
+                        {key("notRun"), QJsonArray::fromStringList(summary.notRun)}});
 }
 
 bool replay(const QJsonObject& event, ScriptListener* listener) {

@@ -1,5 +1,6 @@
 #include "webhook/cli/dumpcommand.h"
 
+#include "shared/visibletext.h"
 #include "shared/wholefile.h"
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
@@ -65,7 +66,7 @@ int dumpCommand(const QStringList& arguments) {
   }
   const int exitCode =
       printOut(QStringLiteral("%1: %2 objects, %3\n")
-                   .arg(path, QString::number(dump.objects.size()),
+                   .arg(visibleText(path, LineBreaks::Shown), QString::number(dump.objects.size()),
                         QLocale::c().formattedDataSize(QFileInfo(path).size(), 1, QLocale::DataSizeSIFormat)),
                ExitCode::Success);
   return dump.error.isEmpty() ? exitCode : command.fail(dump.error);

@@ -4,7 +4,8 @@
 #include "shared/visibletext.h"
 #include "webhook/cli/commandline.h"
 
-#include <QtGlobal>
+#include <QCoreApplication>
+#include <QThread>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -19,6 +20,11 @@ void logVisibly(QtMsgType type, const QMessageLogContext& context, const QString
   if (!message.isNull()) {
     printError(message + QLatin1Char('\n'));
   }
+}
+
+std::function<void()>& roomMaker() {
+  static std::function<void()> maker;
+  return maker;
 }
 
 }  // namespace
@@ -36,7 +42,16 @@ int outputFailed(const std::error_code& error, int exitCode) {
   return exitCode == ExitCode::Success ? ExitCode::Failed : exitCode;
 }
 
-void printError(const QString& text) { writeText(stderr, visibleText(text)); }
+void printError(const QString& text) {
+  // Other threads log, too.
+  const QCoreApplication* const program = QCoreApplication::instance();
+  if (roomMaker() && program && program->thread() == QThread::currentThread()) {
+    roomMaker()();
+  }
+  writeText(stderr, visibleText(text));
+}
+
+void beforeErrors(const std::function<void()>& makeRoom) { roomMaker() = makeRoom; }
 
 void holdClosedStreams() {
   for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <system_error>
 
 namespace Corvex::Webhook {
@@ -15,6 +16,9 @@ int outputFailed(const std::error_code& error, int exitCode);
 
 /// Prints sentences for the user to standard error, made visible.
 void printError(const QString& text);
+
+/// Called before each of them, to make room on the terminal; null for nothing.
+void beforeErrors(const std::function<void()>& makeRoom);
 
 /// Has files that are opened later not take the places of standard streams that are closed, so that what is written to
 /// these fails. To be called first of all.

@@ -32,12 +32,13 @@ const char* const description =
 const int attentionMs = 50;
 
 QString row(const char* title, const QString& text) {
-  return text.isEmpty() ? QString()
-                        : QStringLiteral("    %1 %2\n").arg(QLatin1String(title), -9).arg(visibleText(text));
+  return text.isEmpty()
+             ? QString()
+             : QStringLiteral("    %1 %2\n").arg(QLatin1String(title), -9).arg(visibleText(text, LineBreaks::Shown));
 }
 
 QString report(const PickedObject& picked) {
-  return visibleText(picked.name) + u'\n' +
+  return visibleText(picked.name, LineBreaks::Shown) + u'\n' +
          (picked.domPath.isEmpty() ? row("gone", QStringLiteral("The object went before it could be looked at."))
                                    : row("matches", QString::number(picked.matches))) +
          row("class", picked.className) + row("DOM path", picked.domPath) + row("context", picked.context);

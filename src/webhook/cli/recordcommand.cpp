@@ -136,7 +136,9 @@ public:
 
 private:
   QString startBrowser();
-  void show(const QString& line) { m_outputCode = qMax(m_outputCode, printOut(visibleText(line) + u'\n', 0)); }
+  void show(const QString& line) {
+    m_outputCode = qMax(m_outputCode, printOut(visibleText(line, LineBreaks::Shown) + u'\n', 0));
+  }
   void complain(const QString& error) {
     m_failure = error;
     printError(QStringLiteral("corvexweb record: %1\n").arg(error));

@@ -2,6 +2,7 @@
 
 #include "scripting/testfunctions.h"
 #include "shared/textfile.h"
+#include "shared/visibletext.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -91,12 +92,10 @@ public:
   }
 
   QStringList fittingFunctions(const Script& script) const {
+    const QStringList declared = Scripting::declaredTestFunctions(readTextFile(script.path).value);
     QStringList functions;
-    for (const QString& name : Scripting::declaredFunctions(readTextFile(script.path).value)) {
-      if (Scripting::isTestFunction(name) && fit(name)) {
-        functions << name;
-      }
-    }
+    std::copy_if(declared.begin(), declared.end(), std::back_inserter(functions),
+                 [this](const QString& name) { return fit(name); });
     return functions;
   }
 
@@ -125,6 +124,20 @@ Choice chooseScripts(const QStringList& paths, const QStringList& filterTexts) {
   return choice.value.empty() ? Choice::failure(QStringLiteral("No script and no test function fits --filter '%1'.")
                                                     .arg(filterTexts.join(QLatin1String("' or '"))))
                               : choice;
+}
+
+QString scriptList(const std::vector<ScriptChoice>& scripts) {
+  QString list;
+  for (const ScriptChoice& script : scripts) {
+    list += visibleText(script.path, LineBreaks::Shown) + QLatin1Char('\n');
+    const QStringList functions = script.functions.isEmpty()
+                                      ? Scripting::declaredTestFunctions(readTextFile(script.path).value)
+                                      : script.functions;
+    for (const QString& name : functions) {
+      list += QStringLiteral("  %1()\n").arg(visibleText(name));
+    }
+  }
+  return list;
 }
 
 }  // namespace Corvex::Webhook

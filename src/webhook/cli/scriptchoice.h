@@ -19,4 +19,7 @@ namespace Corvex::Webhook {
 FunctionCallResult<std::vector<Scripting::ScriptChoice>> chooseScripts(const QStringList& paths,
                                                                        const QStringList& filters);
 
+/// What `corvexweb run --list` prints: each script, and on the lines after it the test functions of it that would run.
+QString scriptList(const std::vector<Scripting::ScriptChoice>& scripts);
+
 }  // namespace Corvex::Webhook

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 
 #include <QFile>
 #include <QProcessEnvironment>
@@ -25,6 +26,7 @@ struct Prepared {
   std::vector<char*> environment;
   std::string program;
   std::string outputFile;
+  int outputDescriptor = -1;
   std::vector<std::pair<int, int>> descriptors;
   int errorPipe = -1;
 };
@@ -33,6 +35,7 @@ Prepared prepare(const ChildCommand& command) {
   Prepared prepared;
   prepared.program = QFile::encodeName(command.program).toStdString();
   prepared.outputFile = QFile::encodeName(command.outputFile).toStdString();
+  prepared.outputDescriptor = command.outputDescriptor;
   prepared.descriptors = command.descriptors;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   for (auto entry = command.environment.begin(); entry != command.environment.end(); ++entry) {
@@ -55,7 +58,8 @@ Prepared prepare(const ChildCommand& command) {
 void redirectStandardStreams(const Prepared& prepared) {
   const int input = open("/dev/null", O_RDONLY);
   const char* outputFile = prepared.outputFile.empty() ? "/dev/null" : prepared.outputFile.c_str();
-  const int output = open(outputFile, O_WRONLY | O_CREAT | O_APPEND, 0600);
+  const int output = prepared.outputDescriptor >= 0 ? prepared.outputDescriptor
+                                                    : open(outputFile, O_WRONLY | O_CREAT | O_APPEND, 0600);
   dup2(input, 0);
   dup2(output, 1);
   dup2(output, 2);
@@ -129,13 +133,14 @@ ChildProcess::Start ChildProcess::start(const ChildCommand& command) {
 
   adoptOrphans();
   const pid_t parent = getpid();
-  const pid_t pid = Cleanup::noteProcessGroup(markOf(command).toLocal8Bit().toStdString(), [&]() -> pid_t {
-    const pid_t forked = fork();
-    if (forked == 0) {
-      becomeChild(prepared, parent);
-    }
-    return forked;
-  });
+  const pid_t pid =
+      Cleanup::noteProcessGroup({markOf(command).toLocal8Bit().toStdString(), command.cleansUp}, [&]() -> pid_t {
+        const pid_t forked = fork();
+        if (forked == 0) {
+          becomeChild(prepared, parent);
+        }
+        return forked;
+      });
   if (pid < 0) {
     return failure(errno);
   }
@@ -166,6 +171,21 @@ ChildProcess::~ChildProcess() {
   }
   m_endNotifier->setEnabled(false);
   m_endNotifier.release()->deleteLater();  // this may run inside its own signal
+}
+
+std::optional<ChildEnd> ChildProcess::howEnded() const {
+  siginfo_t info = {};
+  // Whoever ends the process for good has it.
+  if (waitid(P_PID, id_t(m_pid), &info, WEXITED | WNOHANG | WNOWAIT) != 0 || info.si_pid == 0) {
+    return std::nullopt;
+  }
+  return info.si_code == CLD_EXITED ? ChildEnd{info.si_status, 0} : ChildEnd{std::nullopt, info.si_status};
+}
+
+QString ChildEnd::text() const {
+  return exitCode
+             ? QStringLiteral("ended with exit code %1").arg(*exitCode)
+             : QStringLiteral("was ended by signal %1 (%2)").arg(signal).arg(QString::fromLocal8Bit(strsignal(signal)));
 }
 
 void ChildProcess::end() {

@@ -5,10 +5,12 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <cstring>
 #include <map>
 #include <mutex>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include "webhook/process/claimeddirectory.h"
 #include "webhook/process/processgroup.h"
@@ -19,7 +21,7 @@ namespace {
 
 struct Notes {
   std::mutex mutex;
-  std::map<pid_t, std::string> groups;
+  std::map<pid_t, NotedGroup> groups;
   std::map<std::string, FileDescriptor> directories;  ///< With the claims to them.
 };
 
@@ -29,8 +31,15 @@ Notes& notes() {
 }
 
 void runLocked(Notes& all) {
-  for (const auto& [group, mark] : all.groups) {
-    killProcessGroup(group, mark);
+  std::vector<pid_t> leaders;
+  for (const auto& [group, noted] : all.groups) {
+    if (noted.cleansUp) {
+      leaders.push_back(group);
+    }
+  }
+  askToEnd(leaders);
+  for (const auto& [group, noted] : all.groups) {
+    killProcessGroup(group, noted.mark);
   }
   for (const auto& [directory, claim] : all.directories) {
     removeTree(directory);
@@ -40,6 +49,7 @@ void runLocked(Notes& all) {
 }
 
 std::atomic<std::atomic<bool>*> stopFlag{nullptr};
+std::atomic<const char*> farewell{nullptr};
 
 /// Whether a signal is only a wish.
 bool isWish() {
@@ -57,6 +67,10 @@ void serveSignals(sigset_t signals) {
   Notes& all = notes();
   all.mutex.lock();  // for good: nothing new may begin any more
   runLocked(all);
+  const char* const text = farewell;
+  if (text && write(STDOUT_FILENO, text, std::strlen(text)) < 0) {
+    _exit(128 + signal);
+  }
   _exit(128 + signal);
 }
 
@@ -80,14 +94,16 @@ void install() {
 
 void setStopFlag(std::atomic<bool>* flag) { stopFlag = flag; }
 
-pid_t noteProcessGroup(const std::string& mark, const std::function<pid_t()>& start) {
+void setFarewell(const char* text) { farewell = text; }
+
+pid_t noteProcessGroup(const NotedGroup& group, const std::function<pid_t()>& start) {
   Notes& all = notes();
   std::lock_guard lock(all.mutex);
-  const pid_t group = start();
-  if (group > 0) {
-    all.groups[group] = mark;
+  const pid_t leader = start();
+  if (leader > 0) {
+    all.groups[leader] = group;
   }
-  return group;
+  return leader;
 }
 
 void endProcessGroup(pid_t group) {
@@ -97,7 +113,10 @@ void endProcessGroup(pid_t group) {
   if (found == all.groups.end()) {
     return;
   }
-  killProcessGroup(group, found->second);
+  if (found->second.cleansUp) {
+    askToEnd({group});
+  }
+  killProcessGroup(group, found->second.mark);
   all.groups.erase(found);
 }
 

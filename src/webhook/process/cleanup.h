@@ -20,10 +20,17 @@ void install();
 /// program as ever. Null has each signal end it.
 void setStopFlag(std::atomic<bool>* flag);
 
+/// A process group that must not outlive the program.
+struct NotedGroup {
+  /// An entry of the environment ("NAME=value") of every process to end, those that left the group included.
+  std::string mark;
+  /// Its leader cleans up on SIGTERM, and gets a moment for that.
+  bool cleansUp = false;
+};
+
 /// Runs `start`, which forks a process that leads its own group, and notes the group that it returns (none if below 1).
-/// No signal is served between the two. `mark` is an entry of the environment ("NAME=value") of every process to end,
-/// those that left the group included.
-pid_t noteProcessGroup(const std::string& mark, const std::function<pid_t()>& start);
+/// No signal is served between the two.
+pid_t noteProcessGroup(const NotedGroup& group, const std::function<pid_t()>& start);
 
 /// Kills and reaps the group and what carries its mark, and forgets it.
 void endProcessGroup(pid_t group);
@@ -33,6 +40,10 @@ std::string makeDirectory(const std::string& pathTemplate);
 
 /// Removes the directory with all that it holds, and forgets it.
 void removeDirectory(const std::string& path);
+
+/// What is written to the standard output when a signal ends the program, so that a terminal is left in order; null for
+/// nothing. The text is not copied.
+void setFarewell(const char* text);
 
 /// Ends and removes everything that is noted.
 void run();

@@ -62,6 +62,16 @@ void waitUntilGone(pid_t process, Clock::time_point end) {
 
 void adoptOrphans() { prctl(PR_SET_CHILD_SUBREAPER, 1); }
 
+void askToEnd(const std::vector<pid_t>& processes) {
+  const Clock::time_point end = patience();
+  for (pid_t process : processes) {
+    kill(process, SIGTERM);
+  }
+  for (pid_t process : processes) {
+    waitUntilGone(process, end);
+  }
+}
+
 void killProcessGroup(pid_t group, const std::string& mark) {
   const Clock::time_point end = patience();
   const std::vector<pid_t> strays = processesWithMark(mark);

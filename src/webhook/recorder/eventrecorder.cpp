@@ -259,6 +259,9 @@ bool EventRecorder::takeKey(const QString& objectName) {
     m_returnField.clear();
     return false;
   }
+  if (objectName != m_returnField) {
+    m_returnField.clear();
+  }
   const int keyCode = item(m_data, "keyCode").toInt();
   if (keyCode == 13) {
     return takeReturn(objectName, goesDown);

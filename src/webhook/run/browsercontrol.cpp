@@ -221,9 +221,12 @@ void BrowserControl::scriptStarted(const QString& path) {
   m_scriptFolder = QFileInfo(path).absolutePath();
   m_input = m_inputOfRun;
   m_credentials = m_credentialsOfRun;
+  m_hadBrowserFailure = m_browserFailure;
 }
 
-void BrowserControl::scriptFinished(const Scripting::ScriptResult&) {
+void BrowserControl::scriptFinished(const Scripting::ScriptResult& result) {
+  // The next attempt tells whether it lasts.
+  m_browserFailure = result.runsAgain ? m_hadBrowserFailure : m_browserFailure;
   closeBrowser();
   m_downloads.reset();
 }

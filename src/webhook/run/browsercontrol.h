@@ -67,7 +67,7 @@ public:
   QString whyNoScreen() const;
   /// Of the current window, or of another one.
   QString whyNotAskPage(Connection* window = nullptr) const;
-  /// Whether, at any time, a browser could not be started or was lost.
+  /// Whether, at any time but in attempts at scripts that ran again, a browser could not be started or was lost.
   bool hadBrowserFailure() const { return m_browserFailure; }
 
   /// For the running script; the next one begins with those of the run.
@@ -111,6 +111,8 @@ private:
   QString m_scriptFolder;
   QString m_lossReason;
   bool m_browserFailure = false;
+  /// Before the running script began.
+  bool m_hadBrowserFailure = false;
   bool m_loadIsHeld = false;
   InputSettings m_inputOfRun;
   InputSettings m_input;

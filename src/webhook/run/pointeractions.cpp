@@ -1,5 +1,6 @@
 #include "webhook/run/pointeractions.h"
 
+#include "shared/wait.h"
 #include "webhook/pages/connection.h"
 #include "webhook/run/actiontarget.h"
 #include "webhook/run/keytext.h"
@@ -55,11 +56,15 @@ QString act(ActionTarget& target, const PointerUse& use, bool presses,
   });
 }
 
+// A frame. No hand is faster, and pages arrange anew what is dragged over in their own time.
+const int moveMs = 16;
+
 /// One after the other: of moves that are given at once a page sees the last one only.
 QString moveAlong(const ActionTarget& target, const QVector<QPointF>& points) {
   QString error;
   for (int i = 0; i < points.size() && error.isEmpty(); ++i) {
     error = target.perform({pointerStep(InputStep::Move, points.at(i))});
+    gentleSleep(moveMs);
   }
   return error;
 }

@@ -66,15 +66,15 @@ struct Field {
   QString error;
 };
 
-/// A field that is read-only gets the time to change.
+/// A field that is read-only gets the time to change, and one that moves the time to stand still.
 Field fieldOf(const ActionTarget& target) {
   Field field;
   poll(target.remainingMs(), stateIntervalMs, [&] {
     const JavaScriptAnswer answer = target.ask(QStringLiteral("__corvex__typingState(%1)"));
     const QStringList words = answer.text.split(QLatin1Char(' '));
     field = {words.value(0), words.value(1) == QLatin1String("focus"), answer.succeeded() ? QString() : answer.text};
-    return field.kind != QLatin1String("readonly") || !field.error.isEmpty() ||
-           !Inspector::self()->whyNotGoOn().isEmpty();
+    return (field.kind != QLatin1String("readonly") && field.kind != QLatin1String("moving")) ||
+           !field.error.isEmpty() || !Inspector::self()->whyNotGoOn().isEmpty();
   });
   return field;
 }
@@ -174,6 +174,9 @@ QString Typing::put(const SharedPtr<Object>& object, const QString& text, bool h
   }
   if (field.kind == QLatin1String("readonly")) {
     return target.failure(QStringLiteral("it is read-only"));
+  }
+  if (field.kind == QLatin1String("moving")) {
+    return target.failure(QStringLiteral("it keeps moving"));
   }
   if (field.kind == QLatin1String("none")) {
     return target.failure(QStringLiteral("it takes no text"));

@@ -25,6 +25,14 @@ retrieveJSObject("clearLog(); document.addEventListener('mousemove', function on
 mouseClick(element("BUTTON", "b"));
 test.compare(log().replace(/focus b;|blur \w+;/g, ""), "pointerdown b;mousedown b;pointerup b;mouseup b;click b");
 
+// A field with the focus whose surroundings only just open.
+retrieveJSObject("var opening = document.createElement('div'); opening.innerHTML = '<input id=opened>'; " +
+  "opening.style.overflow = 'hidden'; document.body.prepend(opening); " +
+  "opening.animate([{ height: '0' }, { height: '40px' }], 400); document.getElementById('opened').focus()");
+typeText(element("INPUT", "opened"), "日本 日本");
+test.compare(findObject(element("INPUT", "opened")).value, "日本 日本");
+retrieveJSObject("opening.remove()");
+
 retrieveJSObject("slide(); clearLog()");
 mouseClick(element("BUTTON", "b"));
 test.compare(retrieveJSObject("document.getElementById('b').getAnimations().length"), 0, "it waited for the animation");

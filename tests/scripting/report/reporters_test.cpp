@@ -37,7 +37,17 @@ protected:
         .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
   }
 
-private:
+  /// Gives scripts a function `flaky` that fails so often before it works.
+  void failFirst(int failures) {
+    ScriptFunction flaky;
+    flaky.name = flaky.usage = s("flaky");
+    flaky.call = [this, failures](const Corvex::ObjectList&) {
+      using Result = Corvex::FunctionCallResult<Corvex::SharedPtr<Corvex::Object>>;
+      return ++m_calls > failures ? Result() : Result::failure(s("not yet"));
+    };
+    host.functions.push_back(flaky);
+  }
+
   static QString textOf(ConsoleReporter::Detail detail, const std::function<void(ConsoleReporter*)>& run) {
     char* buffer = nullptr;
     std::size_t size = 0;
@@ -49,6 +59,9 @@ private:
     std::free(buffer);
     return text;
   }
+
+private:
+  int m_calls = 0;
 };
 
 }  // namespace
@@ -63,6 +76,34 @@ TEST_F(ScriptReporters, SummaryCountsScriptsAndChecks) {
   result.durationMs = 3249;
   one.add(result);
   EXPECT_EQ(one.text(), s("1 script: 1 passed, 0 failed; 1 check, 0 failed; 3.2 s"));
+}
+
+TEST_F(ScriptReporters, AttemptsThatFailedStaySeenAndCountAsNone) {
+  failFirst(1);
+  write("flaky();\ntest.verify(true);", "flaky.js");
+  RunSummary summary;
+  QString lines = textOf(ConsoleReporter::Detail::Steps, [&](ConsoleReporter* reporter) {
+    summary = ScriptEngine(host, reporter).run({{path("flaky.js"), {}}, {path("good.js"), {}}}, {2, 0});
+  });
+  EXPECT_EQ(summary.failed(), 0);
+  lines.replace(QRegularExpression(s("\\d+\\.\\d+ ?s")), s("0s")).remove(path("x").chopped(1));
+  EXPECT_TRUE(lines.startsWith(s("flaky.js\n  0s  flaky\n  ERROR   not yet\n"))) << qPrintable(lines);
+  EXPECT_TRUE(lines.contains(s("FAILED flaky.js (0s)\nflaky.js, attempt 2\n"))) << qPrintable(lines);
+  EXPECT_TRUE(lines.contains(s("flaky flaky.js (0s): passed at attempt 2\ngood.js\n"))) << qPrintable(lines);
+  EXPECT_TRUE(lines.endsWith(s("2 scripts: 2 passed (1 flaky), 0 failed; 2 checks, 0 failed; 0s\n")))
+      << qPrintable(lines);
+}
+
+TEST_F(ScriptReporters, ARunThatEndsAfterFailuresNamesWhatDidNotRun) {
+  failFirst(5);
+  write("flaky();", "flaky.js");
+  QString lines = textOf(ConsoleReporter::Detail::Steps, [&](ConsoleReporter* reporter) {
+    ScriptEngine(host, reporter).run({{path("flaky.js"), {}}, {path("checks.js"), {}}, {path("good.js"), {}}}, {1, 2});
+  });
+  EXPECT_EQ(lines.count(s("ERROR   not yet")), 2);
+  EXPECT_TRUE(
+      lines.contains(s("\nnot run ") + path("good.js") + s("\n3 scripts: 0 passed, 2 failed, 1 not run; 1 check")))
+      << qPrintable(lines);
 }
 
 TEST_F(ScriptReporters, ConsoleShowsStepsErrorsAndTheSummaryLast) {
@@ -170,6 +211,23 @@ TEST_F(ScriptReporters, JUnitFileIsValidAndComplete) {
            s("out FAILED a < b & \"c\" does not hold (") + path("checks.js") + s(":1)\nbad \\u0001"), s("case error"),
            s("error Object '{id='<none>'}' not found. | ") + path("lib.js") +
                s(":2 in look(): findObject(\"{id='<none>'}\");\ncalled from ") + path("error.js") + s(":3: look();")}));
+}
+
+TEST_F(ScriptReporters, JUnitFileHoldsAttemptsThatFailedInTheCasesOfTheLast) {
+  failFirst(3);
+  write("function testGood() {}\nfunction testBad() { test.log('tried'); flaky(); }", "flaky.js");
+  JUnitReporter reporter(path("junit.xml"));
+  ASSERT_EQ(reporter.open(), QString());
+  ScriptEngine(host, &reporter).run({{path("flaky.js"), {}}, {path("flaky.js"), {}}}, {1, 0});
+  QString xml = QString::fromUtf8(TestSupport::readFile(path("junit.xml")));
+  xml.replace(QRegularExpression(
+                  s("(\\s*)?<system-out>.*?</system-out>\\s*|<stackTrace>[^<]*</stackTrace>\\s*|time=\"[^\"]*\"")),
+              QString());
+  EXPECT_TRUE(xml.contains(s("tests=\"4\" failures=\"0\" errors=\"1\""))) << qPrintable(xml);
+  EXPECT_EQ(xml.count(s("<rerunError type=\"ScriptError\" message=\"not yet\">")), 1) << qPrintable(xml);
+  EXPECT_EQ(xml.count(s("<flakyError type=\"ScriptError\" message=\"not yet\">")), 1) << qPrintable(xml);
+  EXPECT_LT(xml.indexOf(s("rerunError")), xml.indexOf(s("flakyError")));
+  EXPECT_EQ(xml.count(s("<testcase name=\"testGood\"")), 2) << qPrintable(xml);
 }
 
 TEST_F(ScriptReporters, JUnitFileThatCannotBeWrittenIsToldBeforehand) {

@@ -31,9 +31,13 @@ void tellAll(ScriptListener* listener) {
   fill(&script);
   script.path = s("/a/\u00fc b.js");
   script.interrupted = true;
+  script.attempt = 2;
+  script.runsAgain = true;
   script.functions = {function};
   RunSummary summary;
   summary.add(script);
+  summary.flaky = 3;
+  summary.notRun = QStringList{s("late.js")};
   const ScriptTrace trace = function.trace;
   Picture picture{
       Picture::Purpose::Step, QByteArray("\x00\xff</script>", 11), s("image/png"), {7, 9}, {1, 2, 3, 4}, s("No.")};
@@ -96,7 +100,8 @@ TEST(RunEvents, ComeBackAsTheyWere) {
   EXPECT_TRUE(witness.pictures[1].marked.isEmpty());
   EXPECT_EQ(witness.script.functions.at(0).failedChecks.at(0).fullText(), s("outer: inner: got 1"));
   EXPECT_EQ(witness.script.durationMs, 4294967296123);
-  EXPECT_TRUE(witness.script.interrupted);
+  EXPECT_TRUE(witness.script.interrupted && witness.script.runsAgain);
+  EXPECT_EQ(witness.script.attempt, 2);
 }
 
 TEST(RunEvents, WhatIsNoneIsRefused) {

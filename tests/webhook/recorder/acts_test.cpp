@@ -116,7 +116,7 @@ b.onclick = function () { panel.className = 'x'; };</script>)"});
   EXPECT_EQ(
       recorded("/page.html", {"typeText(\"{tagName='INPUT' id='n'}\", \"a b<Tab>\");", "pressKeys(\"c<Tab><Space>\");",
                               "pressKeys(\"<Tab><Down><Shift+Home>x\");", "pressKeys(\"<Esc>\");",
-                              "mouseClick(\"{tagName='INPUT' id='m'}\"); pressKeys(\"<Tab><Tab><Tab>\");"}),
+                              "mouseClick(\"{tagName='INPUT' id='m'}\"); pressKeys(\"d<Tab><Tab><Tab>\");"}),
       R"(setFocus("{tagName='INPUT' type='text' id='n'}");
 typeText("{tagName='INPUT' type='text' id='n'}", "a b");
 typeText("{tagName='INPUT' type='text' id='m'}", "c");
@@ -126,6 +126,7 @@ pressKeys("<Shift+Home>");
 pressKeys("x");
 pressKeys("<Esc>");
 setFocus("{tagName='INPUT' type='text' id='m'}");
+typeText("{tagName='INPUT' type='text' id='m'}", "cd");
 pressKeys("<Tab><Tab><Tab>");
 )");
 }

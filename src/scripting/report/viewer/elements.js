@@ -1,7 +1,8 @@
 // Gives: small parts of the page that others are made of.
 // Needs: nothing.
 
-const SIGNS = { passed: '✓', failed: '✗', skipped: '–', torn: '…' };
+const SIGNS = { passed: '✓', failed: '✗', skipped: '–', torn: '…', retried: '↻', flaky: '✓' };
+const SPOKEN = { torn: 'did not end', retried: 'failed and ran again', flaky: 'passed after a failed attempt' };
 const byId = function (id) { return document.getElementById(id); };
 
 function make(tag, className, content) {
@@ -22,7 +23,7 @@ function counted(count, noun) {
 function sign(status) {
   const mark = make('span', 'sign ' + status, SIGNS[status]);
   mark.setAttribute('role', 'img');
-  mark.setAttribute('aria-label', status === 'torn' ? 'did not end' : status);
+  mark.setAttribute('aria-label', SPOKEN[status] || status);
   return mark;
 }
 

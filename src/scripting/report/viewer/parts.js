@@ -50,8 +50,10 @@ function noteOf(part) {
   if (result.isSkipped && part.status === 'skipped') {
     return 'skipped' + (result.skipReason ? ': ' + result.skipReason : '');
   }
+  const attempt = part.status === 'retried' ? 'attempt ' + part.attempt + ' failed; ' :
+    part.status === 'flaky' ? 'flaky, attempt ' + part.attempt + '; ' : '';
   const checks = checksOf(result);
-  return counted(checks.all, 'check') + (checks.failed ? ', ' + checks.failed + ' failed' : '');
+  return attempt + counted(checks.all, 'check') + (checks.failed ? ', ' + checks.failed + ' failed' : '');
 }
 
 function draw(part) {

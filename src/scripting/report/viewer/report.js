@@ -7,10 +7,22 @@ function count(status) {
   return run.scripts.filter(function (one) { return one.status === status; }).length;
 }
 
+function total() {
+  return run.scripts.length - count('retried');
+}
+
 function sentence() {
   const failed = count('failed') + count('torn');
   return run.scripts.length === 0 ? 'No script was run.' : failed === 0 ? 'All passed.' :
-    failed + ' of ' + counted(run.scripts.length, 'script') + ' failed.';
+    failed + ' of ' + counted(total(), 'script') + ' failed.';
+}
+
+function drawNotRun() {
+  const paths = run.summary && run.summary.notRun || [];
+  if (paths.length) {
+    byId('not-run').hidden = false;
+    byId('not-run').append(make('ul', '', paths.map(function (path) { return make('li', '', path); })));
+  }
 }
 
 function drawHeader() {
@@ -22,18 +34,18 @@ function drawHeader() {
   const checks = run.scripts.map(function (one) {
     return one.result ? checksOf(one.result) : { all: 0, failed: 0 };
   });
-  const total = function (field) {
-    return checks.reduce(function (sum, one) { return sum + one[field]; }, 0);
+  const sum = function (field) {
+    return checks.reduce(function (all, one) { return all + one[field]; }, 0);
   };
   const numbers = byId('numbers');
-  addTerm(numbers, 'scripts', String(run.scripts.length));
-  [['passed', count('passed')], ['failed', count('failed')], ['skipped', count('skipped')],
-    ['did not end', count('torn')]].forEach(function (pair) {
+  addTerm(numbers, 'scripts', String(total()));
+  [['passed', count('passed') + count('flaky')], ['flaky', count('flaky')], ['failed', count('failed')],
+    ['skipped', count('skipped')], ['did not end', count('torn')]].forEach(function (pair) {
     if (pair[1]) {
       addTerm(numbers, pair[0], String(pair[1]));
     }
   });
-  addTerm(numbers, 'checks', total('all') + (total('failed') ? ', ' + total('failed') + ' failed' : ''));
+  addTerm(numbers, 'checks', sum('all') + (sum('failed') ? ', ' + sum('failed') + ' failed' : ''));
   if (run.summary) {
     addTerm(numbers, 'time', seconds(run.summary.durationMs, 1));
   }
@@ -108,6 +120,7 @@ function showAll() {
   drawHeader();
   drawFailures();
   byId('scripts').append.apply(byId('scripts'), run.scripts.map(partOf));
+  drawNotRun();
   drawEnvironment();
   byId('next-failure').disabled = run.failures.length === 0;
   byId('next-failure').addEventListener('click', nextFailure);

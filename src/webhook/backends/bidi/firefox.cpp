@@ -2,6 +2,7 @@
 
 #include "webhook/browser/browserprogram.h"
 #include "webhook/browser/pageerrors.h"
+#include "webhook/browser/pagesize.h"
 
 #include <QDir>
 #include <QFile>
@@ -83,6 +84,9 @@ QByteArray proxyPreferences(const SessionOptions& options) {
 
 QString profile(const QString& directory) { return directory + QStringLiteral("/profile"); }
 
+// Tabs and address.
+const int heightOfBars = 86;
+
 /// Keeps the browser from writing outside of its directory.
 void addEnvironment(const QString& directory, QMap<QString, QString>& variables) {
   variables.insert(QStringLiteral("HOME"), directory + QStringLiteral("/home"));
@@ -90,6 +94,9 @@ void addEnvironment(const QString& directory, QMap<QString, QString>& variables)
   variables.insert(QStringLiteral("XDG_CONFIG_HOME"), directory + QStringLiteral("/home/.config"));
   variables.insert(QStringLiteral("TMPDIR"), directory + QStringLiteral("/tmp"));
   variables.insert(QStringLiteral("MOZ_CRASHREPORTER_DISABLE"), QStringLiteral("1"));
+  // Of the screen, too, where there is none.
+  variables.insert(QStringLiteral("MOZ_HEADLESS_WIDTH"), QString::number(usualPageWidth));
+  variables.insert(QStringLiteral("MOZ_HEADLESS_HEIGHT"), QString::number(usualPageHeight + heightOfBars));
   variables.insert(QStringLiteral("GSETTINGS_BACKEND"), QStringLiteral("memory"));
   const QString authority = QDir::homePath() + QStringLiteral("/.Xauthority");
   if (!qEnvironmentVariableIsSet("XAUTHORITY") && QFileInfo::exists(authority)) {
@@ -160,8 +167,15 @@ bool isMeant(const QString& browser) {
 FunctionCallResult<QString> find(const QString& wanted) { return BrowserProgram::find(family(), wanted); }
 
 QStringList arguments(const QString& directory, const SessionOptions& options) {
-  QStringList list{QStringLiteral("--remote-debugging-port"), QStringLiteral("0"), QStringLiteral("--profile"),
-                   profile(directory), QStringLiteral("--no-remote")};
+  QStringList list{QStringLiteral("--remote-debugging-port"),
+                   QStringLiteral("0"),
+                   QStringLiteral("--profile"),
+                   profile(directory),
+                   QStringLiteral("--no-remote"),
+                   QStringLiteral("--width"),
+                   QString::number(usualPageWidth),
+                   QStringLiteral("--height"),
+                   QString::number(usualPageHeight + heightOfBars)};
   if (!options.headed) {
     list.append(QStringLiteral("--headless"));
   }

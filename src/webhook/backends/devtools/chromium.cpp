@@ -1,6 +1,7 @@
 #include "webhook/backends/devtools/chromium.h"
 
 #include "webhook/browser/browserprogram.h"
+#include "webhook/browser/pagesize.h"
 
 #include <unistd.h>
 
@@ -62,12 +63,16 @@ void addEnvironment(const QString& directory, QMap<QString, QString>& variables)
 
 FunctionCallResult<QString> find(const QString& wanted) { return BrowserProgram::find(family(), wanted); }
 
+// Tabs, address and the bar that says that the browser is tested.
+const int heightOfBars = 143;
+
 QStringList arguments(const QString& directory, const SessionOptions& options) {
   QStringList list;
   for (const char* argument : fixedArguments) {
     list.append(QString::fromLatin1(argument));
   }
   list.append(QStringLiteral("--user-data-dir=%1/profile").arg(directory));
+  list.append(QStringLiteral("--window-size=%1,%2").arg(usualPageWidth).arg(usualPageHeight + heightOfBars));
   if (!options.headed) {
     // A picture of the whole page takes its scroll bars away and does not bring them back, so they are never there.
     list << QStringLiteral("--headless=new") << QStringLiteral("--disable-gpu") << QStringLiteral("--hide-scrollbars");

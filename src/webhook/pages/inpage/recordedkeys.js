@@ -140,8 +140,10 @@
     }
   }
 
+  // Fields of text tell of their change once more when the focus leaves them.
   function noteContent(e) {
-    if (e.isTrusted) {
+    var isLeft = e.type === "change" && __corvex__kindOfField(__corvex__srcElement(e)) === "text";
+    if (e.isTrusted && !isLeft) {
       forget();
     }
   }

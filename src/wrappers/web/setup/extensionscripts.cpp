@@ -2,6 +2,7 @@
 
 #include "shared/environment.h"
 #include "shared/settings.h"
+#include "shared/visibletext.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,7 +19,7 @@ const QString settingsGroup = QStringLiteral("Extensions");
 QString readExtension(const QString& path) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) {
-    std::fprintf(stderr, "Failed to read JavaScript extension: %s\n", qPrintable(path));
+    std::fprintf(stderr, "Failed to read JavaScript extension: %s\n", qUtf8Printable(visibleText(path)));
     return QString();
   }
   return QString::fromUtf8(file.readAll());

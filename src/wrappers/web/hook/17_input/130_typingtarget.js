@@ -1,5 +1,5 @@
 // Gives: how an element takes text: __corvex__typingKind, __corvex__focusedField, __corvex__typingField.
-// Needs: runtime/natives, runtime/nodes, input/hittarget, input/typingcheck.
+// Needs: runtime/natives, runtime/nodes, input/hittarget, input/motion, input/typingcheck.
 
 // The deepest element that has the focus, through shadow trees and frames.
 function __corvex__activeElement() {
@@ -85,8 +85,8 @@ var __corvex__leadsToField = (function () {
   };
 })();
 
-// The kind of o, "none" for what does not lead to a field; and "focus" if a person would not click it before typing, else
-// "click".
+// The kind of o, "none" for what does not lead to a field, "moving" for one that does not stand still yet; and "focus" if
+// a person would not click it before typing, else "click".
 function __corvex__typingState(o) {
   var kind = __corvex__typingKind(o);
   if (!kind && !__corvex__leadsToField(o)) {
@@ -94,7 +94,10 @@ function __corvex__typingState(o) {
   }
   var isReady = __corvex__nodeReader.nodeType(o) !== 1 || __corvex__isKeyCatcher(o) ||
     __corvex__focusedField(o, false) === "field";
-  return kind + " " + (isReady ? "focus" : "click");
+  // Browsers lose the caret in a field that is just being shown.
+  var isMoving = isReady && __corvex__nodeReader.nodeType(o) === 1 && __corvex__motion.isAnimated(o) &&
+    __corvex__motion.isMoving(o);
+  return (isMoving ? "moving" : kind) + " " + (isReady ? "focus" : "click");
 }
 
 // As focusedField; gives o the focus by a call where no click did, and begins the check of what is typed then. isWhole

@@ -1,20 +1,15 @@
 // Gives: __corvex__actionPoint, where a person would click an element, and __corvex__coverName, what is in the way there.
-// Needs: runtime/natives, runtime/nodes, names/entry, visibility, input/hittarget.
+// Needs: runtime/natives, runtime/nodes, names/entry, visibility, input/hittarget, input/motion.
 
 var __corvex__lastCover = null;
 
 var __corvex__actionPoint = (function () {
   var scrollIntoView = __corvex__nativeFunction(window.Element && Element.prototype.scrollIntoView);
-  var animationsOf = __corvex__nativeFunction(window.Document && Document.prototype.getAnimations);
-  var frameMs = 17;
-  // After that the page is one for which the browser draws no frames.
-  var framelessMs = 300;
   // Centre first; then what a cover that is smaller than the element may leave.
   var places = [[0.5, 0.5], [0.25, 0.5], [0.75, 0.5], [0.5, 0.25], [0.5, 0.75], [0.1, 0.1], [0.9, 0.1], [0.1, 0.9],
     [0.9, 0.9]];
   // Pages keep headers at the top and bars at the bottom, so what is covered in one place may be free in another.
   var alignments = ["center", "end", "start"];
-  var looked = { object: null, rect: "", since: 0, frame: 0 };
 
   function viewOf(o) {
     return __corvex__nodeReader.ownerDocument(o).defaultView;
@@ -102,62 +97,6 @@ var __corvex__actionPoint = (function () {
     }
   }
 
-  function animationOf(o) {
-    var doc = __corvex__nodeReader.ownerDocument(o);
-    var animations = animationsOf ? animationsOf.call(doc) : [];
-    for (var i = 0; i < animations.length; ++i) {
-      var effect = animations[i].effect;
-      if (animations[i].playState === "running" && effect && effect.target &&
-          __corvex__hitTarget.isWithin(o, effect.target)) {
-        return animations[i];
-      }
-    }
-    return null;
-  }
-
-  // In its first moments an animation has moved nothing yet.
-  function isBeginning(o) {
-    var animation = animationOf(o);
-    return !!animation && (animation.pending || !(animation.currentTime > 3 * frameMs));
-  }
-
-  // What moves by itself does it by an animation of the browser, or by styles that the page writes.
-  function mayMove(o) {
-    if (animationOf(o)) {
-      return true;
-    }
-    for (var e = o; e && e.nodeType !== 9; e = __corvex__hitTarget.parentOf(e)) {
-      var style = e.style;
-      if (style && (style.transform || style.left || style.top || style.right || style.bottom || style.height)) {
-        return true;
-      }
-    }
-    return false;
-  }
-
-  function rectText(o) {
-    var box = __corvex__askNode.Element.getBoundingClientRect(o);
-    return [box.left, box.top, box.width, box.height].join(" ");
-  }
-
-  // Changes with each frame; a busy browser may draw none for a while.
-  function frameTime(o) {
-    var timeline = __corvex__nodeReader.ownerDocument(o).timeline;
-    return timeline ? timeline.currentTime : __corvex__natives.milliseconds();
-  }
-
-  // It stands still when a look at least a frame ago saw it in the same place.
-  function isMoving(o) {
-    var rect = rectText(o);
-    var now = __corvex__natives.milliseconds();
-    if (looked.object !== o || looked.rect !== rect) {
-      looked = { object: o, rect: rect, since: now, frame: frameTime(o) };
-      return mayMove(o);
-    }
-    var isSeen = now - looked.since >= frameMs && frameTime(o) !== looked.frame && !isBeginning(o);
-    return !isSeen && now - looked.since < framelessMs && mayMove(o);
-  }
-
   // The root goes on where the view ends, which may be smaller than it was when the place was noted.
   function inView(root, x, y) {
     var box = __corvex__askNode.Element.getBoundingClientRect(root);
@@ -231,7 +170,7 @@ var __corvex__actionPoint = (function () {
     if (isDisabled(o)) {
       return "disabled";
     }
-    if (isMoving(o)) {
+    if (__corvex__motion.isMoving(o)) {
       return "moving";
     }
     var point = reachAny(o, x, y, false);
@@ -239,7 +178,7 @@ var __corvex__actionPoint = (function () {
       bringIntoView(o, attempt);
       point = reachAny(o, x, y, true);
       // That was no move of its own.
-      looked.rect = rectText(o);
+      __corvex__motion.forgive(o);
     }
     return point ? "at " + point.x + " " + point.y : __corvex__lastCover ? "covered" : "outside";
   };
