@@ -4,6 +4,7 @@
 #include "corvexhook/objectmap.h"
 #include "scripting/engine/scriptengine.h"
 #include "scripting/report/consolereporter.h"
+#include "scripting/report/htmlreporter.h"
 #include "scripting/report/junitreporter.h"
 #include "shared/textfile.h"
 #include "webhook/browser/authentication.h"
@@ -11,14 +12,18 @@
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/commandoptions.h"
 #include "webhook/cli/output.h"
+#include "webhook/cli/runfacts.h"
 #include "webhook/cli/savetree.h"
 #include "webhook/cli/scriptchoice.h"
+#include "webhook/inspect/dumpfile.h"
 #include "webhook/run/browsercontrol.h"
 #include "webhook/run/browserfunctions.h"
+#include "webhook/run/pagewitness.h"
 
 #include <QMap>
 #include <QRegularExpression>
 
+#include <memory>
 #include <vector>
 
 namespace Corvex::Webhook {
@@ -27,6 +32,13 @@ namespace {
 
 const QCommandLineOption junitOption(QStringLiteral("junit"), QStringLiteral("Write the results as JUnit XML, too."),
                                      QStringLiteral("file"));
+const QCommandLineOption reportOption(
+    QStringLiteral("report"),
+    QStringLiteral(
+        "Write what happens as one HTML file, with pictures and objects of the pages where something fails."),
+    QStringLiteral("file"));
+const QCommandLineOption traceOption(QStringLiteral("trace"),
+                                     QStringLiteral("Show a small picture of the page after each step in the report."));
 const QCommandLineOption objectMapOption(QStringLiteral("object-map"),
                                          QStringLiteral("Take the symbolic names of objects from this file."),
                                          QStringLiteral("file"));
@@ -65,6 +77,10 @@ struct RunOptions {
   QVector<Credentials> credentials;
   int scriptTimeoutMs = 0;
   QString junitFile;
+  QString reportFile;
+  /// Arguments of the command, for the report.
+  QStringList ownArguments;
+  bool trace = false;
   InputSettings input;
   bool failOnPageError = false;
   bool verbose = false;
@@ -129,6 +145,8 @@ QString readInput(const QCommandLineParser& parser, InputSettings* input) {
 QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
   QString error = readBrowserOptions(parser, &options->session);
   options->junitFile = parser.value(junitOption);
+  options->reportFile = parser.value(reportOption);
+  options->trace = parser.isSet(traceOption);
   options->failOnPageError = parser.isSet(failOnPageErrorOption);
   options->verbose = parser.isSet(verboseOption);
   if (error.isEmpty() && parser.isSet(scriptTimeoutOption)) {
@@ -146,8 +164,36 @@ QString readOptions(const QCommandLineParser& parser, RunOptions* options) {
   if (error.isEmpty()) {
     error = readInput(parser, &options->input);
   }
+  if (error.isEmpty() && parser.isSet(reportOption) && options->reportFile.isEmpty()) {
+    error = QStringLiteral("--report needs the name of the file to write, such as report.html.");
+  }
+  if (error.isEmpty() && options->trace && options->reportFile.isEmpty()) {
+    error = QStringLiteral("--trace puts pictures into a report: use it with --report FILE.");
+  }
   return error.isEmpty() && parser.isSet(objectMapOption) ? ObjectMap::self()->load(parser.value(objectMapOption))
                                                           : error;
+}
+
+/// Has the host show the report what its pages look like.
+void addWitness(const RunOptions& options, BrowserControl* browser, Scripting::ScriptListener* listener,
+                Scripting::ScriptHost* host) {
+  const auto witness = std::make_shared<PageWitness>(*browser, options.trace);
+  host->look = [witness](Scripting::Moment moment, const SharedPtr<Object>& about, Scripting::ScriptListener* told) {
+    witness->look(moment, about, told);
+  };
+  browser->setTellsConsole(true);
+  browser->setBrowserStarted([listener](const BrowserSession& session) {
+    listener->environment(
+        {{QStringLiteral("Browser"), session.browserName() + QLatin1Char(' ') + session.browserVersion()}});
+  });
+}
+
+/// Answers whether there was anything to complain about.
+bool complain(const QString& error) {
+  if (!error.isEmpty()) {
+    printError(QStringLiteral("corvexweb run: %1\n").arg(error));
+  }
+  return !error.isEmpty();
 }
 
 int runScripts(const RunOptions& options) {
@@ -155,6 +201,7 @@ int runScripts(const RunOptions& options) {
   ConsoleReporter console(stdout,
                           options.verbose ? ConsoleReporter::Detail::ObjectCalls : ConsoleReporter::Detail::Steps);
   JUnitReporter junit(options.junitFile);
+  HtmlReporter report(options.reportFile, dumpViewer());
   BrowserControl browser(options.session, options.input, options.credentials);
   browser.setFailOnPageError(options.failOnPageError);
   ListenerGroup listeners;
@@ -167,19 +214,29 @@ int runScripts(const RunOptions& options) {
     }
     listeners.add(&junit);
   }
+  if (!options.reportFile.isEmpty()) {
+    const QString error = report.open();
+    if (!error.isEmpty()) {
+      return wrongUsage(QStringLiteral("run"), error);
+    }
+    listeners.add(&report);
+    report.environment(runFacts(options.ownArguments));
+  }
   Inspector::self()->setDefaultTimeout(options.session.defaultTimeoutMs);
   ScriptHost host = browserFunctions(browser);
   host.functions.push_back(saveTreeFunction(browser));
   host.arguments = options.arguments;
+  if (!options.reportFile.isEmpty()) {
+    addWitness(options, &browser, &listeners, &host);
+  }
   ScriptEngine engine(host, &listeners);
   engine.setScriptTimeout(options.scriptTimeoutMs);
   // Nobody would see what the rest does.
   console.setOutputEnd([&engine] { engine.interrupt(); });
   const RunSummary summary = engine.run(options.scripts);
-  if (!junit.error().isEmpty()) {
-    printError(QStringLiteral("corvexweb run: %1\n").arg(junit.error()));
-  }
-  const bool failed = summary.failed() > 0 || !junit.error().isEmpty();
+  const bool isJUnitLost = complain(junit.error());
+  const bool isReportLost = complain(report.error());
+  const bool failed = summary.failed() > 0 || isJUnitLost || isReportLost;
   const int exitCode = browser.hadBrowserFailure() ? ExitCode::BrowserFailed
                        : failed                    ? ExitCode::Failed
                                                    : ExitCode::Success;
@@ -197,8 +254,9 @@ int runScriptsCommand(const QStringList& arguments) {
       "Exit code: 0 all passed or skipped, 1 a script failed or the results could not be written, 2 wrong usage,\n"
       "3 the browser could not be started or was lost."));
   addBrowserOptions(parser);
-  parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, failOnPageErrorOption, argumentOption,
-                     credentialsOption, filterOption, scriptTimeoutOption, verboseOption});
+  parser.addOptions({junitOption, reportOption, traceOption, objectMapOption, inputOption, strictOption,
+                     failOnPageErrorOption, argumentOption, credentialsOption, filterOption, scriptTimeoutOption,
+                     verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."),
                                QStringLiteral("The scripts, in JavaScript, or folders of them."));
   if (const std::optional<int> exitCode = parseOptions(parser, arguments)) {
@@ -206,6 +264,7 @@ int runScriptsCommand(const QStringList& arguments) {
   }
   RunOptions options;
   const QString error = readOptions(parser, &options);
+  options.ownArguments = arguments.mid(1);
   return error.isEmpty() ? runScripts(options) : wrongUsage(arguments.value(0), error);
 }
 
