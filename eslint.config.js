@@ -79,6 +79,20 @@ module.exports = [
     languageOptions: { ecmaVersion: 2018 }
   },
   {
+    // The same; its files are one text.
+    files: ['src/scripting/report/viewer/*.js'],
+    languageOptions: {
+      ecmaVersion: 2018,
+      sourceType: 'script',
+      globals: {
+        ...page,
+        ...readonly(`run read byId make seconds counted sign addTerm baseName traceOf comparisonOf figureOf thumbnailOf
+          showMark partOf draw reveal checksOf`)
+      }
+    },
+    rules: { ...rules, ...noEval }
+  },
+  {
     // What these declare is for the code that they are given.
     files: ['guard.js', 'picturerect.js', 'asklines.js'].map((name) => 'src/webhook/**/' + name),
     rules: { 'no-unused-vars': 'off' }

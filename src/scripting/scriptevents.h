@@ -51,11 +51,15 @@ struct Picture {
   };
 
   Purpose purpose = Purpose::Failure;
+  /// Empty where none could be taken.
   QByteArray bytes;
   QString mimeType;
+  /// As the page was seen; the bytes may hold it smaller.
   QSize size;
-  /// The place of the object that it was about, in pixels of the picture; empty where none is known.
+  /// The place of the object that it was about, in pixels of that size; empty where none is known.
   QRect marked;
+  /// Why there is no picture; a sentence.
+  QString missing = {};
 };
 
 /// A fact about the machine, the browser or how the run was started.

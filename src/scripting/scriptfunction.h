@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "corvexhook/object.h"
+#include "scripting/scriptlistener.h"
 #include "shared/functioncallresult.h"
 
 namespace Corvex::Scripting {
@@ -40,6 +41,16 @@ struct HostNews {
   QString text;
   bool isFailure = false;                     ///< It counts as a failed check.
   QString kind = QStringLiteral("uncaught");  ///< See `PageMessage`.
+
+  bool isUncaught() const { return kind == QLatin1String("uncaught"); }
+};
+
+/// When there may be something to see that a report should show.
+enum class Moment {
+  StepDone,
+  StepFailed,   ///< The script may catch its error.
+  CheckFailed,  ///< It goes on.
+  CodeFailed    ///< Its body, or a function, ended with an error.
 };
 
 /// What the process that embeds the engine offers to scripts.
@@ -51,6 +62,9 @@ struct ScriptHost {
   QMap<QString, QString> arguments = {};
   /// What is new since it was asked last. Asked after each call of a function, and at the script's end.
   std::function<std::vector<HostNews>()> takeNews = {};
+  /// Tells the listener what there is to see. `about` is the object that it was about, or its name; null where that is
+  /// not known. Never reports an error.
+  std::function<void(Moment moment, const SharedPtr<Object>& about, ScriptListener* listener)> look = {};
 };
 
 }  // namespace Corvex::Scripting

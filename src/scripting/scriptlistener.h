@@ -11,8 +11,7 @@ namespace Corvex::Scripting {
 class CORVEXSCRIPTING_EXPORT ScriptListener {
 public:
   virtual ~ScriptListener();
-  /// Facts about all that follows, or, while a script runs, about that script. One of the same name replaces the
-  /// former.
+  /// Facts about the run, at any time. Of one name there may be several values, such as those of two browsers.
   virtual void environment(const QVector<Fact>& facts);
   virtual void scriptStarted(const QString& path);
   /// A global function was called and has ended, well or not.
@@ -22,9 +21,10 @@ public:
   virtual void check(const Check& check);
   virtual void log(const QString& text);
   virtual void pageMessage(const PageMessage& message);
-  /// Belongs to the check, the step or the error before it.
+  /// One of a failure belongs to the check or step before it, if that has failed, or else to the error that is told next.
   virtual void picture(const Picture& picture);
-  /// The objects of the page of the picture before it, as JSON that its viewer understands.
+  /// The objects of the page of the picture before it, as JSON that its viewer understands. An empty one stands for a
+  /// tree that was left out, as there are enough.
   virtual void tree(const QByteArray& json);
   /// A group of `test.step` begins, perhaps in another one; what follows belongs to it.
   virtual void groupStarted(const QString& title);

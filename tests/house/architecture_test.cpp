@@ -68,7 +68,7 @@ const Room rooms[] = {
     {"webhook/pages", "webhook/browser webhook/endpoint wrappers/web/catalogue"},
     {"webhook/inspect", "webhook/pages"},
     {"webhook/recorder", "webhook/pages"},
-    {"webhook/run", "webhook/pages scripting"},
+    {"webhook/run", "webhook/inspect scripting"},
     {"webhook/typings", "corvexhook"},
     {"webhook/cli",
      "webhook/backends webhook/inspect webhook/recorder webhook/run webhook/typings scripting/report scripting/engine"},

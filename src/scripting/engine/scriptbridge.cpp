@@ -60,14 +60,19 @@ ScriptBridge::ScriptBridge(QJSEngine* engine, const ScriptHost& host, MemberCall
                 listener,
                 files->folder(),
                 host.pictureOf,
+                [this] { look(Moment::CheckFailed); },
                 [interruption] { interruption->endCode(); }}),
       m_waits(m_values),
-      m_takeNews(host.takeNews) {
+      m_takeNews(host.takeNews),
+      m_look(host.look) {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
   m_calls->setPlace([this] { return here(); });
 }
 
-ScriptBridge::~ScriptBridge() { m_calls->setPlace({}); }
+ScriptBridge::~ScriptBridge() {
+  m_calls->setPlace({});
+  m_calls->takeLastUsed();
+}
 
 QString ScriptBridge::errorText(const QJSValue& thrown) const {
   return m_errors.textOf(thrown, m_functions.names() + Waits::names());
@@ -257,9 +262,23 @@ ScriptTrace ScriptBridge::here() const {
   return trace;
 }
 
+void ScriptBridge::look(Moment moment, const SharedPtr<Object>& about) {
+  const SharedPtr<Object> used = m_calls->takeLastUsed();
+  // A run that is to end has no time for more.
+  if (m_look && !m_interruption->isRunEnded()) {
+    m_look(moment, about ? about : used, m_listener);
+  }
+}
+
+SharedPtr<Object> ScriptBridge::objectOfStep(const QJSValue& arguments) const {
+  const ObjectResult first = m_values.fromScript(arguments.property(0));
+  return first.failed() ? nullptr : first.value;
+}
+
 void ScriptBridge::tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs, const QString& error) {
   if (m_waiting == 0) {
     m_listener->step({stepText(name, arguments), durationMs, here(), error});
+    look(error.isEmpty() ? Moment::StepDone : Moment::StepFailed, objectOfStep(arguments));
   }
 }
 

@@ -36,6 +36,9 @@ public:
   QStringList globalFunctions() const;
   Evaluation callGlobalFunction(const QString& name);
 
+  /// Tells the listener what there is to see, if the host shows it.
+  void look(Moment moment, const SharedPtr<Object>& about = nullptr);
+
   /// The calls that led to the function in which the script was ended from outside; empty when it was not in one.
   const QString& stackOfEnd() const { return m_stackOfEnd; }
 
@@ -95,6 +98,7 @@ private:
   FunctionCallResult<ObjectList> argumentsFor(const ScriptFunction* function, const QJSValue& arguments);
   QJSValue finished(const ObjectResult& result);
   void tellStep(const QString& name, const QJSValue& arguments, qint64 durationMs, const QString& error);
+  SharedPtr<Object> objectOfStep(const QJSValue& arguments) const;
   QString stackHere() const;
   /// Where the script is; of many calls the innermost.
   ScriptTrace here() const;
@@ -115,6 +119,7 @@ private:
   Checks m_checks;
   Waits m_waits;
   std::function<std::vector<HostNews>()> m_takeNews;
+  decltype(ScriptHost::look) m_look;
   std::vector<HostNews> m_news;
   int m_waiting = 0;
 };

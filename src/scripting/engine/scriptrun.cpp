@@ -141,6 +141,7 @@ bool ScriptRun::noteEnd(const Evaluation& evaluation, Outcome* outcome) {
   if (outcome->error.isEmpty()) {
     outcome->error = error;
     outcome->trace = m_files.traceOf(stack);
+    m_bridge.look(Moment::CodeFailed);
   } else {
     m_listener->log(QStringLiteral("After the error there was another one, in %1: %2")
                         .arg(traceText(m_files.traceOf(stack)), error));

@@ -144,6 +144,9 @@ bool Checks::note(const Check& check) {
     m_outcome->failedChecks.push_back({check.text, check.trace, titles});
   }
   m_context.listener->check(check);
+  if (!check.passed) {
+    m_context.onFailure();
+  }
   return check.passed;
 }
 

@@ -20,6 +20,8 @@ struct CheckContext {
   /// Where relative paths of the script start.
   QString folder;
   decltype(ScriptHost::pictureOf) pictureOf;
+  /// Told of each check that does not hold.
+  std::function<void()> onFailure;
   /// Ends the code that runs now.
   std::function<void()> endCode;
 };

@@ -118,6 +118,7 @@ ObjectResult MemberCalls::call(const Class* cls, const SharedPtr<Object>& object
   if (choice.index < 0) {
     return ObjectResult::failure(goneOr(choice.error, object));
   }
+  m_lastUsed = object;
   const NumberedMethod chosen = numbered[static_cast<std::size_t>(choice.index)];
   warnIfDeprecated(chosen.method);
   return observed(memberText(cls, name) + argumentText(arguments),
@@ -140,6 +141,7 @@ ObjectResult MemberCalls::readProperty(const SharedPtr<Object>& object, const QS
   if (!object) {
     return nullObjectError(name);
   }
+  m_lastUsed = object;
   const Class* cls = object->objectClass();
   const Property* property = cls->property(name);
   if (!property) {
@@ -153,6 +155,7 @@ QString MemberCalls::writeProperty(const SharedPtr<Object>& object, const QStrin
   if (!object) {
     return nullObjectError(name).error;
   }
+  m_lastUsed = object;
   const Class* cls = object->objectClass();
   const QString member = memberText(cls, name);
   const Property* property = cls->property(name);

@@ -2,6 +2,7 @@
 
 #include <QSet>
 #include <functional>
+#include <utility>
 
 #include "corvexhook/class.h"
 #include "scripting/scriptlistener.h"
@@ -28,6 +29,9 @@ public:
   /// Answers an error, or an empty text.
   QString writeProperty(const SharedPtr<Object>& object, const QString& name, const SharedPtr<Object>& value);
 
+  /// The object that was used last, since this was asked before; null without one.
+  SharedPtr<Object> takeLastUsed() { return std::exchange(m_lastUsed, nullptr); }
+
   static bool hasMethod(const SharedPtr<Object>& object, const QString& name);
   static std::vector<const Method*> globalMethodsNamed(const QString& name);
   /// The sentence for a member that the class lacks, with the name that comes
@@ -42,6 +46,7 @@ private:
 
   ScriptListener* m_listener;
   std::function<ScriptTrace()> m_place;
+  SharedPtr<Object> m_lastUsed;
   QSet<const Method*> m_warned;
 };
 

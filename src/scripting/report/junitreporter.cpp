@@ -120,6 +120,12 @@ void JUnitReporter::addLine(const QString& text) {
   m_output += QString(2 * std::min(m_depth, deepestIndentation), QLatin1Char(' ')) + text + QLatin1Char('\n');
 }
 
+void JUnitReporter::check(const Check& check) {
+  addLine(QStringLiteral("%1 %2 (%3)")
+              .arg(check.passed ? QStringLiteral("passed") : QStringLiteral("FAILED"), check.text,
+                   check.trace.empty() ? QString() : check.trace.front().text()));
+}
+
 void JUnitReporter::log(const QString& text) { addLine(text); }
 
 void JUnitReporter::pageMessage(const PageMessage& message) {

@@ -9,11 +9,11 @@ class QXmlStreamWriter;
 
 namespace Corvex::Scripting {
 
-/// Writes the results as a JUnit XML file, in which each script is a test case. One with test
-/// functions has a case for each of them instead, and one for its body where that did more than to define them.
-/// Attempts that failed before the last one stand in its cases, as `flakyFailure` and `flakyError` where that passed,
-/// and as `rerunFailure` and `rerunError` where not. The file is complete after every script, so that it also tells of
-/// a run that was cut off.
+/// Writes the results as a JUnit XML file, in which each script is a test case, with its checks and what it logged as
+/// its output. One with test functions has a case for each of them instead, and one for its body where that did more
+/// than to define them. Attempts that failed before the last one stand in its cases, as `flakyFailure` and `flakyError`
+/// where that passed, and as `rerunFailure` and `rerunError` where not. The file is complete after every script, so that
+/// it also tells of a run that was cut off.
 class CORVEXSCRIPTING_EXPORT JUnitReporter : public ScriptListener {
 public:
   explicit JUnitReporter(const QString& path) : m_file(path) {}
@@ -25,6 +25,7 @@ public:
   const QString& error() const { return m_error; }
 
   void scriptStarted(const QString& path) override;
+  void check(const Check& check) override;
   void log(const QString& text) override;
   void pageMessage(const PageMessage& message) override;
   void groupStarted(const QString& title) override;

@@ -141,6 +141,7 @@ Picture pictureOf(const Json& json) {
   picture.purpose =
       textOf(json, "purpose") == QLatin1String("step") ? Picture::Purpose::Step : Picture::Purpose::Failure;
   picture.mimeType = textOf(json, "mimeType");
+  picture.missing = textOf(json, "missing");
   picture.size = {countOf(json, "width"), countOf(json, "height")};
   const QJsonArray marked = json.value(key("marked")).toArray();
   picture.marked = {marked.at(0).toInt(), marked.at(1).toInt(), marked.at(2).toInt(), marked.at(3).toInt()};
@@ -242,6 +243,7 @@ void EventWriter::picture(const Picture& picture) {
   const QRect& marked = picture.marked;
   write("picture", {{key("purpose"), key(picture.purpose == Picture::Purpose::Step ? "step" : "failure")},
                     {key("mimeType"), picture.mimeType},
+                    {key("missing"), picture.missing},
                     {key("width"), picture.size.width()},
                     {key("height"), picture.size.height()},
                     {key("marked"), QJsonArray{marked.x(), marked.y(), marked.width(), marked.height()}},

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QObject>
 #include <QString>
 #include <QVector>
@@ -90,6 +91,10 @@ public:
   int defaultTimeout() const { return m_defaultTimeoutMs; }
   void setDefaultTimeout(int milliseconds) { m_defaultTimeoutMs = milliseconds; }
 
+  /// When calls of pages end, whatever time they are given; see `CallLimit`.
+  const QDeadlineTimer& callsEnd() const { return m_callsEnd; }
+  void setCallsEnd(const QDeadlineTimer& end) { m_callsEnd = end; }
+
 Q_SIGNALS:
   /// The browser ended or cannot be reached any more. Open calls have ended, and nothing of it is left on the machine.
   void lost(const QString& reason);
@@ -99,6 +104,7 @@ Q_SIGNALS:
 
 private:
   int m_defaultTimeoutMs = 20000;
+  QDeadlineTimer m_callsEnd{QDeadlineTimer::Forever};
 };
 
 }  // namespace Corvex::Webhook

@@ -37,7 +37,9 @@ ProtocolPage::~ProtocolPage() {
 }
 
 PageCall ProtocolPage::makeCall(int timeoutMs) const {
-  return PageCall(&m_channel, m_address, timeoutMs > 0 ? timeoutMs : m_session.defaultTimeout());
+  const int wanted = timeoutMs > 0 ? timeoutMs : m_session.defaultTimeout();
+  const qint64 left = m_session.callsEnd().isForever() ? wanted : m_session.callsEnd().remainingTime();
+  return PageCall(&m_channel, m_address, static_cast<int>(qBound<qint64>(1, left, wanted)));
 }
 
 std::shared_ptr<Request> ProtocolPage::start(const Command& command) { return m_channel.start(m_address, command); }

@@ -14,6 +14,7 @@
 #include "webhook/cli/workerrequest.h"
 #include "webhook/run/browsercontrol.h"
 #include "webhook/run/browserfunctions.h"
+#include "webhook/run/pagewitness.h"
 
 #include <QFile>
 #include <QJsonDocument>
@@ -39,6 +40,9 @@ public:
     Scripting::ScriptHost host = browserFunctions(m_browser);
     host.functions.push_back(saveTreeFunction(m_browser));
     host.arguments = options.arguments;
+    if (!options.reportFile.isEmpty()) {
+      addWitness(options.trace, &host);
+    }
     m_engine = std::make_unique<Scripting::ScriptEngine>(host, &m_listeners);
     m_engine->setScriptTimeout(options.scriptTimeoutMs);
   }
@@ -49,6 +53,18 @@ public:
   }
 
 private:
+  /// Has the host show the report what its pages look like.
+  void addWitness(bool showsSteps, Scripting::ScriptHost* host) {
+    const auto witness = std::make_shared<PageWitness>(m_browser, showsSteps);
+    host->look = [witness](Scripting::Moment moment, const SharedPtr<Object>& about,
+                           Scripting::ScriptListener* listener) { witness->look(moment, about, listener); };
+    m_browser.setTellsConsole(true);
+    m_browser.setBrowserStarted([this](const BrowserSession& session) {
+      m_listeners.environment(
+          {{QStringLiteral("Browser"), session.browserName() + QLatin1Char(' ') + session.browserVersion()}});
+    });
+  }
+
   BrowserControl m_browser;
   Scripting::ListenerGroup m_listeners;
   std::unique_ptr<Scripting::ScriptEngine> m_engine;
@@ -124,6 +140,7 @@ int runScriptsCommand(const QStringList& arguments) {
     return *exitCode;
   }
   RunOptions options;
+  options.ownArguments = arguments.mid(1);
   const QString error = readRunOptions(parser, &options);
   if (!error.isEmpty()) {
     return wrongUsage(arguments.value(0), error);

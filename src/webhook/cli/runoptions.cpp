@@ -16,6 +16,13 @@ namespace Corvex::Webhook {
 
 namespace {
 
+const QCommandLineOption reportOption(
+    QStringLiteral("report"),
+    QStringLiteral(
+        "Write what happens as one HTML file, with pictures and objects of the pages where something fails."),
+    QStringLiteral("file"));
+const QCommandLineOption traceOption(QStringLiteral("trace"),
+                                     QStringLiteral("Show a small picture of the page after each step in the report."));
 const QCommandLineOption junitOption(QStringLiteral("junit"), QStringLiteral("Write the results as JUnit XML, too."),
                                      QStringLiteral("file"));
 const QCommandLineOption objectMapOption(QStringLiteral("object-map"),
@@ -187,13 +194,26 @@ QString readInput(const QCommandLineParser& parser, InputSettings* input) {
              : QStringLiteral("--input takes browser or page, not '%1'.").arg(who);
 }
 
+/// An error, or an empty text.
+QString readReport(const QCommandLineParser& parser, RunOptions* options) {
+  options->reportFile = parser.value(reportOption);
+  options->trace = parser.isSet(traceOption);
+  if (parser.isSet(reportOption) && options->reportFile.isEmpty()) {
+    return QStringLiteral("--report needs the name of the file to write, such as report.html.");
+  }
+  return options->trace && options->reportFile.isEmpty()
+             ? QStringLiteral("--trace puts pictures into a report: use it with --report FILE.")
+             : QString();
+}
+
 }  // namespace
 
 void addRunOptions(QCommandLineParser& parser) {
   addBrowserOptions(parser);
-  parser.addOptions({junitOption, objectMapOption, inputOption, strictOption, failOnPageErrorOption, argumentOption,
-                     credentialsOption, filterOption, lastFailedOption, listOption, jobsOption, retriesOption,
-                     stopAfterOption, workerOption, scriptTimeoutOption, verboseOption});
+  parser.addOptions({junitOption, reportOption, traceOption, objectMapOption, inputOption, strictOption,
+                     failOnPageErrorOption, argumentOption, credentialsOption, filterOption, lastFailedOption,
+                     listOption, jobsOption, retriesOption, stopAfterOption, workerOption, scriptTimeoutOption,
+                     verboseOption});
   parser.addPositionalArgument(QStringLiteral("SCRIPT..."),
                                QStringLiteral("The scripts, in JavaScript, or folders of them."));
 }
@@ -207,6 +227,9 @@ QString readRunOptions(const QCommandLineParser& parser, RunOptions* options) {
     error = readSeconds(parser, scriptTimeoutOption, &options->scriptTimeoutMs);
   }
   options->lists = parser.isSet(listOption);
+  if (error.isEmpty()) {
+    error = readReport(parser, options);
+  }
   if (error.isEmpty()) {
     error = readCounts(parser, options);
   }

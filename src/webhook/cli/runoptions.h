@@ -29,6 +29,11 @@ struct RunOptions {
   QVector<Credentials> credentials;
   int scriptTimeoutMs = 0;
   QString junitFile;
+  QString reportFile;
+  /// Whether the report shows the page after each step.
+  bool trace = false;
+  /// Those of the command, for the report.
+  QStringList ownArguments;
   InputSettings input;
   bool failOnPageError = false;
   bool verbose = false;

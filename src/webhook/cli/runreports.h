@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scripting/report/consolereporter.h"
+#include "scripting/report/htmlreporter.h"
 #include "scripting/report/junitreporter.h"
 #include "scripting/report/progressline.h"
 #include "webhook/cli/lastfailed.h"
@@ -40,6 +41,7 @@ private:
   Scripting::ProgressLine m_progress;
   Scripting::ConsoleReporter m_console;
   Scripting::JUnitReporter m_junit;
+  Scripting::HtmlReporter m_report;
   LastFailed m_lastFailed;
   Scripting::ListenerGroup m_shown;
   Scripting::ListenerGroup m_files;

@@ -36,22 +36,12 @@ QByteArray encoded(const QImage& picture, const char* format, int quality) {
   return buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, format, quality) ? bytes : QByteArray();
 }
 
-QString asAddress(const char* type, const QByteArray& bytes) {
-  return bytes.isEmpty()
-             ? QString()
-             : QStringLiteral("data:%1;base64,").arg(QLatin1String(type)) + QString::fromLatin1(bytes.toBase64());
-}
-
 /// The picture's address; empty without a picture.
 QString asAddress(const QImage& picture) {
-  if (picture.width() > longestSide || picture.height() > longestSide) {
-    return asAddress(picture.scaled(longestSide, longestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation));
-  }
-  const bool mayBePng = qint64(picture.width()) * picture.height() <= mostPngPixels;
-  const QByteArray png = mayBePng ? encoded(picture, "png", -1) : QByteArray();
-  return !png.isEmpty() && png.size() <= largestPngPicture
-             ? asAddress("image/png", png)
-             : asAddress("image/jpeg", encoded(picture, "jpeg", jpegQuality));
+  const EncodedPicture encoded = encodePicture(picture);
+  return encoded.bytes.isEmpty()
+             ? QString()
+             : QStringLiteral("data:%1;base64,").arg(encoded.mimeType) + QString::fromLatin1(encoded.bytes.toBase64());
 }
 
 QString cut(const QString& value) {
@@ -83,7 +73,24 @@ QByteArray inScriptElement(QByteArray json) { return json.replace('<', "\\u003c"
 
 }  // namespace
 
-QByteArray dumpAsHtml(const PageDump& dump) {
+EncodedPicture encodePicture(const QImage& picture) {
+  if (picture.width() > longestSide || picture.height() > longestSide) {
+    return encodePicture(picture.scaled(longestSide, longestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+  }
+  const bool mayBePng = qint64(picture.width()) * picture.height() <= mostPngPixels;
+  const QByteArray png = mayBePng ? encoded(picture, "png", -1) : QByteArray();
+  return !png.isEmpty() && png.size() <= largestPngPicture
+             ? EncodedPicture{QStringLiteral("image/png"), png}
+             : EncodedPicture{QStringLiteral("image/jpeg"), encoded(picture, "jpeg", jpegQuality)};
+}
+
+QByteArray dumpViewer() {
+  return partOfViewer("dump.html")
+      .replace("%STYLE%", partOfViewer("dump.css"))
+      .replace("%SCRIPT%", partOfViewer("dump.js"));
+}
+
+QByteArray dumpForViewer(const PageDump& dump) {
   QJsonArray objects;
   for (const DumpedObject& object : dump.objects) {
     objects.append(asRow(object));
@@ -95,11 +102,12 @@ QByteArray dumpAsHtml(const PageDump& dump) {
                          {QStringLiteral("picture"), asAddress(dump.picture)},
                          {QStringLiteral("pictureWidth"), dump.picture.width()},
                          {QStringLiteral("objects"), objects}};
-  // The data comes last: it may hold what reads as a place.
-  return partOfViewer("dump.html")
-      .replace("%STYLE%", partOfViewer("dump.css"))
-      .replace("%SCRIPT%", partOfViewer("dump.js"))
-      .replace("%DATA%", inScriptElement(QJsonDocument(data).toJson(QJsonDocument::Compact)));
+  return QJsonDocument(data).toJson(QJsonDocument::Compact);
+}
+
+// The data comes last: it may hold what reads as a place.
+QByteArray dumpAsHtml(const PageDump& dump) {
+  return dumpViewer().replace("%DATA%", inScriptElement(dumpForViewer(dump)));
 }
 
 }  // namespace Corvex::Webhook

@@ -144,7 +144,7 @@ QStringList usualProperties() {
       .split(QLatin1Char(' '));
 }
 
-PageDump readDump(const BrowserWindows& windows, Connection& page, const QStringList& properties) {
+PageDump readObjects(const BrowserWindows& windows, Connection& page, const QStringList& properties) {
   DumpReader reader(page, properties);
   for (const Context& context : allContexts(windows)) {
     if (context.connection == &page) {
@@ -155,6 +155,11 @@ PageDump readDump(const BrowserWindows& windows, Connection& page, const QString
   PageDump dump = reader.take();
   dump.url = page.page()->url();
   dump.title = page.evaluateJS(QStringLiteral("document.title"), 1000).text;
+  return dump;
+}
+
+PageDump readDump(const BrowserWindows& windows, Connection& page, const QStringList& properties) {
+  PageDump dump = readObjects(windows, page, properties);
   const FunctionCallResult<QImage> picture =
       page.supportsPageScreenshot() ? page.grabPageScreenshot() : FunctionCallResult<QImage>{};
   dump.picture = picture.value;

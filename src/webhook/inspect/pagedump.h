@@ -36,6 +36,9 @@ struct PageDump {
 /// Reads the page and its frames. `properties` are names of script properties, in which * stands for any characters.
 PageDump readDump(const BrowserWindows& windows, Connection& page, const QStringList& properties);
 
+/// The same without the picture.
+PageDump readObjects(const BrowserWindows& windows, Connection& page, const QStringList& properties);
+
 /// The properties that are wanted where nobody says which.
 QStringList usualProperties();
 

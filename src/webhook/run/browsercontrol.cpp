@@ -17,8 +17,8 @@ namespace {
 
 const int loadIntervalMs = 20;
 
-// Between two calls of a script: a page may throw without end.
-const size_t mostNews = 100;
+// Between two calls of a script, of each kind: a page may throw without end.
+const int mostNews = 100;
 
 }  // namespace
 
@@ -114,6 +114,9 @@ QString BrowserControl::openSession() {
   }
   m_session = std::move(start.value);
   m_session->setCredentials(m_credentials);
+  if (m_browserStarted) {
+    m_browserStarted(*m_session);
+  }
   // A page on another machine cannot reach this one's loopback interface.
   const QString port = m_options.remoteUrl.isEmpty() ? m_endpoint->place() : QString();
   m_windows = std::make_unique<BrowserWindows>(*m_session, m_config, m_model, port);
@@ -137,14 +140,22 @@ QString BrowserControl::openSession() {
 
 void BrowserControl::watchConsole(BrowserPage* page) {
   QObject::connect(page, &BrowserPage::consoleWritten, m_windows.get(), [this](const ConsoleMessage& message) {
-    if (!message.isUncaught || m_news.size() >= mostNews) {
+    const bool isWanted = message.isUncaught || m_tellsConsole;
+    const auto isAlike = [&message](const Scripting::HostNews& news) {
+      return news.isUncaught() == message.isUncaught;
+    };
+    if (!isWanted || std::count_if(m_news.begin(), m_news.end(), isAlike) >= mostNews) {
       return;
     }
     const QString place = message.url.isEmpty()
                               ? QStringLiteral("a place that is not known")
                               : QStringLiteral("%1:%2").arg(message.url, QString::number(message.line));
-    m_news.push_back(
-        {QStringLiteral("Uncaught error of a page at %1: %2").arg(place, message.text), m_failsOnPageError});
+    if (message.isUncaught) {
+      m_news.push_back(
+          {QStringLiteral("Uncaught error of a page at %1: %2").arg(place, message.text), m_failsOnPageError});
+    } else {
+      m_news.push_back({QStringLiteral("%1 (%2)").arg(message.text, place), false, message.level});
+    }
   });
 }
 

@@ -75,7 +75,11 @@ public:
 
   /// Whether an error that a page did not catch is a failed check of the script.
   void setFailOnPageError(bool isWanted) { m_failsOnPageError = isWanted; }
-  /// The uncaught errors of pages since the last call.
+  /// Whether what pages write to their consoles is news, too.
+  void setTellsConsole(bool isWanted) { m_tellsConsole = isWanted; }
+  /// Told of each browser that was started.
+  void setBrowserStarted(const std::function<void(const BrowserSession&)>& told) { m_browserStarted = told; }
+  /// The uncaught errors of pages, and what else they said, since the last call.
   std::vector<Scripting::HostNews> takeNews() { return std::exchange(m_news, {}); }
 
   /// A path as the running script means it: relative to its own folder.
@@ -115,6 +119,8 @@ private:
   QVector<Credentials> m_credentialsOfRun;
   QVector<Credentials> m_credentials;
   bool m_failsOnPageError = false;
+  bool m_tellsConsole = false;
+  std::function<void(const BrowserSession&)> m_browserStarted;
   std::vector<Scripting::HostNews> m_news;
 };
 

@@ -65,6 +65,12 @@ QString whyNotWritable(const QString& file) {
 
 }  // namespace
 
+FunctionCallResult<QRect> placeInPicture(const HTML_Object& object) {
+  const FunctionCallResult<Place> place = placeOf(object);
+  const ScreenRectangle& shown = place.value.rectangle;
+  return {{shown.x, shown.y, shown.width, shown.height}, place.error};
+}
+
 FunctionCallResult<QImage> pictureOf(const HTML_Object& object) {
   FunctionCallResult<Place> place = placeOf(object);
   if (!place.failed() && !place.value.isWhole) {

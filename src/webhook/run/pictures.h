@@ -3,6 +3,7 @@
 #include "shared/functioncallresult.h"
 
 #include <QImage>
+#include <QRect>
 #include <QString>
 
 namespace Corvex::WebWrapper {
@@ -12,6 +13,9 @@ class HTML_Object;
 namespace Corvex::Webhook {
 
 class Connection;
+
+/// Where an object is, as far as it is shown, in pixels of a picture of its whole page.
+FunctionCallResult<QRect> placeInPicture(const WebWrapper::HTML_Object& object);
 
 /// The picture of an object. One that boxes or frames around it hide is scrolled into view first.
 FunctionCallResult<QImage> pictureOf(const WebWrapper::HTML_Object& object);

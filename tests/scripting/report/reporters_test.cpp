@@ -202,13 +202,15 @@ TEST_F(ScriptReporters, JUnitFileIsValidAndComplete) {
     }
   }
   EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
-  EXPECT_EQ(seen, QStringList(
-                      {s("suite 311"), s("case good"), s("case checks"),
-                       s("failure 1 of 1 checks failed | ") + path("checks.js") + s(":1: a < b & \"c\" does not hold"),
-                       s("out bad \\u0001"), s("case error"),
-                       s("error Object '{id='<none>'}' not found. | ") + path("lib.js") +
-                           s(":2 in look(): findObject(\"{id='<none>'}\");\ncalled from ") + path("error.js") +
-                           s(":3: look();")}));
+  EXPECT_EQ(
+      seen,
+      QStringList(
+          {s("suite 311"), s("case good"), s("out passed got 1 as expected (") + path("good.js") + s(":2)"),
+           s("case checks"),
+           s("failure 1 of 1 checks failed | ") + path("checks.js") + s(":1: a < b & \"c\" does not hold"),
+           s("out FAILED a < b & \"c\" does not hold (") + path("checks.js") + s(":1)\nbad \\u0001"), s("case error"),
+           s("error Object '{id='<none>'}' not found. | ") + path("lib.js") +
+               s(":2 in look(): findObject(\"{id='<none>'}\");\ncalled from ") + path("error.js") + s(":3: look();")}));
 }
 
 TEST_F(ScriptReporters, JUnitFileHoldsAttemptsThatFailedInTheCasesOfTheLast) {

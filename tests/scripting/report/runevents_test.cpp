@@ -39,7 +39,8 @@ void tellAll(ScriptListener* listener) {
   summary.flaky = 3;
   summary.notRun = QStringList{s("late.js")};
   const ScriptTrace trace = function.trace;
-  Picture picture{Picture::Purpose::Step, QByteArray("\x00\xff</script>", 11), s("image/png"), {7, 9}, {1, 2, 3, 4}};
+  Picture picture{
+      Picture::Purpose::Step, QByteArray("\x00\xff</script>", 11), s("image/png"), {7, 9}, {1, 2, 3, 4}, s("No.")};
   listener->environment({{s("Browser"), s("A 1")}, {s("Machine"), s("B")}});
   listener->scriptStarted(script.path);
   listener->functionStarted(function.name);
