@@ -112,30 +112,6 @@ mouseClick("{tagName='BUTTON' className='thumbnail'}");
 test.compare(Number(retrieveJSObject("String(document.querySelectorAll('.thumbnail.large').length)")), 1);)JS");
 }
 
-TEST(Report, HoldsScriptsSideBySideAndAllAttempts) {
-  ProgramRun program;
-  program.write(QStringLiteral("page.html"), QString::fromUtf8(page));
-  // Fails until it has left a file.
-  program.write(
-      QStringLiteral("flaky.js"),
-      QStringLiteral("startBrowser('page.html');\n"
-                     "try { readTable('left.json'); } catch (e) {\n"
-                     "  if (!/object/.test(e.message)) { saveTree('left.json'); test.fail('not yet'); } }\n"));
-  program.write(QStringLiteral("sum.js"), QStringLiteral("startBrowser('page.html');\n"
-                                                         "test.compare(findObject(\"{tagName='P'}\").id, 'total');"));
-  const ProgramResult result = program.run(
-      {"run", "--jobs", "2", "--retries", "1", "--stop-after", "1", "--report", "report.html", "flaky.js", "sum.js"});
-  EXPECT_EQ(result.exitCode, 1) << qPrintable(result.output + result.errors);
-  expectRead(&program, R"JS(startBrowser("report.html");
-function count(selector) { return Number(retrieveJSObject("String(document.querySelectorAll('" + selector + "').length)")); }
-function text(id) { return String(retrieveJSObject("document.getElementById('" + id + "').innerText")); }
-test.compare(text("sentence"), "1 of 2 scripts failed.");
-test.verify(/flaky\s*1/.test(text("numbers")), text("numbers"));
-test.compare(count(".script.retried"), 2); test.compare(count(".script.flaky"), 1); test.compare(count(".script.failed"), 1);
-test.verify(text("failures").indexOf("not yet") < 0 && text("failures").indexOf("expected 'total'") >= 0, text("failures"));
-test.compare(count("figure .spot"), 1);)JS");
-}
-
 TEST(Report, OfARunThatWasKilledShowsWhatHappened) {
   ProgramRun program;
   program.write(QStringLiteral("long.js"),
@@ -175,6 +151,24 @@ TEST(Report, ThatCannotBeWrittenIsToldOnce) {
   expectRead(&program, R"JS(startBrowser("report.html");
 test.verify(waitForObject("{tagName='P' id='torn'}").visible);
 test.verify(Number(retrieveJSObject("String(document.querySelectorAll('.row.log').length)")) > 100);)JS");
+}
+
+TEST(Report, ShowsEachAttemptAndCountsTheLast) {
+  ProgramRun program;
+  program.write(QStringLiteral("1.js"), QStringLiteral("test.verify(false, 'never');"));
+  program.write(QStringLiteral("2.js"), QStringLiteral("test.verify(true);"));
+  const ProgramResult result =
+      program.run({"run", "--retries", "1", "--stop-after", "1", "--report", "report.html", "1.js", "2.js"});
+  EXPECT_EQ(result.exitCode, 1) << qPrintable(result.output + result.errors);
+  program.write(QStringLiteral("reader.js"), QStringLiteral(R"JS(startBrowser("report.html");
+var notes = String(retrieveJSObject("Array.from(document.querySelectorAll('.script > summary .note')).map(function (e) { return e.innerText; }).join('; ')"));
+test.compare(notes, "attempt 1, ran again · 1 check, 1 failed; attempt 2 · 1 check, 1 failed");
+test.verify(/1 of 1 script failed/.test(pageTitle()), pageTitle());
+test.compare(waitForObject("{tagName='P' id='not-run'}").simplifiedInnerText, "Not run: 2.js");
+test.compare(retrieveJSObject("document.querySelectorAll('#failures li').length"), 1);
+)JS"));
+  const ProgramResult read = program.run({"run", "reader.js"});
+  EXPECT_EQ(read.exitCode, 0) << qPrintable(read.output + read.errors);
 }
 
 TEST(Report, TraceWithoutOneIsWrongUsage) {

@@ -7,7 +7,6 @@
 #include "webhook/cli/commandoptions.h"
 #include "webhook/cli/output.h"
 #include "webhook/cli/parallelrun.h"
-#include "webhook/cli/runfacts.h"
 #include "webhook/cli/runoptions.h"
 #include "webhook/cli/runreports.h"
 #include "webhook/cli/savetree.h"
@@ -42,7 +41,7 @@ public:
     host.functions.push_back(saveTreeFunction(m_browser));
     host.arguments = options.arguments;
     if (!options.reportFile.isEmpty()) {
-      bringWitness(options.trace, &host);
+      addWitness(options.trace, &host);
     }
     m_engine = std::make_unique<Scripting::ScriptEngine>(host, &m_listeners);
     m_engine->setScriptTimeout(options.scriptTimeoutMs);
@@ -54,12 +53,11 @@ public:
   }
 
 private:
-  /// Has the host show the report what its pages look like and say.
-  void bringWitness(bool showsSteps, Scripting::ScriptHost* host) {
-    m_witness = std::make_unique<PageWitness>(m_browser, showsSteps);
-    host->look = [this](Scripting::Moment moment, const SharedPtr<Object>& about, Scripting::ScriptListener* listener) {
-      m_witness->look(moment, about, listener);
-    };
+  /// Has the host show the report what its pages look like.
+  void addWitness(bool showsSteps, Scripting::ScriptHost* host) {
+    const auto witness = std::make_shared<PageWitness>(m_browser, showsSteps);
+    host->look = [witness](Scripting::Moment moment, const SharedPtr<Object>& about,
+                           Scripting::ScriptListener* listener) { witness->look(moment, about, listener); };
     m_browser.setTellsConsole(true);
     m_browser.setBrowserStarted([this](const BrowserSession& session) {
       m_listeners.environment(
@@ -68,7 +66,6 @@ private:
   }
 
   BrowserControl m_browser;
-  std::unique_ptr<PageWitness> m_witness;
   Scripting::ListenerGroup m_listeners;
   std::unique_ptr<Scripting::ScriptEngine> m_engine;
 };
@@ -120,7 +117,7 @@ int runAsWorker(const RunOptions& options) {
 
 int runScripts(const RunOptions& options, const QStringList& arguments) {
   RunReports reports(options);
-  const QString error = reports.open(runFacts(arguments));
+  const QString error = reports.open();
   if (!error.isEmpty()) {
     return wrongUsage(QStringLiteral("run"), error);
   }
@@ -143,6 +140,7 @@ int runScriptsCommand(const QStringList& arguments) {
     return *exitCode;
   }
   RunOptions options;
+  options.ownArguments = arguments.mid(1);
   const QString error = readRunOptions(parser, &options);
   if (!error.isEmpty()) {
     return wrongUsage(arguments.value(0), error);

@@ -16,8 +16,6 @@ namespace Corvex::Webhook {
 
 namespace {
 
-const QCommandLineOption junitOption(QStringLiteral("junit"), QStringLiteral("Write the results as JUnit XML, too."),
-                                     QStringLiteral("file"));
 const QCommandLineOption reportOption(
     QStringLiteral("report"),
     QStringLiteral(
@@ -25,6 +23,8 @@ const QCommandLineOption reportOption(
     QStringLiteral("file"));
 const QCommandLineOption traceOption(QStringLiteral("trace"),
                                      QStringLiteral("Show a small picture of the page after each step in the report."));
+const QCommandLineOption junitOption(QStringLiteral("junit"), QStringLiteral("Write the results as JUnit XML, too."),
+                                     QStringLiteral("file"));
 const QCommandLineOption objectMapOption(QStringLiteral("object-map"),
                                          QStringLiteral("Take the symbolic names of objects from this file."),
                                          QStringLiteral("file"));
@@ -186,6 +186,15 @@ QString readCredentials(const QStringList& texts, QVector<Credentials>* credenti
 }
 
 /// An error, or an empty text.
+QString readInput(const QCommandLineParser& parser, InputSettings* input) {
+  const QString who = parser.value(inputOption);
+  *input = {who == QLatin1String("page"), parser.isSet(strictOption)};
+  return input->inPage || who == QLatin1String("browser")
+             ? QString()
+             : QStringLiteral("--input takes browser or page, not '%1'.").arg(who);
+}
+
+/// An error, or an empty text.
 QString readReport(const QCommandLineParser& parser, RunOptions* options) {
   options->reportFile = parser.value(reportOption);
   options->trace = parser.isSet(traceOption);
@@ -195,15 +204,6 @@ QString readReport(const QCommandLineParser& parser, RunOptions* options) {
   return options->trace && options->reportFile.isEmpty()
              ? QStringLiteral("--trace puts pictures into a report: use it with --report FILE.")
              : QString();
-}
-
-/// An error, or an empty text.
-QString readInput(const QCommandLineParser& parser, InputSettings* input) {
-  const QString who = parser.value(inputOption);
-  *input = {who == QLatin1String("page"), parser.isSet(strictOption)};
-  return input->inPage || who == QLatin1String("browser")
-             ? QString()
-             : QStringLiteral("--input takes browser or page, not '%1'.").arg(who);
 }
 
 }  // namespace
@@ -228,6 +228,9 @@ QString readRunOptions(const QCommandLineParser& parser, RunOptions* options) {
   }
   options->lists = parser.isSet(listOption);
   if (error.isEmpty()) {
+    error = readReport(parser, options);
+  }
+  if (error.isEmpty()) {
     error = readCounts(parser, options);
   }
   if (error.isEmpty()) {
@@ -241,9 +244,6 @@ QString readRunOptions(const QCommandLineParser& parser, RunOptions* options) {
   }
   if (error.isEmpty()) {
     error = readInput(parser, &options->input);
-  }
-  if (error.isEmpty()) {
-    error = readReport(parser, options);
   }
   return error.isEmpty() && parser.isSet(objectMapOption) ? ObjectMap::self()->load(parser.value(objectMapOption))
                                                           : error;

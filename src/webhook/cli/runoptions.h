@@ -30,8 +30,10 @@ struct RunOptions {
   int scriptTimeoutMs = 0;
   QString junitFile;
   QString reportFile;
-  /// Each step has a picture in the report.
+  /// Whether the report shows the page after each step.
   bool trace = false;
+  /// Those of the command, for the report.
+  QStringList ownArguments;
   InputSettings input;
   bool failOnPageError = false;
   bool verbose = false;

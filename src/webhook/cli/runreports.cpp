@@ -2,6 +2,7 @@
 
 #include "webhook/cli/commandline.h"
 #include "webhook/cli/output.h"
+#include "webhook/cli/runfacts.h"
 #include "webhook/inspect/dumpfile.h"
 #include "webhook/process/cleanup.h"
 
@@ -49,13 +50,11 @@ RunReports::~RunReports() {
   Cleanup::setFarewell(nullptr);
 }
 
-QString RunReports::open(const QVector<Scripting::Fact>& facts) {
+QString RunReports::open() {
   QString error = m_options.junitFile.isEmpty() ? QString() : m_junit.open();
   if (error.isEmpty() && !m_options.reportFile.isEmpty()) {
     error = m_report.open();
-  }
-  if (error.isEmpty() && !m_options.reportFile.isEmpty()) {
-    m_report.environment(facts);
+    m_report.environment(runFacts(m_options.ownArguments));
   }
   return error;
 }

@@ -19,8 +19,8 @@ public:
   explicit RunReports(const RunOptions& options);
   ~RunReports();
 
-  /// To be called before anything runs. Answers why a file cannot be written, or an empty text. `facts` are of the run.
-  QString open(const QVector<Scripting::Fact>& facts);
+  /// To be called before anything runs. Answers why a file cannot be written, or an empty text.
+  QString open();
 
   /// For runs of one script after the other.
   Scripting::ScriptListener& all() { return m_all; }

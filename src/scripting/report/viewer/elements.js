@@ -1,8 +1,7 @@
 // Gives: small parts of the page that others are made of.
 // Needs: nothing.
 
-const SIGNS = { passed: '✓', failed: '✗', skipped: '–', torn: '…', retried: '↻', flaky: '✓' };
-const SPOKEN = { torn: 'did not end', retried: 'failed and ran again', flaky: 'passed after a failed attempt' };
+const SIGNS = { passed: '✓', failed: '✗', skipped: '–', torn: '…', again: '↻' };
 const byId = function (id) { return document.getElementById(id); };
 
 function make(tag, className, content) {
@@ -23,7 +22,7 @@ function counted(count, noun) {
 function sign(status) {
   const mark = make('span', 'sign ' + status, SIGNS[status]);
   mark.setAttribute('role', 'img');
-  mark.setAttribute('aria-label', SPOKEN[status] || status);
+  mark.setAttribute('aria-label', { torn: 'did not end', again: 'failed, and ran again' }[status] || status);
   return mark;
 }
 

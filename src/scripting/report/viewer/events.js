@@ -35,23 +35,9 @@ function end(kind, result) {
   }
   const isFailed = kind === 'group' ? result.error !== '' || inside.hasFailure :
     hasFailed(result) || (result.functions || []).some(hasFailed);
-  inside.status = isFailed ? 'failed' : result.isSkipped ? 'skipped' : 'passed';
-  if (kind === 'script') {
-    noteAttempt(inside);
-  }
+  inside.status = result.runsAgain ? 'again' : isFailed ? 'failed' : result.isSkipped ? 'skipped' : 'passed';
   inside = inside.parent;
   lastRow = null;
-}
-
-// What fails in an attempt after which the script runs again is no failure of the run.
-function noteAttempt(attempt) {
-  attempt.attempt = attempt.result.attempt || 1;
-  if (attempt.result.runsAgain) {
-    attempt.status = 'retried';
-    run.failures = run.failures.filter(function (row) { return row.script !== attempt; });
-  } else if (attempt.status === 'passed' && attempt.attempt > 1) {
-    attempt.status = 'flaky';
-  }
 }
 
 function add(row) {
@@ -59,7 +45,6 @@ function add(row) {
     return;
   }
   row.parent = inside;
-  row.script = script;
   inside.items.push(row);
   lastRow = row;
   if (row.isFailed && (row.kind === 'check' || row.kind === 'error')) {

@@ -50,9 +50,10 @@ function noteOf(part) {
   if (result.isSkipped && part.status === 'skipped') {
     return 'skipped' + (result.skipReason ? ': ' + result.skipReason : '');
   }
-  const attempt = part.status === 'retried' ? 'attempt ' + part.attempt + ' failed; ' :
-    part.status === 'flaky' ? 'flaky, attempt ' + part.attempt + '; ' : '';
   const checks = checksOf(result);
+  const attempt = part.status === 'again' ? 'attempt ' + result.attempt + ', ran again · ' :
+    part.kind === 'script' && result.attempt > 1 ? 'attempt ' + result.attempt +
+      (part.status === 'passed' ? ', flaky · ' : ' · ') : '';
   return attempt + counted(checks.all, 'check') + (checks.failed ? ', ' + checks.failed + ' failed' : '');
 }
 

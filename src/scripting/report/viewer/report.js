@@ -7,22 +7,15 @@ function count(status) {
   return run.scripts.filter(function (one) { return one.status === status; }).length;
 }
 
-function total() {
-  return run.scripts.length - count('retried');
+// Each script's last attempt counts.
+function lastAttempts() {
+  return run.scripts.length - count('again');
 }
 
 function sentence() {
   const failed = count('failed') + count('torn');
-  return run.scripts.length === 0 ? 'No script was run.' : failed === 0 ? 'All passed.' :
-    failed + ' of ' + counted(total(), 'script') + ' failed.';
-}
-
-function drawNotRun() {
-  const paths = run.summary && run.summary.notRun || [];
-  if (paths.length) {
-    byId('not-run').hidden = false;
-    byId('not-run').append(make('ul', '', paths.map(function (path) { return make('li', '', path); })));
-  }
+  return lastAttempts() === 0 ? 'No script was run.' : failed === 0 ? 'All passed.' :
+    failed + ' of ' + counted(lastAttempts(), 'script') + ' failed.';
 }
 
 function drawHeader() {
@@ -31,21 +24,25 @@ function drawHeader() {
   byId('verdict').className = isGood ? 'passed' : 'failed';
   byId('sentence').textContent = sentence();
   byId('torn').hidden = run.summary !== null;
+  const flaky = run.scripts.filter(function (one) { return one.status === 'passed' && one.result.attempt > 1; }).length;
+  const notRun = run.summary ? run.summary.notRun : [];
   const checks = run.scripts.map(function (one) {
     return one.result ? checksOf(one.result) : { all: 0, failed: 0 };
   });
-  const sum = function (field) {
-    return checks.reduce(function (all, one) { return all + one[field]; }, 0);
+  const total = function (field) {
+    return checks.reduce(function (sum, one) { return sum + one[field]; }, 0);
   };
   const numbers = byId('numbers');
-  addTerm(numbers, 'scripts', String(total()));
-  [['passed', count('passed') + count('flaky')], ['flaky', count('flaky')], ['failed', count('failed')],
-    ['skipped', count('skipped')], ['did not end', count('torn')]].forEach(function (pair) {
+  addTerm(numbers, 'scripts', String(lastAttempts()));
+  [['passed', count('passed')], ['failed', count('failed')], ['skipped', count('skipped')],
+    ['flaky', flaky], ['not run', notRun.length], ['did not end', count('torn')]].forEach(function (pair) {
     if (pair[1]) {
       addTerm(numbers, pair[0], String(pair[1]));
     }
   });
-  addTerm(numbers, 'checks', sum('all') + (sum('failed') ? ', ' + sum('failed') + ' failed' : ''));
+  addTerm(numbers, 'checks', total('all') + (total('failed') ? ', ' + total('failed') + ' failed' : ''));
+  byId('not-run').hidden = notRun.length === 0;
+  byId('not-run').textContent = 'Not run: ' + notRun.join(', ');
   if (run.summary) {
     addTerm(numbers, 'time', seconds(run.summary.durationMs, 1));
   }
@@ -57,6 +54,14 @@ function titlesOf(row) {
     titles.unshift(up.kind === 'script' ? baseName(up.title) : up.title);
   }
   return titles.join(' › ');
+}
+
+function scriptOf(row) {
+  let part = row.parent;
+  while (part.parent) {
+    part = part.parent;
+  }
+  return part;
 }
 
 function drawFailures() {
@@ -117,10 +122,10 @@ function showOnly(id, className) {
 
 function showAll() {
   document.querySelectorAll('script.event').forEach(read);
+  run.failures = run.failures.filter(function (row) { return scriptOf(row).status !== 'again'; });
   drawHeader();
   drawFailures();
   byId('scripts').append.apply(byId('scripts'), run.scripts.map(partOf));
-  drawNotRun();
   drawEnvironment();
   byId('next-failure').disabled = run.failures.length === 0;
   byId('next-failure').addEventListener('click', nextFailure);
