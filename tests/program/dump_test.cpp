@@ -127,6 +127,43 @@ TEST(Dump, HoldsTheTreeThatAPlainWalkOfThePageMeets) {
   EXPECT_EQ(asText(document.value("children").toArray().at(0).toObject()), walked);
 }
 
+TEST(Dump, HoldsPagesThatHidePropertiesAndNestDeeply) {
+  ProgramRun program;
+  program.write(
+      QStringLiteral("page.html"),
+      QStringLiteral("<title>t</title><img name=title><form><input name=title><input name=id><input name=className>"
+                     "<input type=password name=secret value=hush></form><a href='#'>say container=1 now</a>"
+                     "<iframe style='padding: 20px; border: 5px solid; position: absolute; left: 0; top: 100px'"
+                     " srcdoc='<body style=\"margin: 0\"><button>In</button><a href=\"#\">say container=1 "
+                     "now</a>'></iframe>") +
+          QStringLiteral("<div>").repeated(500) +
+          QStringLiteral("<script>String = function () { return 'S'; };
+                         "</script>"));
+  const ProgramResult result = program.run({"dump", "page.html", "-o", "d.json"});
+  EXPECT_EQ(result.exitCode, 0) << qPrintable(result.output + result.errors.left(500));
+  const QByteArray bytes = bytesOf(program, "d.json");
+  const QJsonArray documents = QJsonDocument::fromJson(bytes).object().value("documents").toArray();
+  ASSERT_EQ(documents.size(), 2);
+  EXPECT_FALSE(bytes.contains("hush"));
+  EXPECT_FALSE(bytes.contains("\"qualifiedName\": \"S\""));
+  const QJsonArray inFrame = documents.at(1)
+                                 .toObject()
+                                 .value("children")
+                                 .toArray()
+                                 .at(0)
+                                 .toObject()
+                                 .value("children")
+                                 .toArray()
+                                 .at(1)
+                                 .toObject()
+                                 .value("children")
+                                 .toArray();
+  const QJsonObject button = inFrame.at(0).toObject();
+  EXPECT_EQ(button.value("bounds").toObject().value("x").toInt(), 25);
+  EXPECT_EQ(button.value("bounds").toObject().value("y").toInt(), 125);
+  EXPECT_EQ(inFrame.at(1).toObject().value("properties").toObject().value("href").toString(), QString("#"));
+}
+
 TEST(Dump, RefusesAFileThatCannotBeWritten) {
   ProgramRun program;
   program.write(QStringLiteral("page.html"), QString::fromLatin1(page));

@@ -21,8 +21,13 @@ FunctionCallResult<QStringList> askForEach(Connection& page, const char* questio
   const QString code = inPageText("asklines.js").arg(QLatin1String(question), calls);
   const WebWrapper::JavaScriptAnswer answer = page.evaluateJS(code, callTimeoutMs);
   QStringList lines = answer.text.split(QLatin1Char('\n'));
-  if (!answer.succeeded() || lines.size() != objects.size() + 1) {
-    return FunctionCallResult<QStringList>::failure(answer.text);
+  if (!answer.succeeded()) {
+    return FunctionCallResult<QStringList>::failure(answer.text.isEmpty() ? QStringLiteral("the page did not say why")
+                                                                          : answer.text);
+  }
+  if (lines.size() != objects.size() + 1) {
+    return FunctionCallResult<QStringList>::failure(
+        QStringLiteral("it gave %1 answers for %2 objects.").arg(lines.size() - 1).arg(objects.size()));
   }
   lines.removeLast();
   return FunctionCallResult<QStringList>::success(lines);

@@ -45,7 +45,11 @@ QString asAddress(const QImage& picture) {
 }
 
 QString cut(const QString& value) {
-  return visibleText(value.size() <= longestValue ? value : value.left(longestValue) + QChar(0x2026));
+  if (value.size() <= longestValue) {
+    return visibleText(value);
+  }
+  const bool splitsCharacter = value.at(longestValue - 1).isHighSurrogate();
+  return visibleText(value.left(longestValue - (splitsCharacter ? 1 : 0)) + QChar(0x2026));
 }
 
 QJsonArray asRow(const DumpedObject& object) {
@@ -57,11 +61,13 @@ QJsonArray asRow(const DumpedObject& object) {
       properties.append(QJsonArray{property.name, cut(property.value)});
     }
   }
-  QJsonArray row{
-      object.depth,   object.className,
-      object.name,    visibleText(object.qualifiedName),
-      object.matches, isShown ? QJsonValue(QJsonArray{bounds.x, bounds.y, bounds.width, bounds.height}) : QJsonValue(),
-      properties};
+  QJsonArray row{object.depth,
+                 object.className,
+                 visibleText(object.name),
+                 visibleText(object.qualifiedName),
+                 object.matches,
+                 isShown ? QJsonValue(QJsonArray{bounds.x, bounds.y, bounds.width, bounds.height}) : QJsonValue(),
+                 properties};
   if (!object.context.isEmpty()) {
     row.append(visibleText(object.context));
   }

@@ -34,6 +34,7 @@ private:
   void add(const UIElement& element, const SharedPtr<Object>& object, const DumpObjectTreeDelegate& delegate,
            int depth);
   void moveIntoFrame(const SharedPtr<Object>& document, int from);
+  void addAttributes(const QString& pairs, DumpedObject* object) const;
   void nameAll(int from);
   void fail(const QString& what, const QString& why) {
     if (m_dump.error.isEmpty()) {
@@ -95,8 +96,23 @@ void DumpReader::moveIntoFrame(const SharedPtr<Object>& document, int from) {
   one.push_back(document);
   const QStringList offset = askForEach(m_page, "frameOffset", one).value.value(0).split(QLatin1Char(','));
   for (int i = from; i < m_dump.objects.size(); ++i) {
-    m_dump.objects[i].bounds.x += offset.value(0).toInt();
-    m_dump.objects[i].bounds.y += offset.value(1).toInt();
+    GlobalBounds& bounds = m_dump.objects[i].bounds;
+    if (offset.size() != 2) {
+      // Nobody can tell where they are, if they are shown at all.
+      bounds = GlobalBounds{0, 0, -1, -1, -1};
+    } else {
+      bounds.x += offset.at(0).toInt();
+      bounds.y += offset.at(1).toInt();
+    }
+  }
+}
+
+void DumpReader::addAttributes(const QString& pairs, DumpedObject* object) const {
+  for (const QString& pair : pairs.split(QLatin1Char('&'), Qt::SkipEmptyParts)) {
+    const QString name = undoEscape(pair.section(QLatin1Char('='), 0, 0));
+    if (m_filters.objects.front().isMatchedProperty(name, nullptr)) {
+      object->properties.append({name, undoEscape(pair.section(QLatin1Char('='), 1))});
+    }
   }
 }
 
@@ -113,9 +129,11 @@ void DumpReader::nameAll(int from) {
     }
     for (int i = 0; i < names.value.size(); ++i) {
       const QStringList parts = names.value.at(i).split(QLatin1Char(' '));
-      if (parts.size() == 2 && !parts.at(0).startsWith(QLatin1Char('!'))) {
-        m_dump.objects[begin + i].qualifiedName = WebWrapper::unescape(undoEscape(parts.at(0)));
-        m_dump.objects[begin + i].matches = parts.at(1).toInt();
+      if (parts.size() == 3 && !parts.at(0).startsWith(QLatin1Char('!'))) {
+        DumpedObject& object = m_dump.objects[begin + i];
+        object.qualifiedName = WebWrapper::unescape(undoEscape(parts.at(0)));
+        object.matches = parts.at(1).toInt();
+        addAttributes(parts.at(2), &object);
       }
     }
   }
@@ -140,7 +158,9 @@ void DumpReader::countNamesakes() {
 
 // Texts of elements with others in them hold the same again and again: each object has its own text anyway.
 QStringList usualProperties() {
-  return QStringLiteral("tagName id name type title value href src checked visible enabled className")
+  return QStringLiteral(
+             "tagName id title visible name type value href src alt checked disabled class for placeholder role aria-* "
+             "data-test*")
       .split(QLatin1Char(' '));
 }
 
@@ -154,7 +174,8 @@ PageDump readObjects(const BrowserWindows& windows, Connection& page, const QStr
   reader.countNamesakes();
   PageDump dump = reader.take();
   dump.url = page.page()->url();
-  dump.title = page.evaluateJS(QStringLiteral("document.title"), 1000).text;
+  const WebWrapper::JavaScriptAnswer title = page.evaluateJS(QStringLiteral("String(document.title)"), 5000);
+  dump.title = title.succeeded() ? title.text : QString();
   return dump;
 }
 

@@ -19,9 +19,11 @@ bool HtmlObjectDumpObjectTreeDelegate::enterDump(SharedPtr<Object> object, const
   if (dumpDepth++ > 0) {
     return true;
   }
+  // Of a page that goes meanwhile its objects say no more what they were.
+  const QString text = castToString(object);
   const QString why = fillCache(object, filters);
   if (!why.isEmpty()) {
-    *error = QStringLiteral("Error preparing object dump for '%1': ").arg(castToString(object)) + why;
+    *error = QStringLiteral("Error preparing object dump for '%1': ").arg(text) + why;
     leaveDump(error);
   }
   return why.isEmpty();

@@ -4,6 +4,8 @@
 #include <json/writer.h>
 
 #include <exception>
+#include <memory>
+#include <string>
 
 namespace Corvex::WebWrapper {
 
@@ -11,6 +13,23 @@ namespace {
 
 QString notConvertible(const Json::Value& value, const char* wanted) {
   return QStringLiteral("the page answered %1 where %2 was expected").arg(compactJson(value), QLatin1String(wanted));
+}
+
+/// As deep as pages are made, and no deeper than the stack.
+FunctionCallResult<Json::Value> parseDeepJson(const std::string& text) {
+  Json::CharReaderBuilder builder;
+  builder["stackLimit"] = 4000;
+  const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+  Json::Value root;
+  std::string errors;
+  try {
+    if (reader->parse(text.data(), text.data() + text.size(), &root, &errors)) {
+      return FunctionCallResult<Json::Value>::success(root);
+    }
+  } catch (const std::exception& e) {
+    errors = e.what();
+  }
+  return FunctionCallResult<Json::Value>::failure(QString::fromStdString(errors));
 }
 
 }  // namespace
@@ -26,9 +45,9 @@ FunctionCallResult<Json::Value> parseJson(const QString& text) {
     if (reader.parse(text.toStdString(), root, true)) {
       return FunctionCallResult<Json::Value>::success(root);
     }
-  } catch (const std::exception& e) {
-    // Thrown for values that are nested too deep.
-    return FunctionCallResult<Json::Value>::failure(QString::fromUtf8(e.what()));
+  } catch (const std::exception&) {
+    // Thrown for values that are nested deep.
+    return parseDeepJson(text.toStdString());
   }
   const QString errors = QString::fromStdString(reader.getFormattedErrorMessages());
   return FunctionCallResult<Json::Value>::failure(errors.isEmpty() ? QStringLiteral("not JSON") : errors);

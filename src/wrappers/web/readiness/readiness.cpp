@@ -80,7 +80,8 @@ FunctionCallResult<QImage> partOfPageImage(const FunctionCallResult<QImage>& pag
   if (page.value.isNull()) {
     return FunctionCallResult<QImage>::failure(QStringLiteral("Invalid image obtained for html page screenshot."));
   }
-  if (page.value.depth() == 32 && page.value.rect().contains(QRect(rect.x, rect.y, rect.width, rect.height))) {
+  if (page.value.depth() == 32 && rect.width > 0 && rect.height > 0 &&
+      page.value.rect().contains(QRect(rect.x, rect.y, rect.width, rect.height))) {
     const uchar* const corner = page.value.constScanLine(rect.y) + 4 * static_cast<std::ptrdiff_t>(rect.x);
     // The part keeps the whole.
     return FunctionCallResult<QImage>::success(QImage(

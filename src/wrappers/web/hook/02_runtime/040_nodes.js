@@ -75,7 +75,7 @@ var __corvex__askNode = (function () {
   var rows = {
     Document: ["getElementById", "getElementsByName", "getElementsByTagName", "querySelectorAll"],
     DocumentFragment: ["querySelectorAll"],
-    Element: ["getAttribute", "getBoundingClientRect", "getClientRects", "getElementsByTagName"],
+    Element: ["getAttribute", "getAttributeNames", "getBoundingClientRect", "getClientRects", "getElementsByTagName"],
     Node: ["getRootNode"]
   };
   var askers = {};

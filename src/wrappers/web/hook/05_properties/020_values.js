@@ -1,5 +1,5 @@
 // Gives: window.top.__corvex.getPropertyValue and reservedJsKeywords: property values as the driver reads them.
-// Needs: runtime/nodes, browsers, input/objects.
+// Needs: runtime/natives, runtime/nodes, browsers, input/objects.
 
 window.top.__corvex.reservedJsKeywords = [
   "break", "case", "catch", "continue", "debugger", "default", "delete", "do", "else", "finally", "for", "function",
@@ -56,6 +56,16 @@ function __corvex__readProperty(obj, propName) {
   return value;
 }
 
+// They are texts, whatever a page makes of them, and the attributes that hold them.
+var __corvex__textProperties = { id: "id", title: "title", className: "class", innerText: "", innerHTML: "" };
+
+// What a field of a form hides by its name, or a page by a property of its own.
+function __corvex__textBehind(obj, propName, value) {
+  var attribute = __corvex__nodeReader.nodeType(obj) === 1 ? __corvex__textProperties[propName] : "";
+  return typeof value !== "object" && typeof value !== "function" ? String(value) :
+    (attribute && __corvex__attributeOf(obj, attribute)) || "";
+}
+
 function __corvex__propertyValue(obj, propName) {
   var value;
   try {
@@ -72,6 +82,9 @@ function __corvex__propertyValue(obj, propName) {
   }
   if (value === undefined) {
     return "";
+  }
+  if (value !== null && typeof value !== "string" && __corvex__natives.has(__corvex__textProperties, propName)) {
+    return __corvex__textBehind(obj, propName, value);
   }
   return value === null ? "null" : value;
 }

@@ -1,6 +1,6 @@
 // Gives: __corvex.findAllObjects: every element that a name fits, where a search for one would look.
-// Needs: runtime/state, runtime/framewalk, runtime/children, runtime/frameaccess, matching, search/kept, search/name,
-//   search/candidates, search/hits, search/properties, search/hittest.
+// Needs: runtime/state, runtime/framewalk, runtime/contexts, runtime/children, runtime/frameaccess, matching,
+//   search/kept, search/name, search/candidates, search/hits, search/properties, search/hittest.
 
 // Adds the hits of nm in a document, or below an element, to those of other places. A name with an occurrence means the
 // one that a search finds.
@@ -42,15 +42,24 @@ function __corvex__windowsFrom(first) {
   return windows;
 }
 
+function __corvex__contextInName(nm) {
+  try {
+    return __corvex__exactText(__corvex__mapEntry(__corvex__propertyMap(nm), "context"));
+  } catch (e) {
+    return "";
+  }
+}
+
 function __corvex__hitsInPage(nm) {
   var hits = [];
   var searched = [];
   var before = __corvex__windowState.ctxwin;
-  var windows = __corvex__kept(__corvex__windowsFrom, before);
+  var context = __corvex__contextInName(nm);
+  // A name with a context leads into the same document from everywhere.
+  var windows = context && __corvex__hasContext(context) ? [before] : __corvex__kept(__corvex__windowsFrom, before);
   for (var i = 0; i < windows.length; ++i) {
     __corvex__windowState.ctxwin = windows[i];
     try {
-      // A name with a context leads into the same document from everywhere.
       var doc = __corvex__effectiveContainer(windows[i].document, __corvex__propertyMap(nm), nm);
       if (!__corvex__listHolds(searched, doc)) {
         searched[searched.length] = doc;
