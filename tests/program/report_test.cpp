@@ -112,6 +112,32 @@ mouseClick("{tagName='BUTTON' className='thumbnail'}");
 test.compare(Number(retrieveJSObject("String(document.querySelectorAll('.thumbnail.large').length)")), 1);)JS");
 }
 
+TEST(Report, HoldsScriptsSideBySideAndWhatWasFlaky) {
+  ProgramRun program;
+  program.write(QStringLiteral("page.html"), QString::fromUtf8(page));
+  // Fails until it has left a file.
+  program.write(
+      QStringLiteral("flaky.js"),
+      QStringLiteral("startBrowser('page.html');\n"
+                     "try { readTable('left.json'); } catch (e) {\n"
+                     "  if (!/object/.test(e.message)) { saveTree('left.json'); test.fail('not yet'); } }\n"));
+  program.write(QStringLiteral("sum.js"), QStringLiteral("startBrowser('page.html');\n"
+                                                         "test.compare(findObject(\"{tagName='P'}\").id, 'total');"));
+  const ProgramResult result =
+      program.run({"run", "--jobs", "2", "--retries", "1", "--report", "report.html", "flaky.js", "sum.js"});
+  EXPECT_EQ(result.exitCode, 1) << qPrintable(result.output + result.errors);
+  expectRead(&program, R"JS(startBrowser("report.html");
+function count(selector) { return Number(retrieveJSObject("String(document.querySelectorAll('" + selector + "').length)")); }
+function text(id) { return String(retrieveJSObject("document.getElementById('" + id + "').innerText")); }
+test.compare(text("sentence"), "1 of 2 scripts failed.");
+test.verify(/flaky\s*1/.test(text("numbers")), text("numbers"));
+test.compare(count(".script.again"), 2); test.compare(count(".script.passed"), 1); test.compare(count(".script.failed"), 1);
+test.verify(text("failures").indexOf("not yet") < 0 && text("failures").indexOf("expected 'total'") >= 0, text("failures"));
+test.compare(count("figure .spot"), 1);
+mouseClick("{tagName='INPUT' id='only-failures'}");
+test.compare(Number(retrieveJSObject("String(Array.from(document.querySelectorAll('.script')).filter(function (e) { return e.offsetHeight > 0; }).length)")), 3);)JS");
+}
+
 TEST(Report, OfARunThatWasKilledShowsWhatHappened) {
   ProgramRun program;
   program.write(QStringLiteral("long.js"),
@@ -139,6 +165,9 @@ TEST(Report, ThatCannotBeWrittenIsToldOnce) {
   EXPECT_EQ(refused.exitCode, 2);
   EXPECT_TRUE(refused.errors.contains("Cannot write the report '/dev/full'")) << qPrintable(refused.errors);
   EXPECT_FALSE(refused.output.contains("ran"));
+  const ProgramResult nowhere = program.run({"run", "--report", "none/report.html", "good.js"});
+  EXPECT_EQ(nowhere.exitCode, 2);
+  EXPECT_EQ(nowhere.errors.trimmed().count(QLatin1Char('\n')), 0) << qPrintable(nowhere.errors);
   program.write(
       QStringLiteral("many.js"),
       QStringLiteral("for (var i = 0; i < 3000; ++i) { test.log('number ' + i + ' ' + new Array(200).join('x')); }"));

@@ -96,9 +96,9 @@ TEST(Help, GoesToStandardOutputAndNamesTheOptions) {
   const ProgramResult result = program.run({QStringLiteral("run"), QStringLiteral("--help")});
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.errors, QString());
-  for (const char* option : {"--browser", "--headed", "--attach", "--timeout", "--junit", "--object-map", "--arg",
-                             "--filter", "--script-timeout", "--list", "--last-failed", "--jobs", "--retries",
-                             "--stop-after", "--verbose", "SCRIPT..."}) {
+  for (const char* option : {"--browser", "--headed", "--attach", "--timeout", "--junit", "--report", "--trace",
+                             "--object-map", "--arg", "--filter", "--script-timeout", "--list", "--last-failed",
+                             "--jobs", "--retries", "--stop-after", "--verbose", "SCRIPT..."}) {
     EXPECT_TRUE(result.output.contains(QLatin1String(option))) << option;
   }
 }

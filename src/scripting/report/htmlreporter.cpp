@@ -85,9 +85,11 @@ HtmlReporter::HtmlReporter(const QString& path, const QByteArray& treeViewer)
 
 QString HtmlReporter::open() {
   if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered)) {
-    return QStringLiteral(
-               "Cannot write the report '%1': %2. Choose a file in a directory that exists and that you may write to.")
-        .arg(m_file.fileName(), m_file.errorString());
+    m_error =
+        QStringLiteral(
+            "Cannot write the report '%1': %2. Choose a file in a directory that exists and that you may write to.")
+            .arg(m_file.fileName(), m_file.errorString());
+    return m_error;
   }
   const QByteArray script = viewerScript();
   QByteArray page = partOfViewer("report.html");
