@@ -137,8 +137,7 @@ TEST(Dump, HoldsPagesThatHidePropertiesAndNestDeeply) {
                      " srcdoc='<body style=\"margin: 0\"><button>In</button><a href=\"#\">say container=1 "
                      "now</a>'></iframe>") +
           QStringLiteral("<div>").repeated(500) +
-          QStringLiteral("<script>String = function () { return 'S'; };
-                         "</script>"));
+          QStringLiteral("<script>String = function () { return 'S'; };</script>"));
   const ProgramResult result = program.run({"dump", "page.html", "-o", "d.json"});
   EXPECT_EQ(result.exitCode, 0) << qPrintable(result.output + result.errors.left(500));
   const QByteArray bytes = bytesOf(program, "d.json");
