@@ -215,9 +215,20 @@
     });
   }
 
+  function isBelow(object, ancestor) {
+    let up = object;
+    while (up && up.depth > ancestor.depth) {
+      up = objects[up.parent];
+    }
+    return up === ancestor;
+  }
+
   function search() {
     const text = field.value.trim().toLowerCase();
-    hits = text ? objects.filter(function (object) { return matchesText(object, text); }) : [];
+    const all = text ? objects.filter(function (object) { return matchesText(object, text); }) : [];
+    // An object holds the texts of those below it, and who looks for a text means the innermost one.
+    const isAround = function (object, place) { return place + 1 < all.length && isBelow(all[place + 1], object); };
+    hits = all.filter(function (object, place) { return !isAround(object, place); }).concat(all.filter(isAround));
     if (hits.length) {
       choose(hits[0].index, true);
     }
