@@ -38,6 +38,8 @@ RecordedBrowser::RecordedBrowser(bool isRecorded, const SessionOptions& options)
   if (isRecorded) {
     Inspector::self()->attachRecorder(&m_calls);
     Inspector::self()->setRecording(true);
+    m_logger.setPictures(
+        [](const QString& name) { return Corvex::FunctionCallResult<QString>::success(QStringLiteral("of ") + name); });
     m_control.recordWith(&m_logger);
   }
   m_engine = std::make_unique<Scripting::ScriptEngine>(browserFunctions(m_control), &m_noListeners);

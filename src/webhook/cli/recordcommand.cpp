@@ -11,6 +11,9 @@
 #include "webhook/recorder/actrecorder.h"
 #include "webhook/recorder/recordingfiles.h"
 #include "webhook/run/browsercontrol.h"
+#include "webhook/run/pictures.h"
+#include "wrappers/web/object/webobject.h"
+#include "wrappers/web/object/wraphtmlobject.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -123,6 +126,7 @@ public:
     Inspector::self()->attachRecorder(&m_calls);
     Inspector::self()->setDefaultTimeout(options.session.defaultTimeoutMs);
     m_browser.recordWith(&m_logger);
+    m_logger.setPictures([this](const QString& objectName) { return savePicture(objectName); });
     m_files.hideSecrets(options.secret, [this](const QString& object) { return m_logger.isPassword(object); });
   }
   ~RecordingRun() {
@@ -136,6 +140,7 @@ public:
 
 private:
   QString startBrowser();
+  FunctionCallResult<QString> savePicture(const QString& objectName);
   void show(const QString& line) {
     m_outputCode = qMax(m_outputCode, printOut(visibleText(line, LineBreaks::Shown) + u'\n', 0));
   }
@@ -158,6 +163,25 @@ QString RecordingRun::startBrowser() {
   m_logger.setFirstPage(addressForScript(m_options));
   const QFileInfo file(m_options.address);
   return m_browser.startBrowser(file.isFile() ? file.absoluteFilePath() : m_options.address);
+}
+
+FunctionCallResult<QString> RecordingRun::savePicture(const QString& objectName) {
+  using Result = FunctionCallResult<QString>;
+  const QString script = m_options.files.script;
+  const QDir folder = script.isEmpty() ? QDir::current() : QFileInfo(script).absoluteDir();
+  const QString stem = script.isEmpty() ? QStringLiteral("recorded") : QFileInfo(script).completeBaseName();
+  QString file;
+  for (int number = 1; file.isEmpty() || folder.exists(file); ++number) {
+    file = QStringLiteral("%1-%2.png").arg(stem).arg(number);
+  }
+  const SharedPtr<Object> object = Inspector::self()->lookup(objectName);
+  const QString lost = Inspector::self()->takeScriptError();
+  const WebWrapper::HTML_Object* const element = WebWrapper::retrieveObject(object);
+  if (!element) {
+    return Result::failure(lost.isEmpty() ? QStringLiteral("its name does not find it in this window.") : lost);
+  }
+  const QString error = takeScreenshot(*m_browser.windows()->current(), element, folder.filePath(file));
+  return error.isEmpty() ? Result::success(file) : Result::failure(error);
 }
 
 int RecordingRun::run() {

@@ -136,6 +136,10 @@ void ActRecorder::takeDrag(const QString& objectName, const EventMap& data) {
 
 // The property becomes code of the script, so that no page may name it.
 void ActRecorder::takeCheck(const QString& objectName, const EventMap& data) {
+  if (item(data, "what") == QLatin1String("picture")) {
+    takePicture(objectName, data);
+    return;
+  }
   const QString value = item(data, "value");
   const QTime time = WebWrapper::getTimeStampFromEventData(data);
   Inspector* const inspector = Inspector::self();
@@ -147,6 +151,23 @@ void ActRecorder::takeCheck(const QString& objectName, const EventMap& data) {
                   row.isText ? inspector->wrapString(value) : inspector->wrapBool(value == QLatin1String("true"))},
                  &time);
     }
+  }
+}
+
+void ActRecorder::takePicture(const QString& objectName, const EventMap& data) {
+  flushRecordedTextInput();
+  const QTime time = WebWrapper::getTimeStampFromEventData(data);
+  const FunctionCallResult<QString> file =
+      m_takePicture ? m_takePicture(objectName)
+                    : FunctionCallResult<QString>::failure(QStringLiteral("there is no place for it."));
+  Inspector* const inspector = Inspector::self();
+  if (file.failed()) {
+    recordCall(QString(), "//",
+               {inspector->wrapString(
+                   QStringLiteral("A check of the picture of %1 is not recorded: %2").arg(objectName, file.error))},
+               &time);
+  } else {
+    recordCall(objectName, "test.compareScreenshot", {inspector->wrapString(file.value)}, &time);
   }
 }
 

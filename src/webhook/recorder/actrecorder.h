@@ -1,7 +1,10 @@
 #pragma once
 
+#include "shared/functioncallresult.h"
 #include "webhook/recorder/eventrecorder.h"
 #include "webhook/recorder/pagemoves.h"
+
+#include <functional>
 
 namespace Corvex::Webhook {
 
@@ -10,6 +13,11 @@ namespace Corvex::Webhook {
 class ActRecorder : public EventRecorder {
 public:
   using EventRecorder::EventRecorder;
+
+  /// `take` saves a picture of the object of a name, as it is now, and answers the file's name for the script.
+  void setPictures(const std::function<FunctionCallResult<QString>(const QString& objectName)>& take) {
+    m_takePicture = take;
+  }
 
   bool compressedNonRecordingEventData(const QString& objectName, const WebWrapper::EventMap& data) override;
 
@@ -30,7 +38,10 @@ private:
   /// What was recorded of a press that turned out to be the beginning of something else.
   void takeBackPress(const QString& objectName);
 
+  void takePicture(const QString& objectName, const WebWrapper::EventMap& data);
+
   PageMoves m_moves;
+  std::function<FunctionCallResult<QString>(const QString& objectName)> m_takePicture;
   /// Whether the next answer of a prompt is none.
   bool m_isPromptCancelled = false;
 };

@@ -142,11 +142,13 @@ TEST_F(RecordedActs, ChecksThatAreChosenInTheOverlay) {
                {open.arg("A", "Check text"), open.arg("A", "Check visible"), open.arg("INPUT", "Check value"),
                 "setContext('page.html.FRAME1'); mouseClick(\"{tagName='P'}\", 4, 4, 3); setContext('page.html'); "
                 "mouseClick(\"{tagName='BUTTON' simplifiedInnerText='Check text'}\");",
+                open.arg("INPUT", "Check picture"),
                 "if (currentUrl().indexOf('gone') >= 0) { throw new Error('pressed'); }"}),
       R"(test.compare(waitForObject("{tagName='A' simplifiedInnerText='Total: \"5\"' id='l'}").simplifiedInnerText, "Total: \"5\"");
 test.compare(waitForObject("{tagName='A' simplifiedInnerText='Total: \"5\"' id='l'}").visible, true);
 test.compare(waitForObject("{tagName='INPUT' type='text' id='n'}").value, "Ada");
 test.compare(waitForObject("DOCUMENT[page|html|FRAME1].HTML1.BODY1.P1").simplifiedInnerText, "Inside");
+test.compareScreenshot("{tagName='INPUT' type='text' id='n'}", "of {tagName='INPUT' type='text' id='n'}");
 )");
 }
 

@@ -16,6 +16,10 @@
     }],
     ["visible", function (object) {
       return String(__corvex__isVisible(object));
+    }],
+    // The driver takes it.
+    ["picture", function () {
+      return "";
     }]
   ];
 
