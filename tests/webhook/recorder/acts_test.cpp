@@ -112,12 +112,14 @@ TEST_F(RecordedActs, KeysThatAPageActsOnAndNoOthers) {
 <div id='list' tabindex='0' onkeydown='this.dataset.last = event.key'>List</div><p id='panel'>Panel</p>
 <input id='picked' onfocus='panel.textContent = "open"'><script>
 addEventListener('keydown', function (e) { if (e.key === 'Escape') { panel.remove(); } });
+addEventListener('keydown', function (e) {
+  if (e.ctrlKey && e.key !== 'Control') { document.body.title += e.key; if (e.key === 'k') { e.preventDefault(); } } });
 b.onclick = function () { panel.className = 'x'; };</script>)"});
-  EXPECT_EQ(
-      recorded("/page.html", {"typeText(\"{tagName='INPUT' id='n'}\", \"a b<Tab>\");", "pressKeys(\"c<Tab><Space>\");",
-                              "pressKeys(\"<Tab><Down><Shift+Home>x\");", "pressKeys(\"<Esc>\");",
-                              "mouseClick(\"{tagName='INPUT' id='m'}\"); pressKeys(\"d<Tab><Tab><Tab>\");"}),
-      R"(setFocus("{tagName='INPUT' type='text' id='n'}");
+  EXPECT_EQ(recorded("/page.html", {"typeText(\"{tagName='INPUT' id='n'}\", \"a b<Tab>\");",
+                                    "pressKeys(\"c<Tab><Space>\");", "pressKeys(\"<Tab><Down><Shift+Home>x\");",
+                                    "pressKeys(\"<Esc>\");", "pressKeys(\"<Ctrl+Y><Ctrl+K>\");",
+                                    "mouseClick(\"{tagName='INPUT' id='m'}\"); pressKeys(\"d<Tab><Tab><Tab>\");"}),
+            R"(setFocus("{tagName='INPUT' type='text' id='n'}");
 typeText("{tagName='INPUT' type='text' id='n'}", "a b");
 typeText("{tagName='INPUT' type='text' id='m'}", "c");
 clickButton("{tagName='BUTTON' type='button' id='b' simplifiedInnerText='Press'}");
@@ -125,6 +127,7 @@ pressKeys("<Tab><Down>");
 pressKeys("<Shift+Home>");
 pressKeys("x");
 pressKeys("<Esc>");
+pressKeys("<Ctrl+K>");
 setFocus("{tagName='INPUT' type='text' id='m'}");
 typeText("{tagName='INPUT' type='text' id='m'}", "cd");
 pressKeys("<Tab><Tab><Tab>");

@@ -9,6 +9,9 @@
   var chainLength = 0;
   // The key that may have an effect yet: its event, the element that had the focus, the watcher of its document.
   var last = null;
+  // What the browser does with these is no act in the page, or is recorded as one of its own, such as a reload.
+  var browserKeys =
+    /^<(((Ctrl|Shift)\+)?F5|F6|F11|F12|(Ctrl|Meta)\+(Shift\+)?[A-Z0-9]|(Alt|Meta)\+(Left|Right|Home))>$/;
   var Observer = __corvex__nativeFunction(window.MutationObserver);
   var names = {
     Tab: "Tab", Escape: "Esc", Enter: "Return", " ": "Space", ArrowUp: "Up", ArrowDown: "Down", ArrowLeft: "Left",
@@ -79,7 +82,8 @@
       return;
     }
     var isStepInField = last.name.indexOf("Tab>") !== -1 && isTyping(last.source) && focused(last.doc) === last.focused;
-    if (isStepInField) {
+    var isBrowsers = browserKeys.test(last.name) && !last.event.defaultPrevented;
+    if (isStepInField || isBrowsers) {
       chain = last.chainBefore;
     } else if (isLeaving || last.isFollowed || last.watcher.takeRecords().length || last.event.defaultPrevented) {
       send();
