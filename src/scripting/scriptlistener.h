@@ -21,7 +21,8 @@ public:
   virtual void check(const Check& check);
   virtual void log(const QString& text);
   virtual void pageMessage(const PageMessage& message);
-  /// One of a failure belongs to the check or step before it, if that has failed, or else to the error that is told next.
+  /// One of a failure belongs to the check or step before it, if that has failed, or else to the error that is told
+  /// next.
   virtual void picture(const Picture& picture);
   /// The objects of the page of the picture before it, as JSON that its viewer understands. An empty one stands for a
   /// tree that was left out, as there are enough.

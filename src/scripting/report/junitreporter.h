@@ -12,8 +12,8 @@ namespace Corvex::Scripting {
 /// Writes the results as a JUnit XML file, in which each script is a test case, with its checks and what it logged as
 /// its output. One with test functions has a case for each of them instead, and one for its body where that did more
 /// than to define them. Attempts that failed before the last one stand in its cases, as `flakyFailure` and `flakyError`
-/// where that passed, and as `rerunFailure` and `rerunError` where not. The file is complete after every script, so that
-/// it also tells of a run that was cut off.
+/// where that passed, and as `rerunFailure` and `rerunError` where not. The file is complete after every script, so
+/// that it also tells of a run that was cut off.
 class CORVEXSCRIPTING_EXPORT JUnitReporter : public ScriptListener {
 public:
   explicit JUnitReporter(const QString& path) : m_file(path) {}
